@@ -20,13 +20,9 @@
 #include <memory>
 
 class ActivityLog;
-class FolderStaging;
-class ListTableModel;
 class MainWindow;
-class QAction;
-class QMenu;
-class QProgressBar;
-class QTableView;
+class QSettings;
+class ListTableView;
 class Window_Activity_Log;
 class Window_Colors;
 class Window_Data_Copy_Folders;
@@ -41,6 +37,7 @@ class MainWindow;
 }
 namespace runner {
 class ToolRun;
+struct ToolEnd;
 }
 
 /// What the controller needs of the machine around it. The defaults are a person's machine; tests
@@ -121,6 +118,7 @@ public:
     Ui::MainWindow *const ui; ///< every interface element under its given name
     Surroundings around;
     ActivityLog *const activityLog;
+    const std::unique_ptr<QSettings> preferences;
 
     // ---- Start and end (app/)
     void awakeFromNib();
@@ -131,7 +129,10 @@ public:
     void Terminate_App();
     static bool applicationShouldTerminateAfterLastWindowClosed() { return true; }
     static QSize windowWillResize_toSize(QSize proposed); ///< at least 700 x 400
-    void setPreference(const QString &key, const QString &value);
+    bool makeWorkingFolders(); ///< false: one could not be made, and the person has been told
+    void storeFirstRunFormats();
+    void setPreference(const QString &key, const QString &value); ///< written to disk at once
+    void savePreferences();
     QString preference(const QString &key) const; ///< null when absent
 
     // ---- Menus (app/)
@@ -143,6 +144,10 @@ public:
     void OnMenuHelpPrivacyPolicy();
     void OnMenuHelpAbout();
     void OnMenuActivityLog();
+    void connectMenus();
+    void connectLists();
+    void connectTools();
+    static void arrangeColumns(ListTableView *table, int wideColumn);
 
     // ---- Project types, modes and tabs (app/)
     void ShowNewDiscWindow();
@@ -164,6 +169,13 @@ public:
     void OnMenuTabISO();
     void OnMenuTabTools();
     void OnBtnBurn();
+    void setModeDefaults();
+    void chooseVariant(int code); ///< what a mode button of the project type does
+    void markVariant(int code); ///< borders its mode button alone in its tab
+    void emptyAllLists();
+    void showTab(int index);
+    void didSelectTab(int index); ///< what follows from showing a tab
+    void offerListActions(int tab); ///< enables the menu items that the tab has a use for
     QString selectedPage() const; ///< identifier of the selected tab, "1" to "5"
 
     // ---- Drives and media (drives/)
@@ -178,6 +190,8 @@ public:
     bool IsMediaOneTimeWritable();
     bool IsMediaReWritable();
     QString TypeOfMediaInTheDrive();
+    void chooseDrive(int slot); ///< 0..5
+    void offerVirtualDrive(); ///< shows or hides what only a virtual recorder can do
     void OnMenuDriveInsertBlank(const QString &kind); ///< virtual recorders only; "none" removes the disc
     void OnMenuDriveShowDiscs();
     bool isVirtualRecorderSelected() const;
@@ -212,16 +226,18 @@ public:
     void moveSelectedEntries(int by); ///< up (-1) or down (1) in the list of the selected tab
 
     // ---- Tables, sorting, gauge (compilation/)
-    qsizetype numberOfRowsInTableView(const QTableView *table) const;
-    void tableView_sortDescriptorsDidChange(QTableView *table);
+    qsizetype numberOfRowsInTableView(const ListTableView *table) const;
+    void tableView_sortDescriptorsDidChange(ListTableView *table);
     void refreshTableAudioFiles();
     void refreshTableVideoFiles();
     void refreshTableDataFolders();
     void PaintSpaceOccupiedControl();
     QColor cellTextColour() const;
+    ListTableView *selectedTable() const; ///< of the selected tab, null on a tab without a list
 
     // ---- Running tools (runner/)
-    QByteArray captureTool(const QString &program, const QStringList &arguments); ///< blocks; any thread
+    QByteArray captureTool(const QString &program, const QStringList &arguments,
+                           runner::ToolEnd *end = nullptr); ///< blocks; any thread
     using Observer = void (AppDelegate::*)();
     /// What a background run is watched for beside its end: `drutil` runs have their output logged.
     enum class Output { Observed, Ignored };

@@ -1,0 +1,104 @@
+#include "compilation/ListTableView.h"
+
+#include <QDragEnterEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPainter>
+
+#include <algorithm>
+
+ListTableView::ListTableView(QWidget *parent) : QTableView(parent)
+{
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTextElideMode(Qt::ElideMiddle);
+    setTabKeyNavigation(false);
+    setAcceptDrops(true);
+    setDragDropMode(DropOnly);
+    setDropIndicatorShown(false);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 12);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    connect(this, &QTableView::doubleClicked, this, &ListTableView::rowOpened);
+}
+
+QList<int> ListTableView::selectedRows() const
+{
+    QList<int> rows;
+    if (!selectionModel())
+        return rows;
+    for (const QItemSelectionRange &range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.append(row);
+    }
+    std::ranges::sort(rows);
+    rows.erase(std::ranges::unique(rows).begin(), rows.end());
+    return rows;
+}
+
+void ListTableView::selectRows(const QList<int> &rows)
+{
+    QItemSelection selection;
+    for (const int row : rows)
+        selection.select(model()->index(row, 0), model()->index(row, model()->columnCount() - 1));
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (!rows.isEmpty())
+        selectionModel()->setCurrentIndex(model()->index(rows.last(), 0), QItemSelectionModel::NoUpdate);
+}
+
+int ListTableView::lastSelectedRow() const
+{
+    const QList<int> rows = selectedRows();
+    const int current = currentIndex().row();
+    if (rows.contains(current))
+        return current;
+    return rows.isEmpty() ? -1 : rows.last();
+}
+
+void ListTableView::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (!model() || model()->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    QColor hint = palette().color(QPalette::Text);
+    hint.setAlphaF(0.7F);
+    painter.setPen(hint);
+    painter.drawText(viewport()->rect().adjusted(16, 16, -16, -16), Qt::AlignCenter | Qt::TextWordWrap, m_emptyHint);
+}
+
+void ListTableView::keyPressEvent(QKeyEvent *event)
+{
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && currentIndex().isValid())
+        Q_EMIT rowOpened();
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void ListTableView::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void ListTableView::dragMoveEvent(QDragMoveEvent *event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void ListTableView::dropEvent(QDropEvent *event)
+{
+    if (!event->mimeData()->hasUrls())
+        return;
+    event->acceptProposedAction();
+    Q_EMIT filesDropped(event->mimeData()->urls());
+}

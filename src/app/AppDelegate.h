@@ -40,6 +40,10 @@ class ToolRun;
 struct ToolEnd;
 }
 
+namespace writing {
+struct CopyState;
+}
+
 /// What the controller needs of the machine around it. The defaults are a person's machine; tests
 /// and the batch form put their own in.
 struct Surroundings {
@@ -81,16 +85,20 @@ public:
     qint64 i_Data_Total_Size_in_KBytes = 0;
     bool m_b_Col1_Ascenging = true, m_b_Col2_Ascenging = false, m_b_Col3_Ascenging = false, m_b_Col4_Ascenging = false;
 
+    QList<std::shared_ptr<writing::CopyState>> stagingCopies; ///< folder copies of the present data disc
+
     // ---- State: drive, formats, debug
     QString s_Current_Drive_Number;
     QString s_Video_Output_Format, s_Audio_Output_Format; ///< "0" NTSC, Dolby Digital; anything else PAL, MPEG audio
     bool m_b_Debug_Mode = false;
 
     // ---- State: the running tool
+    QPointer<runner::ToolRun> observed; ///< the child whose output and end are being watched
     bool terminated = false; ///< the transcoder of this round has ended
     QString s_Orig_Duration;
     quint64 i_Orig_Duration_in_Seconds = 0; ///< of the file being transcoded
     quint64 u_Duration_Segment_in_Seconds = 0, u_Duration_All_Segments_in_Seconds = 0;
+    qsizetype jobStart = 0; ///< where the present job begins in the activity log
     quint64 u_Type_Progress = 0; ///< 1 audio, 0 video, else progress is not read
 
     // ---- State: appearance; an invalid colour is one whose stored value could not be read
@@ -186,6 +194,7 @@ public:
     void OnMenuDriveSlot4();
     void OnMenuDriveSlot5();
     void OnMenuDriveSlot6();
+    QString driveStatus(); ///< what the disc utility prints of the current drive's medium
     bool IsDriveEmpty();
     bool IsMediaOneTimeWritable();
     bool IsMediaReWritable();
@@ -199,9 +208,20 @@ public:
     // ---- Records and measurements (compilation/)
     QString GetMediaFileDuration(const QString &path); ///< any thread; runs the transcoder and waits
     static qint64 Return_Seconds_From_Duration_Str(const QString &duration);
-    static quint64 folderSize(const QString &path);
+    static quint64 folderSize(const QString &path); ///< bytes below a folder, links followed; walks the tree
 
     // ---- Adding and removing (compilation/)
+    enum class ListKind { Audio, Video };
+    static const QStringList &acceptedExtensions(ListKind kind);
+    void pickMediaFiles(ListKind kind);
+    void pickMediaFolder(ListKind kind);
+    void addMediaFiles(ListKind kind, const QList<QUrl> &urls); ///< returns at once; addingEnded() follows
+    void addMediaFolder(ListKind kind, const QString &folder);
+    void mediaFileMeasured(ListKind kind, const QList<NodeMediaFile> &records, qsizetype count);
+    void addDataFolder(const QString &path);
+    template <class Record>
+    void deleteSelected(const ListTableView *table, QList<Record> &list);
+    void playSelected(const ListTableView *table);
     void OnActionAudioAddFiles();
     void OnActionAudioAddFolder();
     void OnActionAudioDelete();
@@ -228,6 +248,9 @@ public:
     // ---- Tables, sorting, gauge (compilation/)
     qsizetype numberOfRowsInTableView(const ListTableView *table) const;
     void tableView_sortDescriptorsDidChange(ListTableView *table);
+    void reorderList(const ListTableView *table, const QList<qsizetype> &order, QList<int> &selected);
+    static void reloadTable(ListTableView *table);
+    void refreshTable(const ListTableView *table); ///< the list kind's refresh
     void refreshTableAudioFiles();
     void refreshTableVideoFiles();
     void refreshTableDataFolders();
@@ -243,12 +266,15 @@ public:
     enum class Output { Observed, Ignored };
     void runInBackground(const QString &program, const QStringList &arguments, Observer atEnd, Output output);
     void transcodeAndWait(const QStringList &arguments); ///< a nested run of the event loop
+    void removeObservers(); ///< no handler of an earlier run can fire any more
     void outData(runner::ToolRun *tool);
     void errData(runner::ToolRun *tool);
+    void showProgress(const QString &piece); ///< of the transcoder's standard error
     void transcoderTerminated();
-    void dataReady(const QByteArray &data);
-    void dataAvailable();
+    void dataReady(const QByteArray &data); ///< all that a background run printed, at its end
+    void dataAvailable(const QByteArray &data);
     void taskTerminated();
+    void finishWriting(const QString &workingFolder);
     void AudioBurnTerminated();
     void VideoBurnTerminated();
     void dataBurnTerminated();
@@ -264,6 +290,16 @@ public:
     void schedule(QPointer<QTimer> &timer, TimerRoutine routine); ///< one shot after 0.1 s, replacing a pending one
 
     // ---- Writing discs (writing/)
+    /// What the three forms of every kind of disc have in common: the checks before a job.
+    struct DiscForm;
+    bool mayWrite(const DiscForm &form, bool listIsEmpty); ///< false: an alert has told why not
+    struct AudioForm;
+    void burnAudio(const AudioForm &form);
+    void burnVideo(const DiscForm &form);
+    void burnData(const DiscForm &form);
+    /// Converts every listed file with the arguments that `argumentsFor` gives, behind the progress sheet.
+    void convertList(quint64 progressMode, const std::function<QStringList(const NodeMediaFile &)> &argumentsFor);
+    void beginJob(); ///< what the operation-complete sheet reports begins here
     void Burn_Audio_CD();
     void Burn_Audio_MP3_CD();
     void Burn_Audio_MP3_DVD();
@@ -281,14 +317,18 @@ public:
     void Show_Window_Video_Settings();
     void Close_Window_Video_Settings();
     void DuplicateMedia();
+    QString duplicationImage() const;
+    bool promptForBlank(); ///< false: the person gave up
     void TimerDuplicateMediaCopy();
     void OnActionISOCreate();
     void TimerCreateISOStep1Routine();
     void TimerCreateISOStep2Routine();
     void TimerCreateISOStep3Routine();
+    void isoMakingTerminated();
     void OnActionISOBurn();
 
     // ---- Disc tools (tools/)
+    void eraseDisc(const QString &extent); ///< "full" or "quick"
     void OnToolsFormatRWMedia();
     void OnToolsFormatFull();
     void OnToolsFormatQuick();

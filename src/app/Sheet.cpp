@@ -70,3 +70,12 @@ void Sheet::placeOverParent()
     const QPoint corner = owner->mapToGlobal(QPoint((owner->width() - width()) / 2, owner->height() / 7));
     move(corner);
 }
+
+SheetHeading::SheetHeading(QWidget *parent) : QLabel(parent)
+{
+    QFont heading = font();
+    heading.setBold(true);
+    heading.setPointSizeF(heading.pointSizeF() * 1.15);
+    setFont(heading);
+    setWordWrap(true);
+}

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QLabel>
 
 /// The base of all sheets. It hangs below the top of its parent window, frameless, and is modal to
 /// that window only. Escape and closing do what Cancel would; a sheet without Cancel stays. Quitting
@@ -36,4 +37,11 @@ private:
     void placeOverParent();
 
     const Dismiss m_dismiss;
+};
+
+/// The heading of a sheet: what is happening, or what is asked.
+class SheetHeading : public QLabel {
+    Q_OBJECT
+public:
+    explicit SheetHeading(QWidget *parent = nullptr);
 };

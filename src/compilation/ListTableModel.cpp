@@ -25,7 +25,7 @@ int ListTableModel::columnCount(const QModelIndex &parent) const
 {
     if (parent.isValid())
         return 0;
-    return m_kind == Kind::Media ? MediaColumnCount : DataColumnCount;
+    return m_kind == Kind::Media ? int(MediaColumnCount) : int(DataColumnCount);
 }
 
 QString ListTableModel::text(int row, int column) const

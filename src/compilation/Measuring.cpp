@@ -1,8 +1,5 @@
 #include "compilation/Measuring.h"
 
-#include "compilation/FolderTree.h"
-
-#include <QFile>
 #include <QFileInfo>
 #include <QStringDecoder>
 
@@ -88,9 +85,8 @@ NodeMediaFile mediaRecord(const QUrl &url, const QString &path)
     return record;
 }
 
-NodeDataFolder folderRecord(const QString &path)
+NodeDataFolder folderRecord(const QString &path, quint64 bytes)
 {
-    const quint64 bytes = treeSize(QFile::encodeName(path).toStdString());
     return {path, static_cast<qint64>(bytes >> 10), sizeText(bytes)};
 }
 

@@ -38,7 +38,7 @@ QStringList splitStringIntoChars(const QString &text);
 /// The record of the file at `path`, all but its duration. Any thread.
 NodeMediaFile mediaRecord(const QUrl &url, const QString &path);
 
-/// The record of the folder at `path`, measured. Walks the whole tree.
-NodeDataFolder folderRecord(const QString &path);
+/// The record of the folder at `path`, which holds `bytes`.
+NodeDataFolder folderRecord(const QString &path, quint64 bytes);
 
 } // namespace compilation

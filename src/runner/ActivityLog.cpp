@@ -1,5 +1,6 @@
 #include "runner/ActivityLog.h"
 
+#include <QFileInfo>
 #include <QMutexLocker>
 #include <QRegularExpression>
 
@@ -14,6 +15,12 @@ QString shellWord(const QString &word)
         return word;
     QString quoted = word;
     return u'\'' + quoted.replace(u'\'', u"'\\''"_s) + u'\'';
+}
+
+QString lastLine(const QByteArray &output)
+{
+    const QByteArray lines = output.trimmed();
+    return QString::fromUtf8(lines.mid(qMax(lines.lastIndexOf('\n'), lines.lastIndexOf('\r')) + 1)).left(300);
 }
 
 } // namespace
@@ -76,6 +83,23 @@ Activity ActivityLog::at(qsizetype position) const
 {
     const QMutexLocker lock(&m_mutex);
     return m_activities.at(position);
+}
+
+QStringList ActivityLog::troublesSince(qsizetype position) const
+{
+    QStringList troubles;
+    const QMutexLocker lock(&m_mutex);
+    for (const Activity &activity : m_activities.mid(position)) {
+        if (!activity.troubled)
+            continue;
+        const QString said = lastLine(activity.output);
+        if (activity.command.isEmpty())
+            troubles.append(activity.outcome + u": "_s + said);
+        else
+            troubles.append(QFileInfo(activity.command.first()).fileName() + u": "_s
+                            + (said.isEmpty() ? activity.outcome : said));
+    }
+    return troubles;
 }
 
 QString ActivityLog::text(const Activity &activity)

@@ -42,6 +42,10 @@ public:
     qsizetype size() const;
     Activity at(qsizetype position) const;
 
+    /// One line for each run from `position` on that did not end well: the tool, what it said last,
+    /// or how it ended.
+    QStringList troublesSince(qsizetype position) const;
+
     /// The whole log, or one run, as text to copy or save.
     QString text() const;
     static QString text(const Activity &activity);

@@ -90,6 +90,11 @@ QByteArray ToolRun::take(ProcessChannel channel)
     return piece;
 }
 
+QByteArray ToolRun::output() const
+{
+    return m_log->at(m_position).output;
+}
+
 ToolEnd ToolRun::endOfChild() const
 {
     if (error() == FailedToStart)
@@ -104,6 +109,7 @@ void ToolRun::finish(const ToolEnd &end)
     if (m_finished)
         return;
     m_finished = true;
+    m_end = end;
     take(StandardOutput);
     if (processChannelMode() == SeparateChannels)
         take(StandardError);

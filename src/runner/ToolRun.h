@@ -45,6 +45,12 @@ public:
     /// so far is the answer. Of more than 64 MiB the rest is dropped.
     QByteArray capture(int limit);
 
+    /// How the child ended; meaningful after ended() or capture().
+    const ToolEnd &end() const { return m_end; }
+    bool hasEnded() const { return m_finished; }
+    /// All output so far, as far as the log keeps it.
+    QByteArray output() const;
+
     /// Takes what has arrived on a channel, into the log as well.
     QByteArray take(ProcessChannel channel);
 
@@ -57,6 +63,7 @@ private:
 
     ActivityLog *m_log;
     qsizetype m_position = -1;
+    ToolEnd m_end;
     bool m_finished = false;
 };
 

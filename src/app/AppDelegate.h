@@ -341,6 +341,7 @@ public:
     void OK_Window_Colors();
     void Cancel_Window_Colors();
     void loadColourScheme();
+    void paintTableBackgrounds(bool alternating);
     void TimerSetAlternatingRowsRoutine();
     void TimerForceColorsAtStartupRoutine();
 

@@ -26,8 +26,25 @@ ListTableView::ListTableView(QWidget *parent) : QTableView(parent)
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 12);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setFixedHeight(fontMetrics().height() + 12);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     connect(this, &QTableView::doubleClicked, this, &ListTableView::rowOpened);
+}
+
+void ListTableView::setGround(const QColor &ground)
+{
+    if (!ground.isValid())
+        return setPalette({});
+    const bool isDark = ground.lightness() < 128;
+    QPalette colours = palette();
+    colours.setColor(QPalette::Base, ground);
+    // Lightening leaves black as it is, so the second ground is a mixture with the text.
+    const QColor text = isDark ? Qt::white : Qt::black;
+    const auto mixed = [](int a, int b) { return (a * 15 + b) / 16; };
+    colours.setColor(QPalette::AlternateBase, QColor(mixed(ground.red(), text.red()), mixed(ground.green(), text.green()),
+                                                     mixed(ground.blue(), text.blue())));
+    colours.setColor(QPalette::Text, text);
+    setPalette(colours);
 }
 
 QList<int> ListTableView::selectedRows() const

@@ -15,6 +15,9 @@ public:
     QString emptyHint() const { return m_emptyHint; }
     void setEmptyHint(const QString &hint) { m_emptyHint = hint; }
 
+    /// The colour behind the rows; an invalid one leaves the desktop's own.
+    void setGround(const QColor &ground);
+
     /// The column whose heading was pressed last and is to be sorted by; -1: none.
     int selectedColumn() const { return m_selectedColumn; }
     void setSelectedColumn(int column) { m_selectedColumn = column; }

@@ -21,6 +21,8 @@ struct AudioDisc;
 
 namespace engine::drive {
 
+class BlockDigests;
+
 constexpr std::size_t blockBytes = 2048; ///< bytes of a block of a data disc
 
 /// How an operation tells of itself and learns that it shall stop. Both functions are called on the
@@ -77,12 +79,10 @@ public:
     /// Erases or formats the medium. It must be one of those that canErase() is true for.
     virtual Result<void> erase(EraseMode mode, const Control &control) = 0;
 
-    /// Writes `data` from the first block on and closes the disc. The medium must be writable from its
-    /// start now and large enough. `sent` sees every block in order as it goes out, on another thread.
-    /// An error says in which state the disc is left.
-    virtual Result<void> writeData(DiscData &data,
-        const std::function<void(std::span<const std::byte>)> &sent, const std::function<void()> &restarted,
-        const Control &control) = 0;
+    /// Writes `data` from the first block on, closes the disc and notes every block that went out in
+    /// `sent`. The medium must be writable from its start now and large enough. An error says in which state
+    /// the disc is left.
+    virtual Result<void> writeData(DiscData &data, BlockDigests &sent, const Control &control) = 0;
 
     /// Writes all tracks of an audio disc, session at once. The medium must be a blank CD.
     virtual Result<void> writeAudio(const audio::AudioDisc &disc, const Control &control) = 0;
@@ -93,6 +93,9 @@ public:
     /// Fills `buffer` (whole blocks) from `block` on. Returns the number of bytes that were readable, which
     /// is less than its size where a block cannot be read.
     virtual Result<std::size_t> read(std::uint64_t block, std::span<std::byte> buffer) = 0;
+
+    /// Lets the rest of the system see the new content, and gives the drive back. The last call.
+    virtual void present() = 0;
 };
 
 /// One drive of the machine. Cheap: nothing is opened before a verb needs it.

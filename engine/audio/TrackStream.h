@@ -9,7 +9,9 @@
 #include <memory>
 #include <string>
 
+namespace burn {
 struct burn_source;
+}
 
 namespace engine::audio {
 
@@ -42,7 +44,7 @@ private:
 /// The caller owns the reference (burn_source_free). When a read fails, the source returns -1 and
 /// `outcome` holds the error; it is shared with the caller and must not be read while libburn
 /// writes.
-burn_source *newTrackSource(TrackStream track, std::uint32_t sectors, std::shared_ptr<Result<void>> outcome);
+burn::burn_source *newTrackSource(TrackStream track, std::uint32_t sectors, std::shared_ptr<Result<void>> outcome);
 
 /// Writes the pause of track 1 and all tracks to `fd`: the .bin file that cueSheet() describes.
 /// `progress` is told the sectors written so far and ends the writing (Exit::interrupted) by

@@ -9,7 +9,9 @@
 #include <string>
 #include <vector>
 
+namespace burn {
 struct burn_source;
+}
 
 namespace engine::image {
 
@@ -57,7 +59,7 @@ public:
     /// The image as the data of a libburn track. Owned by this object; libburn takes references
     /// of its own (burn_track_set_source), and those stay valid when this object is gone. Reads of
     /// any size are served; a read returns -1 when a file fails, and outcome() then says which.
-    burn_source *burnSource();
+    burn::burn_source *burnSource();
 
     /// How the streaming through burnSource() went so far: an error that names the file which
     /// could not be read or became shorter. May be asked from any thread.
@@ -69,8 +71,10 @@ public:
 
 private:
     class Stream;
+    struct Outlet;
     explicit IsoImage(std::shared_ptr<Stream> stream);
     std::shared_ptr<Stream> m_stream;
+    burn::burn_source *m_source = nullptr; ///< made by burnSource()
 };
 
 } // namespace engine::image

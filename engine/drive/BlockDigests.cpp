@@ -45,7 +45,8 @@ std::size_t BlockDigests::matching(std::uint64_t first, std::span<const std::byt
     return good;
 }
 
-Result<void> verify(Lease &lease, const BlockDigests &sent, const std::string &driveName, const Control &control)
+Result<void> verify(
+    Lease &lease, const BlockDigests &sent, const std::string &driveName, const Control &control)
 {
     std::vector<std::byte> buffer(readBlocks * blockBytes);
     report::Progress progress;
@@ -53,7 +54,8 @@ Result<void> verify(Lease &lease, const BlockDigests &sent, const std::string &d
     progress.total = sent.blocks();
     for (std::uint64_t block = 0; block < sent.blocks();) {
         if (const int signal = control.stopped())
-            return stoppedBy(signal, "Stopped: the disc in " + driveName + " is written, but was not compared.");
+            return stoppedBy(
+                signal, "Stopped: the disc in " + driveName + " is written, but was not compared.");
         progress.done = block;
         control.report(progress, blockBytes);
         const auto count = std::min<std::uint64_t>(readBlocks, sent.blocks() - block);

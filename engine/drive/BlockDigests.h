@@ -31,6 +31,7 @@ private:
 
 /// Reads the disc back and compares it with what was sent. The error names the first block that differs or
 /// cannot be read; a stop signal ends it.
-Result<void> verify(Lease &lease, const BlockDigests &sent, const std::string &driveName, const Control &control);
+Result<void> verify(
+    Lease &lease, const BlockDigests &sent, const std::string &driveName, const Control &control);
 
 } // namespace engine::drive

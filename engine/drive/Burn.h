@@ -16,6 +16,11 @@ struct BurnOptions {
 };
 
 /// Writes the content of `folder` as the root of a data disc (ISO 9660 level 3, Joliet, Rock Ridge, closed).
+///
+/// This and the two below check the medium and the exact size before anything is written (the error has
+/// both figures and leaves the disc as it is), erase a rewritable medium that is not blank, and write. Data
+/// are read back and compared. Errors: Exit::noDisc for an empty drive, else Exit::failed or the
+/// signal's exit code.
 Result<void> burnFolder(Drive &drive, const std::string &folder, const BurnOptions &options);
 
 /// Writes the WAVE files directly in `folder` as an audio CD.
@@ -26,11 +31,6 @@ Result<void> burnImageFile(Drive &drive, const std::string &image, const BurnOpt
 
 /// Erases the medium in `drive`.
 Result<void> eraseMedium(Drive &drive, EraseMode mode, const Control &control);
-
-/// The part that burnFolder() and burnImageFile() share. Checks the medium and the size (an error has
-/// both figures and leaves the disc as it is), erases a rewritable one that is not blank, writes,
-/// reads back. Errors: Exit::noDisc for an empty drive, else Exit::failed or the signal's exit code.
-Result<void> burnData(Drive &drive, DiscData &data, const BurnOptions &options);
 
 /// Catches SIGINT, SIGTERM and ignores SIGHUP and SIGPIPE as long as it lives: a signal is noted, no system
 /// call is broken off, and the operation ends in its own way. One at a time.

@@ -15,7 +15,7 @@ namespace {
 
 std::string groupOf(const std::string &device)
 {
-    struct stat info {};
+    struct stat info { };
     if (::stat(device.c_str(), &info) != 0)
         return {};
     const group *entry = ::getgrgid(info.st_gid);
@@ -24,7 +24,8 @@ std::string groupOf(const std::string &device)
 
 } // namespace
 
-Error openError(const std::string &device, const std::string &driveName, int failure, const std::string &group)
+Error openError(
+    const std::string &device, const std::string &driveName, int failure, const std::string &group)
 {
     switch (failure) {
     case EBUSY:
@@ -33,8 +34,9 @@ Error openError(const std::string &device, const std::string &driveName, int fai
     case EACCES:
     case EPERM:
         return { Exit::failed,
-            "You may not use " + device + " (" + driveName + "): log in at this machine itself, or have yourself added"
-                + " to the group " + group + " and log in again." };
+            "You may not use " + device + " (" + driveName
+                + "): log in at this machine itself, or have yourself added" + " to the group " + group
+                + " and log in again." };
     case ENOENT:
     case ENODEV:
     case ENXIO:

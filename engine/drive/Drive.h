@@ -13,7 +13,9 @@
 #include <span>
 #include <string>
 
+namespace burn {
 struct burn_source;
+}
 
 namespace engine::audio {
 struct AudioDisc;
@@ -50,7 +52,7 @@ public:
 
     /// A stream from the first block on, owned by this object until the next call. It may be asked for
     /// again, for another attempt at writing.
-    virtual Result<burn_source *> start() = 0;
+    virtual Result<burn::burn_source *> start() = 0;
 
     /// How the stream went: an error names the file that could not be read or became shorter.
     virtual Result<void> outcome() const = 0;

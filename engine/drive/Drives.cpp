@@ -77,13 +77,15 @@ Result<std::unique_ptr<Drive>> driveNumbered(std::string_view number)
     if (!drives)
         return drives.error();
     if (drives->empty())
-        return Error { Exit::noDisc, "There is no drive: connect one, or let 'drutil list' make a virtual recorder." };
+        return Error{ Exit::noDisc,
+            "There is no drive: connect one, or let 'drutil list' make a virtual recorder." };
     if (number.empty() && drives->size() > 1)
-        return Error { Exit::usage,
+        return Error{ Exit::usage,
             "There are " + std::to_string(drives->size()) + " drives: say which one with -drive N." };
     const std::size_t index = number.empty() ? 0 : report::driveIndex(number).value_or(report::maximumDrives);
     if (index >= drives->size())
-        return Error { Exit::noDisc, "There is no drive of that number: 'drutil list' shows those there are." };
+        return Error{ Exit::noDisc,
+            "There is no drive of that number: 'drutil list' shows those there are." };
     return std::move((*drives)[index]);
 }
 
@@ -101,7 +103,8 @@ Result<std::unique_ptr<Drive>> defaultBurner()
         if (medium && (report::canWriteNow(*medium) || report::canErase(*medium)))
             return std::move(drive);
     }
-    return Error { Exit::noDisc, "No drive holds a disc that can be written: insert a blank or erasable one." };
+    return Error{ Exit::noDisc,
+        "No drive holds a disc that can be written: insert a blank or erasable one." };
 }
 
 } // namespace engine::drive

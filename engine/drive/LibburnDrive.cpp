@@ -12,12 +12,14 @@
 
 namespace engine::drive {
 
+using namespace burn;
+
 namespace {
 
 using namespace std::chrono_literals;
 
 /// libburn takes names as char * that it does not change.
-char *name(const char *text)
+char *unchanged(const char *text)
 {
     return const_cast<char *>(text);
 }
@@ -30,7 +32,7 @@ bool openLibrary()
             : ready(burn_initialize() != 0)
         {
             if (ready)
-                burn_msgs_set_severities(name("SORRY"), name("NEVER"), name(""));
+                burn_msgs_set_severities(unchanged("SORRY"), unchanged("NEVER"), unchanged(""));
         }
         ~Library()
         {
@@ -91,14 +93,14 @@ struct OptionsFree {
 };
 using Options = std::unique_ptr<burn_write_opts, OptionsFree>;
 
-Options optionsFor(burn_drive *drive, WriteMode mode, bool audio)
+Options optionsFor(burn_drive *drive, WriteMode mode)
 {
     Options options(burn_write_opts_new(drive));
     if (!options)
         return options;
     const bool atOnce = mode == WriteMode::sessionAtOnce;
-    burn_write_opts_set_write_type(options.get(), atOnce ? BURN_WRITE_SAO : BURN_WRITE_TAO,
-        atOnce ? BURN_BLOCK_SAO : audio ? BURN_BLOCK_AUDIO : BURN_BLOCK_MODE1);
+    burn_write_opts_set_write_type(
+        options.get(), atOnce ? BURN_WRITE_SAO : BURN_WRITE_TAO, atOnce ? BURN_BLOCK_SAO : BURN_BLOCK_MODE1);
     burn_write_opts_set_underrun_proof(options.get(), 1);
     burn_write_opts_set_perform_opc(options.get(), 0);
     burn_write_opts_set_multi(options.get(), 0);
@@ -151,14 +153,14 @@ Result<std::unique_ptr<LibburnDrive>> LibburnDrive::grab(
     const std::string &address, const std::string &name, bool exclusive, bool load)
 {
     if (!openLibrary())
-        return Error { Exit::failed, "libburn cannot be started; check its installation." };
+        return Error{ Exit::failed, "libburn cannot be started; check its installation." };
     burn_preset_device_open(exclusive ? 1 : 0, 0, 0);
     takeMessage();
     burn_drive_info *infos = nullptr;
     std::string writable = address;
     if (burn_drive_scan_and_grab(&infos, writable.data(), load ? 1 : 0) <= 0) {
         const LibburnMessage message = takeMessage();
-        return Error { Exit::failed,
+        return Error{ Exit::failed,
             "The device of " + name + " cannot be opened"
                 + (message.text.empty() ? std::string(".") : ": " + message.text) };
     }
@@ -192,11 +194,11 @@ void LibburnDrive::release(bool eject)
 LibburnMessage LibburnDrive::takeMessage()
 {
     LibburnMessage first;
-    std::array<char, BURN_MSGS_MESSAGE_LEN> text {};
-    std::array<char, 80> severity {};
+    std::array<char, BURN_MSGS_MESSAGE_LEN> text{};
+    std::array<char, 80> severity{};
     int code = 0;
     int failure = 0;
-    while (burn_msgs_obtain(name("SORRY"), &code, text.data(), &failure, severity.data()) > 0)
+    while (burn_msgs_obtain(unchanged("SORRY"), &code, text.data(), &failure, severity.data()) > 0)
         if (first.text.empty())
             first = { code, failure, text.data() };
     return first;
@@ -208,7 +210,7 @@ LibburnDrive::Outcome LibburnDrive::wait(report::Phase busy, report::Family fami
     Outcome outcome;
     auto pause = 1ms;
     bool cancelled = false;
-    burn_progress p {};
+    burn_progress p{};
     for (burn_drive_status status; (status = burn_drive_get_status(handle(), &p)) != BURN_DRIVE_IDLE;) {
         if (status != BURN_DRIVE_SPAWNING) {
             outcome.sectors = std::max(outcome.sectors, static_cast<std::uint64_t>(std::max(p.sector, 0)));
@@ -230,26 +232,27 @@ LibburnDrive::Outcome LibburnDrive::wait(report::Phase busy, report::Family fami
     return outcome;
 }
 
-LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, WriteMode mode, report::Family family,
-    const std::function<bool()> &sourceFailed, const Control &control)
+LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, WriteMode mode,
+    report::Family family, const std::function<bool()> &sourceFailed, const Control &control)
 {
     takeMessage();
     const bool audio = !tracks.empty() && tracks.front().audio;
     const Layout layout(tracks);
-    const Options options = optionsFor(handle(), mode, audio);
+    const Options options = optionsFor(handle(), mode);
     Outcome refused;
     if (!options) {
         refused.message.text = "out of memory";
         return refused;
     }
-    std::array<char, BURN_REASONS_LEN> reasons {};
+    std::array<char, BURN_REASONS_LEN> reasons{};
     if (burn_precheck_write(options.get(), layout.disc(), reasons.data(), 1) <= 0) {
         takeMessage();
         refused.message.text = reasons.data();
         return refused;
     }
     burn_disc_write(options.get(), layout.disc());
-    return wait(report::Phase::writing, family, audio ? audio::sectorSize : blockBytes, sourceFailed, control);
+    return wait(
+        report::Phase::writing, family, audio ? audio::sectorSize : blockBytes, sourceFailed, control);
 }
 
 LibburnDrive::Outcome LibburnDrive::waitForErase(const Control &control)

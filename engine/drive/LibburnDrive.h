@@ -12,9 +12,11 @@
 #include <string>
 #include <vector>
 
+namespace burn {
 struct burn_drive;
 struct burn_drive_info;
 struct burn_write_opts;
+} // namespace burn
 
 namespace engine::drive {
 
@@ -49,7 +51,7 @@ public:
     LibburnDrive(const LibburnDrive &) = delete;
     LibburnDrive &operator=(const LibburnDrive &) = delete;
 
-    burn_drive *handle() const;
+    burn::burn_drive *handle() const;
     const std::string &name() const { return m_name; }
 
     /// Gives the drive back now, with its tray opened if `eject`.
@@ -69,8 +71,8 @@ public:
     Outcome write(const std::vector<Track> &tracks, WriteMode mode, report::Family family,
         const std::function<bool()> &sourceFailed, const Control &control);
 
-    /// Waits for an erase or a format that was started. Neither can be broken off safely (MMC-6 6.2), so a stop
-    /// signal is only noted.
+    /// Waits for an erase or a format that was started. Neither can be broken off safely (MMC-6 6.2), so a
+    /// stop signal is only noted.
     Outcome waitForErase(const Control &control);
 
     /// Reads from `block` on; the number of bytes until the first that could not be read.
@@ -80,11 +82,11 @@ public:
     static LibburnMessage takeMessage();
 
 private:
-    LibburnDrive(burn_drive_info *infos, std::string name);
+    LibburnDrive(burn::burn_drive_info *infos, std::string name);
     Outcome wait(report::Phase busy, report::Family family, unsigned unitBytes,
         const std::function<bool()> &sourceFailed, const Control &control);
 
-    burn_drive_info *m_infos;
+    burn::burn_drive_info *m_infos;
     std::string m_name;
     bool m_grabbed = true;
 };

@@ -1,5 +1,7 @@
 #include "drive/Mounts.h"
 
+#include "base/Words.h"
+
 #include <array>
 #include <cerrno>
 #include <chrono>
@@ -69,7 +71,7 @@ std::vector<std::string> mountPointsIn(std::string_view mountInfo, unsigned majo
 {
     const std::string wanted = std::to_string(major) + ':' + std::to_string(minor);
     std::vector<std::string> points;
-    std::istringstream lines { std::string(mountInfo) };
+    std::istringstream lines{ std::string(mountInfo) };
     for (std::string line; std::getline(lines, line);) {
         std::istringstream fields(line);
         std::string id, parent, device, root, point;
@@ -81,11 +83,11 @@ std::vector<std::string> mountPointsIn(std::string_view mountInfo, unsigned majo
 
 std::vector<std::string> mountPoints(const std::string &device)
 {
-    struct stat info {};
+    struct stat info { };
     if (::stat(device.c_str(), &info) != 0 || !S_ISBLK(info.st_mode))
         return {};
     std::ifstream file("/proc/self/mountinfo", std::ios::binary);
-    const std::string text { std::istreambuf_iterator<char>(file), {} };
+    const std::string text{ std::istreambuf_iterator<char>(file), {} };
     return mountPointsIn(text, major(info.st_rdev), minor(info.st_rdev));
 }
 
@@ -97,8 +99,8 @@ Result<void> unmount(const std::string &device, const std::string &driveName)
             run({ "umount", "--", device });
         const auto left = mountPoints(device);
         if (left.size() >= points.size())
-            return Error { Exit::failed,
-                "The disc in " + driveName + " is mounted at " + left.front()
+            return Error{ Exit::failed,
+                "The disc in " + driveName + " is mounted at " + engine::quoted(left.front())
                     + " and cannot be unmounted: close the programs that use it, or unmount it by hand." };
         points = left;
     }

@@ -17,11 +17,14 @@
 
 namespace engine::drive {
 
+using namespace burn;
+
 namespace {
 
 /// A write may be tried in another way as long as the drive took no more than this of it.
 constexpr std::uint64_t harmlessSectors = 512;
-constexpr std::uint64_t headBlocks = 512; ///< what a quick erase overwrites: all volume descriptors and UDF anchors
+constexpr std::uint64_t headBlocks =
+    512; ///< what a quick erase overwrites: all volume descriptors and UDF anchors
 
 class PhysicalLease final : public Lease {
 public:
@@ -83,8 +86,8 @@ Result<void> PhysicalLease::write(Job &job, const report::Medium &medium, const 
         if (!tracks)
             return tracks.error();
         burn_drive_set_speed(m_drive->handle(), 0, attempt.speed);
-        const LibburnDrive::Outcome outcome
-            = m_drive->write(*tracks, attempt.mode, family, job.sourceFailed, control);
+        const LibburnDrive::Outcome outcome =
+            m_drive->write(*tracks, attempt.mode, family, job.sourceFailed, control);
         if (outcome.well)
             return {};
         const bool again = untouched(outcome, medium);
@@ -168,7 +171,8 @@ Result<void> PhysicalLease::formatIfNeeded(const Control &control)
     unsigned spare = 0;
     int formats = 0;
     const int profile = profileOf(*m_drive);
-    if (!needsFormat(profile, burn_disc_get_formats(m_drive->handle(), &status, &size, &spare, &formats) > 0, status))
+    if (!needsFormat(
+            profile, burn_disc_get_formats(m_drive->handle(), &status, &size, &spare, &formats) > 0, status))
         return {};
     constexpr int defaultSize = 3 << 1;
     constexpr int noCertification = 1 << 6;
@@ -177,8 +181,9 @@ Result<void> PhysicalLease::formatIfNeeded(const Control &control)
     if (outcome.signal != 0)
         return stoppedBy(outcome.signal, "Stopped after the disc in " + m_name + " was formatted.");
     if (!outcome.well)
-        return Error { Exit::failed,
-            "The disc in " + m_name + " cannot be formatted (" + outcome.message.text + "): try another disc." };
+        return Error{ Exit::failed,
+            "The disc in " + m_name + " cannot be formatted (" + outcome.message.text
+                + "): try another disc." };
     return reload();
 }
 
@@ -189,11 +194,12 @@ Result<void> PhysicalLease::blank(bool fast, const Control &control)
     burn_disc_erase(m_drive->handle(), fast ? 1 : 0);
     const LibburnDrive::Outcome outcome = m_drive->waitForErase(control);
     if (!outcome.well)
-        return Error { Exit::failed,
+        return Error{ Exit::failed,
             "The disc in " + m_name + " cannot be erased (" + outcome.message.text
                 + "): try a full erase, or another disc." };
     if (outcome.signal != 0)
-        return stoppedBy(outcome.signal, "Stopped after the erase had ended: the disc in " + m_name + " is blank.");
+        return stoppedBy(
+            outcome.signal, "Stopped after the erase had ended: the disc in " + m_name + " is blank.");
     return reload();
 }
 
@@ -219,7 +225,7 @@ Result<void> PhysicalLease::erase(EraseMode mode, const Control &control)
     if (!now)
         return now.error();
     if (!report::canErase(*now))
-        return Error { Exit::failed, "The disc in " + m_name + " cannot be erased: insert a rewritable one." };
+        return Error{ Exit::failed, "The disc in " + m_name + " cannot be erased: insert a rewritable one." };
     // DVD-RW in restricted overwrite can be blanked as well; a quick erase leaves it as it is formatted.
     const bool blankable = report::factsOf(now->kind).rewriting == report::Rewriting::erase;
     if (now->rewriting == report::Rewriting::erase || (blankable && !quick))
@@ -229,7 +235,8 @@ Result<void> PhysicalLease::erase(EraseMode mode, const Control &control)
     const Result<report::Medium> formatted = medium();
     if (!formatted)
         return formatted.error();
-    return overwrite(quick ? std::min(headBlocks, formatted->capacity) : formatted->capacity, *formatted, control);
+    return overwrite(
+        quick ? std::min(headBlocks, formatted->capacity) : formatted->capacity, *formatted, control);
 }
 
 } // namespace
@@ -282,7 +289,8 @@ Result<void> PhysicalDrive::close()
 
 Result<void> PhysicalDrive::insert(report::MediumKind)
 {
-    return Error { Exit::failed, "Discs are put into " + name() + " by hand; insert is for virtual recorders." };
+    return Error{ Exit::failed,
+        "Discs are put into " + name() + " by hand; insert is for virtual recorders." };
 }
 
 } // namespace engine::drive

@@ -57,7 +57,7 @@ std::vector<std::string_view> row(std::string_view table, std::string_view label
 
 bool canWrite(std::string_view cdromInfo, std::string_view name)
 {
-    constexpr std::array labels { "Can write CD-R", "Can write CD-RW", "Can write DVD-R", "Can write DVD-RAM",
+    constexpr std::array labels{ "Can write CD-R", "Can write CD-RW", "Can write DVD-R", "Can write DVD-RAM",
         "Can write RAM" };
     const auto drives = row(cdromInfo, "drive name");
     const auto column = static_cast<std::size_t>(std::ranges::find(drives, name) - drives.begin());
@@ -74,8 +74,8 @@ std::string busOf(const std::string &sysfsPath)
         const char *name;
     };
     // In this order: a USB or FireWire bridge hides an ATA drive behind it.
-    constexpr std::array buses { BusRow { "/usb", "USB" }, BusRow { "/fw", "FireWire" },
-        BusRow { "/session", "iSCSI" }, BusRow { "/ata", "SATA" } };
+    constexpr std::array buses{ BusRow{ "/usb", "USB" }, BusRow{ "/fw", "FireWire" },
+        BusRow{ "/session", "iSCSI" }, BusRow{ "/ata", "SATA" } };
     for (const BusRow &bus : buses)
         if (sysfsPath.find(bus.part) != std::string::npos)
             return bus.name;
@@ -86,7 +86,8 @@ std::vector<PhysicalRecord> physicalRecords(const std::string &classFolder, std:
 {
     std::vector<std::string> names;
     std::error_code failure;
-    for (fs::directory_iterator entry(classFolder, failure), end; !failure && entry != end; entry.increment(failure))
+    for (fs::directory_iterator entry(classFolder, failure), end; !failure && entry != end;
+         entry.increment(failure))
         if (const std::string name = entry->path().filename(); name.starts_with("sr") && name.size() > 2
             && name.find_first_not_of("0123456789", 2) == std::string::npos)
             names.push_back(name);
@@ -99,8 +100,8 @@ std::vector<PhysicalRecord> physicalRecords(const std::string &classFolder, std:
         const std::string path = fs::canonical(base, failure).string();
         const bool writes = canWrite(cdromInfo, name);
         drives.push_back({ "/dev/" + name,
-            { attribute(device + "vendor"), attribute(device + "model"), attribute(device + "rev"), busOf(path),
-                writes ? "Supported" : "Read Only" },
+            { attribute(device + "vendor"), attribute(device + "model"), attribute(device + "rev"),
+                busOf(path), writes ? "Supported" : "Read Only" },
             writes });
     }
     return drives;

@@ -14,6 +14,8 @@
 
 namespace engine::drive {
 
+using namespace burn;
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -57,7 +59,7 @@ std::uint64_t leadOutOf(burn_drive *drive, report::MediumKind kind)
 
 std::uint64_t volumeOn(LibburnDrive &drive)
 {
-    std::array<std::byte, blockBytes> descriptor {};
+    std::array<std::byte, blockBytes> descriptor{};
     if (drive.read(descriptorBlock, descriptor) < descriptor.size())
         return 0;
     return volumeBlocks(descriptor);
@@ -68,7 +70,7 @@ std::uint64_t volumeOn(LibburnDrive &drive)
 int profileOf(LibburnDrive &drive)
 {
     int profile = 0;
-    std::array<char, 80> name {};
+    std::array<char, 80> name{};
     return burn_disc_get_profile(drive.handle(), &profile, name.data()) > 0 ? profile : 0;
 }
 
@@ -77,9 +79,10 @@ Result<report::Medium> readMedium(LibburnDrive &drive, const std::string &device
     burn_drive *const d = drive.handle();
     const burn_disc_status status = statusOf(d);
     if (status == BURN_DISC_EMPTY)
-        return report::Medium {};
+        return report::Medium{};
     if (status == BURN_DISC_UNREADY)
-        return Error { Exit::failed, "The disc in " + drive.name() + " does not get ready: take it out and clean it." };
+        return Error{ Exit::failed,
+            "The disc in " + drive.name() + " does not get ready: take it out and clean it." };
     report::DriveAnswers answers;
     answers.profile = profileOf(drive);
     answers.blank = status == BURN_DISC_BLANK;
@@ -104,8 +107,9 @@ Result<report::Medium> readMedium(LibburnDrive &drive, const std::string &device
 std::uint64_t volumeBlocks(std::span<const std::byte> descriptor)
 {
     constexpr std::size_t spaceSize = 80; // both-byte order, the little-endian half first
-    constexpr std::array<unsigned char, 6> primary { 1, 'C', 'D', '0', '0', '1' };
-    if (descriptor.size() < spaceSize + 4 || std::memcmp(descriptor.data(), primary.data(), primary.size()) != 0)
+    constexpr std::array<unsigned char, 6> primary{ 1, 'C', 'D', '0', '0', '1' };
+    if (descriptor.size() < spaceSize + 4
+        || std::memcmp(descriptor.data(), primary.data(), primary.size()) != 0)
         return 0;
     std::uint64_t blocks = 0;
     for (std::size_t i = 4; i-- > 0;)
@@ -119,7 +123,8 @@ bool needsFormat(int profile, bool answered, int status)
     return mayNeed && answered && status == BURN_FORMAT_IS_UNFORMATTED;
 }
 
-Result<std::vector<Track>> audioTracks(const audio::AudioDisc &disc, const std::shared_ptr<Result<void>> &outcome)
+Result<std::vector<Track>> audioTracks(
+    const audio::AudioDisc &disc, const std::shared_ptr<Result<void>> &outcome)
 {
     std::vector<Track> tracks;
     for (const audio::AudioTrack &track : disc.tracks) {

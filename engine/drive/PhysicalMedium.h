@@ -22,12 +22,13 @@ Result<report::Medium> readMedium(LibburnDrive &drive, const std::string &device
 std::uint64_t volumeBlocks(std::span<const std::byte> descriptor);
 
 /// True for a rewritable medium that has to be formatted before it takes data. `status` is the
-/// format status of READ FORMAT CAPACITIES (MMC-6 6.23), when the drive gave an answer. DVD+RW is formatted by
-/// libburn in the course of a write.
+/// format status of READ FORMAT CAPACITIES (MMC-6 6.23), when the drive gave an answer. DVD+RW is formatted
+/// by libburn in the course of a write.
 bool needsFormat(int profile, bool answered, int status);
 
 /// The tracks of a session at once: the pause of two seconds before the first, none added between.
 /// `outcome` is told of a file that fails.
-Result<std::vector<Track>> audioTracks(const audio::AudioDisc &disc, const std::shared_ptr<Result<void>> &outcome);
+Result<std::vector<Track>> audioTracks(
+    const audio::AudioDisc &disc, const std::shared_ptr<Result<void>> &outcome);
 
 } // namespace engine::drive

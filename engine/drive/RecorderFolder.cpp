@@ -1,5 +1,6 @@
 #include "drive/RecorderFolder.h"
 
+#include "base/Words.h"
 #include "report/Medium.h"
 
 #include <algorithm>
@@ -37,12 +38,13 @@ std::string homeFolder()
 
 bool isNumber(const std::string &name)
 {
-    return !name.empty() && name.size() <= 9 && std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; });
+    return !name.empty() && name.size() <= 9
+        && std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; });
 }
 
 bool isFolder(int parent, const char *name)
 {
-    struct stat info {};
+    struct stat info { };
     return ::fstatat(parent, name, &info, 0) == 0 && S_ISDIR(info.st_mode);
 }
 
@@ -54,9 +56,9 @@ bool exists(int folder, const char *name)
 std::string archiveStem(report::MediumKind kind, bool spoilt)
 {
     const std::time_t now = std::time(nullptr);
-    std::tm local {};
+    std::tm local{};
     ::localtime_r(&now, &local);
-    std::array<char, 40> date {};
+    std::array<char, 40> date{};
     std::strftime(date.data(), date.size(), "%Y-%m-%d-%H%M%S-", &local);
     const char *name = report::factsOf(kind).insertName;
     return date.data() + std::string(name ? name : "disc") + (spoilt ? "-spoilt" : "");
@@ -103,7 +105,7 @@ Result<std::vector<std::string>> recorderFolders(const std::string &base)
     const std::unique_ptr<DIR, int (*)(DIR *)> folder(::opendir(base.c_str()), ::closedir);
     if (!folder) {
         if (errno == ENOENT)
-            return std::vector<std::string> {};
+            return std::vector<std::string>{};
         return systemError("The folder of the virtual recorders cannot be read", errno);
     }
     std::vector<std::string> names;
@@ -122,7 +124,7 @@ Result<std::vector<std::string>> recorderFolders(const std::string &base)
 
 Result<void> createFirstRecorder(const std::string &base)
 {
-    const std::string what = "The virtual recorder cannot be made in " + base;
+    const std::string what = "The virtual recorder cannot be made in " + engine::quoted(base);
     std::error_code failure;
     std::filesystem::create_directories(base, failure);
     if (failure)
@@ -160,12 +162,14 @@ Result<RecorderFolder> RecorderFolder::lock(const std::string &path, const std::
         return systemError("The folder of " + name + " cannot be opened", errno);
     if (!lockPatiently(folder.get(), change ? LOCK_EX : LOCK_SH)) {
         if (errno == EWOULDBLOCK)
-            return Error { Exit::failed,
-                "The virtual recorder, " + name + ", is busy with another program; wait until that has ended." };
+            return Error{ Exit::failed,
+                "The virtual recorder, " + name
+                    + ", is busy with another program; wait until that has ended." };
         return systemError("The folder of " + name + " cannot be locked", errno);
     }
     if (change && ::faccessat(folder.get(), ".", W_OK | X_OK, AT_EACCESS) != 0)
-        return systemError("The folder of " + name + ", " + path + ", cannot be written", errno);
+        return systemError(
+            "The folder of " + name + ", " + engine::quoted(path) + ", cannot be written", errno);
     return RecorderFolder(std::move(folder), path, name);
 }
 
@@ -174,10 +178,10 @@ Result<RecorderState> RecorderFolder::load() const
     const std::string file = std::string(stateFile) + " of " + m_name;
     const Result<std::string> text = readSmallFile(m_folder.get(), stateFile, file + " cannot be read");
     if (!text)
-        return Error { Exit::failed, text.error().message + " A new medium repairs it: drutil insert." };
+        return Error{ Exit::failed, text.error().message + " A new medium repairs it: drutil insert." };
     Result<RecorderState> state = parseRecorder(*text);
     if (!state)
-        return Error { Exit::failed,
+        return Error{ Exit::failed,
             file + " " + state.error().message + "; a new medium repairs it: drutil insert." };
     return state;
 }
@@ -217,11 +221,12 @@ Result<void> RecorderFolder::moveToArchive(const std::string &stem, bool audio, 
 
 Result<void> RecorderFolder::archive(report::MediumKind kind, bool spoilt) const
 {
-    const std::array<bool, 2> forms { false, true };
+    const std::array<bool, 2> forms{ false, true };
     for (const bool audio : forms) {
         if (!exists(m_folder.get(), audio ? audioDiscFile : dataDiscFile))
             continue;
-        const std::string what = "The folder " + std::string(archiveFolder) + " of " + m_name + " cannot be made";
+        const std::string what =
+            "The folder " + std::string(archiveFolder) + " of " + m_name + " cannot be made";
         if (::mkdirat(m_folder.get(), archiveFolder, 0777) != 0 && errno != EEXIST)
             return systemError(what, errno);
         const Fd discs(::openat(m_folder.get(), archiveFolder, O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -243,7 +248,8 @@ Result<void> RecorderFolder::clear() const
 
 Result<void> RecorderFolder::saveCueSheet(const std::string &text) const
 {
-    return replaceFile(m_folder.get(), cueSheetFile, text, "The cue sheet of " + m_name + " cannot be written");
+    return replaceFile(
+        m_folder.get(), cueSheetFile, text, "The cue sheet of " + m_name + " cannot be written");
 }
 
 Result<Fd> RecorderFolder::createDisc(const char *file) const
@@ -264,7 +270,7 @@ Result<Fd> RecorderFolder::openDisc(const char *file) const
 
 Result<std::uint64_t> RecorderFolder::room() const
 {
-    struct statvfs info {};
+    struct statvfs info { };
     if (::fstatvfs(m_folder.get(), &info) != 0)
         return systemError("The folder of " + m_name + " cannot be measured", errno);
     return static_cast<std::uint64_t>(info.f_bavail) * info.f_frsize;
@@ -276,7 +282,7 @@ RecorderState peek(const std::string &path, bool &readable)
     const Result<std::string> text = readSmallFile(folder.get(), stateFile, path);
     const Result<RecorderState> state = text ? parseRecorder(*text) : Result<RecorderState>(text.error());
     readable = static_cast<bool>(state);
-    return state ? *state : RecorderState {};
+    return state ? *state : RecorderState{};
 }
 
 } // namespace engine::drive

@@ -15,10 +15,10 @@ struct DiscWord {
 };
 
 constexpr std::array discWords = {
-    DiscWord { DiscState::blank, "blank" },
-    DiscWord { DiscState::writing, "writing" },
-    DiscWord { DiscState::written, "written" },
-    DiscWord { DiscState::spoilt, "spoilt" },
+    DiscWord{ DiscState::blank, "blank" },
+    DiscWord{ DiscState::writing, "writing" },
+    DiscWord{ DiscState::written, "written" },
+    DiscWord{ DiscState::spoilt, "spoilt" },
 };
 
 constexpr std::string_view noMedium = "none";
@@ -51,7 +51,7 @@ bool readDisc(std::string_view value, RecorderState &state)
 bool readBlocks(std::string_view value, RecorderState &state)
 {
     const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), state.blocks);
-    return error == std::errc {} && end == value.data() + value.size();
+    return error == std::errc{} && end == value.data() + value.size();
 }
 
 bool readTray(std::string_view value, RecorderState &state)
@@ -118,7 +118,7 @@ Result<RecorderState> parseRecorder(std::string_view text)
         const auto equals = line.find('=');
         if (equals == std::string_view::npos
             || (ours && !readKey(trimmed(line.substr(0, equals)), trimmed(line.substr(equals + 1)), state)))
-            return Error { Exit::failed, "cannot be understood in line " + std::to_string(number) };
+            return Error{ Exit::failed, "cannot be understood in line " + std::to_string(number) };
     }
     return state;
 }
@@ -126,10 +126,10 @@ Result<RecorderState> parseRecorder(std::string_view text)
 std::string recorderText(const RecorderState &state)
 {
     const auto &facts = report::factsOf(state.kind);
-    return "[recorder]\nvendor=" + state.vendor + "\nproduct=" + state.product + "\nrevision=" + state.revision
-        + "\ntray=" + (state.trayOpen ? "open" : "closed") + "\n\n[medium]\nkind="
-        + (facts.insertName ? facts.insertName : std::string(noMedium)) + "\nstate="
-        + std::string(discWord(state.disc)) + "\nblocks=" + std::to_string(state.blocks) + '\n';
+    return "[recorder]\nvendor=" + state.vendor + "\nproduct=" + state.product
+        + "\nrevision=" + state.revision + "\ntray=" + (state.trayOpen ? "open" : "closed")
+        + "\n\n[medium]\nkind=" + (facts.insertName ? facts.insertName : std::string(noMedium))
+        + "\nstate=" + std::string(discWord(state.disc)) + "\nblocks=" + std::to_string(state.blocks) + '\n';
 }
 
 report::Medium mediumOf(const RecorderState &state)

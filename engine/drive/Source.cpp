@@ -12,6 +12,8 @@
 
 namespace engine::drive {
 
+using namespace burn;
+
 namespace {
 
 struct SourceData {
@@ -122,7 +124,7 @@ Source newSource(std::uint64_t bytes, Fill fill)
     source->get_size = sizeOf;
     source->set_size = setSize;
     source->free_data = freeData;
-    source->data = new SourceData { std::move(fill), static_cast<off_t>(bytes) };
+    source->data = new SourceData{ std::move(fill), static_cast<off_t>(bytes) };
     return Source(source);
 }
 
@@ -145,14 +147,13 @@ std::ptrdiff_t readSource(burn_source *source, std::span<std::byte> buffer)
 Source tap(burn_source *inner, std::uint64_t blocks, std::shared_ptr<TapState> state)
 {
     auto reader = std::make_shared<Tap>(inner, blocks, std::move(state));
-    return newSource(
-        blocks * blockBytes, [reader](std::span<std::byte> out) { return reader->fill(out); });
+    return newSource(blocks * blockBytes, [reader](std::span<std::byte> out) { return reader->fill(out); });
 }
 
 Source chain(std::vector<Source> parts, std::uint64_t bytes)
 {
     auto sources = std::make_shared<std::vector<Source>>(std::move(parts));
-    return newSource(bytes, [sources, current = std::size_t { 0 }](std::span<std::byte> out) mutable {
+    return newSource(bytes, [sources, current = std::size_t{ 0 }](std::span<std::byte> out) mutable {
         std::size_t done = 0;
         while (done < out.size() && current < sources->size()) {
             const std::ptrdiff_t n = readSource((*sources)[current].get(), out.subspan(done));

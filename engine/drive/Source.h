@@ -11,25 +11,27 @@
 #include <span>
 #include <vector>
 
+namespace burn {
 struct burn_source;
+}
 
 namespace engine::drive {
 
 /// Gives back a reference to a source.
 struct SourceRelease {
-    void operator()(burn_source *source) const;
+    void operator()(burn::burn_source *source) const;
 };
-using Source = std::unique_ptr<burn_source, SourceRelease>;
+using Source = std::unique_ptr<burn::burn_source, SourceRelease>;
 
-/// Fills a buffer and returns the number of bytes, which is less than its size only at the end, or -1. Runs on
-/// libburn's thread.
+/// Fills a buffer and returns the number of bytes, which is less than its size only at the end, or -1. Runs
+/// on libburn's thread.
 using Fill = std::function<std::ptrdiff_t(std::span<std::byte>)>;
 
 /// A source of `bytes` bytes that `fill` gives. `fill` lives as long as the source.
 Source newSource(std::uint64_t bytes, Fill fill);
 
 /// Reads from `source` until `buffer` is full or the source ends; -1 when it fails.
-std::ptrdiff_t readSource(burn_source *source, std::span<std::byte> buffer);
+std::ptrdiff_t readSource(burn::burn_source *source, std::span<std::byte> buffer);
 
 /// What went through a tap. The writer thread sets it, the controlling thread asks for it.
 struct TapState {
@@ -40,7 +42,7 @@ struct TapState {
 
 /// A source that passes on the `blocks` blocks of `inner` and notes each in `state`. libburn fills up a track
 /// whose source ends early with zeros, and asks no more: the tap is what notices. `inner` is borrowed.
-Source tap(burn_source *inner, std::uint64_t blocks, std::shared_ptr<TapState> state);
+Source tap(burn::burn_source *inner, std::uint64_t blocks, std::shared_ptr<TapState> state);
 
 /// The sources one after the other.
 Source chain(std::vector<Source> parts, std::uint64_t bytes);

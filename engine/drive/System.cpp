@@ -1,8 +1,8 @@
 #include "drive/System.h"
 
-#include <array>
+#include "base/Words.h"
+
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -45,13 +45,12 @@ int Fd::release()
 
 Error systemError(const std::string &what, int failure)
 {
-    std::array<char, 128> text {};
-    return { Exit::failed, what + ": " + strerror_r(failure, text.data(), text.size()) + "." };
+    return { Exit::failed, what + ": " + reason(failure) + "." };
 }
 
 Result<std::string> readSmallFile(int folder, const char *name, const std::string &what)
 {
-    constexpr std::size_t limit = 1 << 20;
+    constexpr std::size_t limit = 1 << 16;
     const Fd fd(::openat(folder, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!fd)
         return systemError(what, errno);
@@ -85,8 +84,8 @@ std::ptrdiff_t readFully(int fd, std::span<std::byte> buffer, off_t offset)
 {
     std::size_t done = 0;
     while (done < buffer.size()) {
-        const ssize_t n
-            = ::pread(fd, buffer.data() + done, buffer.size() - done, offset + static_cast<off_t>(done));
+        const ssize_t n =
+            ::pread(fd, buffer.data() + done, buffer.size() - done, offset + static_cast<off_t>(done));
         if (n < 0 && errno == EINTR)
             continue;
         if (n < 0)

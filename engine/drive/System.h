@@ -14,8 +14,14 @@ namespace engine::drive {
 class Fd {
 public:
     Fd() = default;
-    explicit Fd(int fd) : m_fd(fd) { }
-    Fd(Fd &&other) noexcept : m_fd(other.release()) { }
+    explicit Fd(int fd)
+        : m_fd(fd)
+    {
+    }
+    Fd(Fd &&other) noexcept
+        : m_fd(other.release())
+    {
+    }
     Fd &operator=(Fd &&other) noexcept;
     ~Fd();
 
@@ -31,11 +37,11 @@ private:
 Error systemError(const std::string &what, int failure);
 
 /// The whole file `name` in the folder `folder`; the errno of the failure otherwise, as a systemError()
-/// that begins with `what`. Files over 1 MiB are refused.
+/// that begins with `what`. Files of 64 KiB and more are refused.
 Result<std::string> readSmallFile(int folder, const char *name, const std::string &what);
 
-/// Replaces the file `name` in `folder` at once, so that a reader sees the old text or the new one and a power
-/// cut leaves one of them. The error begins with `what`.
+/// Replaces the file `name` in `folder` at once, so that a reader sees the old text or the new one and a
+/// power cut leaves one of them. The error begins with `what`.
 Result<void> replaceFile(int folder, const std::string &name, std::string_view text, const std::string &what);
 
 /// Fills `buffer` from `offset` on; less than its size at the end of the file; -1 and errno on failure.

@@ -17,7 +17,7 @@ namespace {
 
 std::uint64_t sizeOf(const Fd &file)
 {
-    struct stat info {};
+    struct stat info { };
     return ::fstat(file.get(), &info) == 0 ? static_cast<std::uint64_t>(info.st_size) : 0;
 }
 
@@ -82,7 +82,7 @@ Result<void> VirtualLease::erase(EraseMode, const Control &)
     if (!state)
         return state.error();
     if (!report::canErase(mediumOf(*state)))
-        return Error { Exit::failed, "The disc in " + m_name + " cannot be erased: insert a rewritable one." };
+        return Error{ Exit::failed, "The disc in " + m_name + " cannot be erased: insert a rewritable one." };
     // What is half gone after a kill must not look like a whole disc.
     state->disc = DiscState::writing;
     if (auto saved = m_folder.save(*state); !saved)
@@ -101,16 +101,17 @@ Result<RecorderState> VirtualLease::begin(std::uint64_t bytes)
     if (!state)
         return state;
     if (!report::canWriteNow(mediumOf(*state)))
-        return Error { Exit::failed, "The disc in " + m_name + " was written already: insert a blank one." };
+        return Error{ Exit::failed, "The disc in " + m_name + " was written already: insert a blank one." };
     if (auto cleared = m_folder.clear(); !cleared)
         return cleared.error();
     const Result<std::uint64_t> room = m_folder.room();
     if (!room)
         return room.error();
     if (*room < bytes)
-        return Error { Exit::failed,
+        return Error{ Exit::failed,
             "The file system that holds " + m_name + " has room for " + std::to_string(*room / blockBytes)
-                + " blocks, and the disc needs " + std::to_string(bytes / blockBytes) + ": make room there." };
+                + " blocks, and the disc needs " + std::to_string(bytes / blockBytes)
+                + ": make room there." };
     state->disc = DiscState::writing;
     state->blocks = 0;
     if (auto saved = m_folder.save(*state); !saved)
@@ -176,7 +177,7 @@ Result<void> VirtualLease::write(Content content, const std::shared_ptr<TapState
 
 Result<void> VirtualLease::writeData(DiscData &data, BlockDigests &sent, const Control &control)
 {
-    const Result<burn_source *> stream = data.start();
+    const Result<burn::burn_source *> stream = data.start();
     if (!stream)
         return stream.error();
     const auto tapState = std::make_shared<TapState>();
@@ -185,7 +186,8 @@ Result<void> VirtualLease::writeData(DiscData &data, BlockDigests &sent, const C
     content.sectors = data.blocks();
     content.bytes = data.blocks() * blockBytes;
     content.file = dataDiscFile;
-    auto written = write(std::move(content), tapState, [&] { return data.outcome(); }, control);
+    auto written = write(
+        std::move(content), tapState, [&] { return data.outcome(); }, control);
     sent = std::move(tapState->digests);
     return written;
 }
@@ -193,10 +195,10 @@ Result<void> VirtualLease::writeData(DiscData &data, BlockDigests &sent, const C
 Result<void> VirtualLease::writeAudio(const audio::AudioDisc &disc, const Control &control)
 {
     // The same bytes that audio::writeBin() makes, through libburn: the pause of track 1, then all tracks.
-    const std::uint64_t bytes = std::uint64_t { disc.sectorCount() } * audio::sectorSize;
+    const std::uint64_t bytes = std::uint64_t{ disc.sectorCount() } * audio::sectorSize;
     const auto outcome = std::make_shared<Result<void>>();
     std::vector<Source> parts;
-    parts.push_back(zeros(std::uint64_t { audio::firstPause } * audio::sectorSize));
+    parts.push_back(zeros(std::uint64_t{ audio::firstPause } * audio::sectorSize));
     for (const audio::AudioTrack &track : disc.tracks) {
         auto stream = audio::TrackStream::open(track);
         if (!stream)
@@ -213,7 +215,8 @@ Result<void> VirtualLease::writeAudio(const audio::AudioDisc &disc, const Contro
     content.bytes = bytes;
     content.file = audioDiscFile;
     content.cueSheet = audio::cueSheet(audioDiscFile, disc.tracks);
-    return write(std::move(content), tapState, [&] { return *outcome; }, control);
+    return write(
+        std::move(content), tapState, [&] { return *outcome; }, control);
 }
 
 Result<void> VirtualLease::reload()
@@ -270,8 +273,8 @@ report::DriveRecord VirtualDrive::record() const
 
 Result<std::unique_ptr<Lease>> VirtualDrive::acquire(Purpose purpose)
 {
-    auto folder
-        = RecorderFolder::lock(m_folder, name(), purpose == Purpose::change ? Access::exclusive : Access::shared);
+    auto folder = RecorderFolder::lock(
+        m_folder, name(), purpose == Purpose::change ? Access::exclusive : Access::shared);
     if (!folder)
         return folder.error();
     return std::unique_ptr<Lease>(std::make_unique<VirtualLease>(std::move(folder).value(), name()));
@@ -312,7 +315,7 @@ Result<void> VirtualDrive::insert(report::MediumKind kind)
         return folder.error();
     // A damaged recorder.ini is replaced: this is how a recorder is repaired.
     const Result<RecorderState> state = folder->load();
-    return exchange(*folder, state ? *state : RecorderState {}, kind);
+    return exchange(*folder, state ? *state : RecorderState{}, kind);
 }
 
 } // namespace engine::drive

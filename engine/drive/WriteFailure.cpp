@@ -9,7 +9,8 @@ namespace {
 
 std::string withoutFullStop(std::string text)
 {
-    while (!text.empty() && (text.back() == '.' || text.back() == ' ' || text.back() == ',' || text.back() == '\n'))
+    while (!text.empty()
+        && (text.back() == '.' || text.back() == ' ' || text.back() == ',' || text.back() == '\n'))
         text.pop_back();
     return text;
 }

@@ -18,7 +18,7 @@ enum class Left {
 Left leftOf(const report::Medium &before, bool touched);
 
 /// The error for `outcome`, which is not well. `source` is how the source of the data went.
-Error writeFailure(
-    const LibburnDrive::Outcome &outcome, const Result<void> &source, const std::string &driveName, Left left);
+Error writeFailure(const LibburnDrive::Outcome &outcome, const Result<void> &source,
+    const std::string &driveName, Left left);
 
 } // namespace engine::drive

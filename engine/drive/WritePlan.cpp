@@ -7,7 +7,8 @@ namespace engine::drive {
 Attempt firstAttempt(report::Rewriting rewriting, const std::vector<int> &speeds)
 {
     const bool sequential = rewriting == report::Rewriting::once || rewriting == report::Rewriting::erase;
-    return { sequential ? WriteMode::sessionAtOnce : WriteMode::trackAtOnce, speeds.empty() ? 0 : speeds.back() };
+    return { sequential ? WriteMode::sessionAtOnce : WriteMode::trackAtOnce,
+        speeds.empty() ? 0 : speeds.back() };
 }
 
 bool isSpeedError(const LibburnMessage &refusal)
@@ -24,10 +25,10 @@ std::optional<Attempt> nextAttempt(
         const auto same = std::ranges::lower_bound(speeds, failed.speed);
         if (failed.speed == 0 || same == speeds.begin())
             return std::nullopt;
-        return Attempt { failed.mode, *std::prev(same) };
+        return Attempt{ failed.mode, *std::prev(same) };
     }
     if (failed.mode == WriteMode::sessionAtOnce && !audio)
-        return Attempt { WriteMode::trackAtOnce, failed.speed };
+        return Attempt{ WriteMode::trackAtOnce, failed.speed };
     return std::nullopt;
 }
 

@@ -1,8 +1,9 @@
 #include "report/StatusText.h"
 
+#include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 
 namespace engine::report {
 
@@ -10,22 +11,33 @@ namespace {
 
 constexpr double blockBytes = 2048.0;
 
-template <class... Values>
-std::string format(const char *pattern, Values... values)
+std::string padded(std::string text, std::size_t width, bool right)
 {
-    std::array<char, 160> text{};
-    std::snprintf(text.data(), text.size(), pattern, values...);
-    return text.data();
+    const std::size_t missing = width - std::min(width, text.size());
+    return right ? std::string(missing, ' ') + text : text + std::string(missing, ' ');
 }
 
-std::string labelled(const char *label, const std::string &value)
+std::string fixed(double value, int decimals, std::size_t width)
 {
-    return format("%16s ", label) + value;
+    std::array<char, 40> text{};
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, decimals);
+    return padded(std::string(text.data(), end.ptr), width, true);
+}
+
+std::string twoDigits(uint64_t number)
+{
+    return (number < 10 ? "0" : "") + std::to_string(number);
+}
+
+std::string labelled(const std::string &label, const std::string &value)
+{
+    return padded(label, 16, true) + ' ' + value;
 }
 
 std::string spaceLine(const char *label, uint64_t blocks)
 {
-    return labelled(label, format("%10s", minutesSecondsFrames(blocks).c_str()))
+    return labelled(label, padded(minutesSecondsFrames(blocks), 10, true))
         + "         blocks: " + sizeColumns(blocks) + '\n';
 }
 
@@ -49,28 +61,26 @@ std::string speedFactor(double speed, Family family)
     const double single = singleSpeed(family);
     const double factor = single > 0 ? speed / single : 0.0;
     const bool whole = std::abs(factor - std::round(factor)) < 0.15;
-    return format(whole || factor >= 10 ? "%.0fx" : "%.1fx", factor);
+    return fixed(factor, whole || factor >= 10 ? 0 : 1, 0) + 'x';
 }
 
 std::string minutesSecondsFrames(uint64_t blocks)
 {
-    const auto number = [](uint64_t n) { return static_cast<unsigned long long>(n); };
-    return format(
-        "%02llu:%02llu:%02llu", number(blocks / 75 / 60), number(blocks / 75 % 60), number(blocks % 75));
+    return twoDigits(blocks / 75 / 60) + ':' + twoDigits(blocks / 75 % 60) + ':' + twoDigits(blocks % 75);
 }
 
 std::string sizeColumns(uint64_t blocks)
 {
     const double bytes = static_cast<double>(blocks) * blockBytes;
-    return format("%8llu / %6.2fMB / %6.2fMiB", static_cast<unsigned long long>(blocks), bytes / 1e6,
-        bytes / (1024.0 * 1024.0));
+    return padded(std::to_string(blocks), 8, true) + " / " + fixed(bytes / 1e6, 2, 6) + "MB / "
+        + fixed(bytes / (1024.0 * 1024.0), 2, 6) + "MiB";
 }
 
 std::string statusText(const Medium &medium)
 {
     if (medium.kind == MediumKind::none)
         return labelled("Type:", factsOf(medium.kind).type) + '\n';
-    std::string text = labelled("Type:", format("%-21s", factsOf(medium.kind).type));
+    std::string text = labelled("Type:", padded(factsOf(medium.kind).type, 21, false));
     text += "Name: " + medium.deviceName + '\n';
     if (const std::string speeds = speedWords(medium); !speeds.empty())
         text += labelled("Write Speeds:", speeds) + '\n';

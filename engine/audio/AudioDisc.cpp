@@ -1,0 +1,181 @@
+#include "audio/AudioDisc.h"
+
+#include "base/Words.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <memory>
+#include <string_view>
+#include <tuple>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <strings.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace engine::audio {
+
+namespace {
+
+struct Candidate {
+    std::int64_t seconds, nanoseconds; ///< time of last modification
+    std::string name;
+
+    bool operator<(const Candidate &other) const
+    {
+        const auto left = std::tie(seconds, nanoseconds);
+        const auto right = std::tie(other.seconds, other.nanoseconds);
+        return left != right ? left < right : naturalLess(name, other.name);
+    }
+};
+
+bool endsWith(const std::string &name, std::string_view end)
+{
+    return name.size() >= end.size()
+        && strncasecmp(name.c_str() + name.size() - end.size(), end.data(), end.size()) == 0;
+}
+
+bool isWaveName(const std::string &name)
+{
+    return endsWith(name, ".wav") || endsWith(name, ".wave");
+}
+
+bool isDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
+
+std::string_view takeDigits(std::string_view &text)
+{
+    std::size_t end = 0;
+    while (end < text.size() && isDigit(text[end]))
+        ++end;
+    const std::string_view digits = text.substr(0, end);
+    text.remove_prefix(end);
+    const std::size_t zeros = digits.find_first_not_of('0');
+    return zeros == std::string_view::npos ? std::string_view() : digits.substr(zeros);
+}
+
+Error folderError(const std::string &folder, int error)
+{
+    return { Exit::failed, "The folder " + quoted(folder) + " cannot be read: " + reason(error) + "." };
+}
+
+/// The files that can be tracks, in order; the others become notes.
+Result<std::vector<Candidate>> listCandidates(const std::string &folder, std::vector<std::string> &notes)
+{
+    const std::unique_ptr<DIR, int (*)(DIR *)> directory(opendir(folder.c_str()), closedir);
+    if (!directory)
+        return folderError(folder, errno);
+    std::vector<Candidate> candidates;
+    errno = 0;
+    while (const dirent *item = readdir(directory.get())) {
+        const std::string name = item->d_name;
+        if (name.starts_with('.'))
+            continue;
+        struct stat info {};
+        if (fstatat(dirfd(directory.get()), name.c_str(), &info, 0) != 0)
+            return Error { Exit::failed,
+                           "The file " + quoted(folder + '/' + name) + " cannot be read: " + reason(errno) + "." };
+        if (isWaveName(name) && !S_ISDIR(info.st_mode))
+            candidates.push_back({ info.st_mtim.tv_sec, info.st_mtim.tv_nsec, name });
+        else
+            notes.push_back(quoted(folder + '/' + name) + " is left out: only WAVE files become tracks.");
+        errno = 0;
+    }
+    if (errno != 0)
+        return folderError(folder, errno);
+    std::sort(candidates.begin(), candidates.end());
+    std::sort(notes.begin(), notes.end());
+    return candidates;
+}
+
+} // namespace
+
+std::uint32_t AudioDisc::sectorCount() const
+{
+    std::uint32_t sum = firstPause;
+    for (const AudioTrack &track : tracks)
+        sum += track.sectors;
+    return sum;
+}
+
+std::uint32_t sectorsFor(std::uint64_t bytes)
+{
+    const std::uint64_t sectors = (bytes + sectorSize - 1) / sectorSize;
+    return std::max(static_cast<std::uint32_t>(sectors), shortestTrack);
+}
+
+Result<AudioDisc> readAudioFolder(const std::string &folder)
+{
+    AudioDisc disc;
+    const auto candidates = listCandidates(folder, disc.notes);
+    if (!candidates)
+        return candidates.error();
+    if (candidates->empty())
+        return Error { Exit::failed,
+                       "The folder " + quoted(folder) + " holds no WAVE file: put one for each track into it." };
+    if (candidates->size() > mostTracks)
+        return Error { Exit::failed,
+                       "The folder " + quoted(folder) + " holds " + std::to_string(candidates->size())
+                           + " WAVE files, but an audio disc has at most " + std::to_string(mostTracks) + " tracks." };
+    for (const Candidate &candidate : *candidates) {
+        const std::string path = folder + (folder.ends_with('/') ? "" : "/") + candidate.name;
+        const auto wave = readWave(path);
+        if (!wave)
+            return wave.error();
+        disc.tracks.push_back({ path, *wave, sectorsFor(wave->size) });
+    }
+    return disc;
+}
+
+std::string msf(std::uint32_t sector)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, "%02u:%02u:%02u", sector / sectorsPerSecond / 60, sector / sectorsPerSecond % 60,
+                  sector % sectorsPerSecond);
+    return text;
+}
+
+std::string cueSheet(const std::string &binName, const std::vector<AudioTrack> &tracks)
+{
+    std::string name = binName;
+    std::replace_if(
+        name.begin(), name.end(), [](char letter) { return letter == '"' || letter == '\n' || letter == '\r'; }, '_');
+    std::string sheet = "FILE \"" + name + "\" BINARY\n";
+    std::uint32_t start = firstPause;
+    for (std::size_t index = 0; index < tracks.size(); ++index) {
+        sheet += std::string("  TRACK ") + (index < 9 ? "0" : "") + std::to_string(index + 1) + " AUDIO\n";
+        if (index == 0)
+            sheet += "    INDEX 00 " + msf(0) + "\n";
+        sheet += "    INDEX 01 " + msf(start) + "\n";
+        start += tracks[index].sectors;
+    }
+    return sheet;
+}
+
+bool naturalLess(const std::string &left, const std::string &right)
+{
+    std::string_view a = left, b = right;
+    while (!a.empty() && !b.empty()) {
+        if (isDigit(a.front()) && isDigit(b.front())) {
+            const std::string_view x = takeDigits(a), y = takeDigits(b);
+            if (x.size() != y.size())
+                return x.size() < y.size();
+            if (x != y)
+                return x < y;
+            continue;
+        }
+        if (a.front() != b.front())
+            return static_cast<unsigned char>(a.front()) < static_cast<unsigned char>(b.front());
+        a.remove_prefix(1);
+        b.remove_prefix(1);
+    }
+    if (a.empty() != b.empty())
+        return a.empty();
+    return left < right;
+}
+
+} // namespace engine::audio

@@ -1,0 +1,54 @@
+// The layout of a CD-DA disc made of WAVE files (Red Book, IEC 60908).
+#pragma once
+
+#include "audio/Wave.h"
+#include "base/Result.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace engine::audio {
+
+constexpr std::uint32_t sectorSize = 2352;        ///< bytes of an audio sector
+constexpr std::uint32_t sectorsPerSecond = 75;    ///< also called frames
+constexpr std::uint32_t firstPause = 150;         ///< sectors of silence before track 1
+constexpr std::uint32_t shortestTrack = 300;      ///< sectors; a CD track lasts at least four seconds
+constexpr std::uint32_t mostTracks = 99;
+
+/// One track: a file's samples, filled with silence to `sectors` whole sectors.
+struct AudioTrack {
+    std::string path;
+    WaveData wave;
+    std::uint32_t sectors = 0;
+};
+
+struct AudioDisc {
+    std::vector<AudioTrack> tracks;
+    std::vector<std::string> notes; ///< files of the folder that are no tracks, one sentence each
+
+    /// Sectors of all tracks and of the pause before the first.
+    std::uint32_t sectorCount() const;
+};
+
+/// Whole sectors for `bytes` of samples, at least shortestTrack.
+std::uint32_t sectorsFor(std::uint64_t bytes);
+
+/// The WAVE files directly in `folder` (name ends in .wav or .wave in any case, hidden files apart) in the
+/// order of their modification times, then of their names with digit runs compared by value.
+/// Errors: no WAVE file, more than 99, one that is not 16-bit 44100 Hz stereo PCM (named), one
+/// that cannot be read.
+Result<AudioDisc> readAudioFolder(const std::string &folder);
+
+/// "mm:ss:ff" of a sector address counted from 0; minutes take as many digits as they need.
+std::string msf(std::uint32_t sector);
+
+/// The cue sheet of a .bin file that holds the pause of track 1 and then all tracks back to back.
+/// `binName` is written between quotation marks; a quotation mark or line break in it becomes '_'.
+std::string cueSheet(const std::string &binName, const std::vector<AudioTrack> &tracks);
+
+/// True when a file named `left` comes before `right`: digit runs compare by value, other bytes
+/// by themselves; names equal in that way ("1", "01") compare by bytes.
+bool naturalLess(const std::string &left, const std::string &right);
+
+} // namespace engine::audio

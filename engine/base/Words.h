@@ -1,0 +1,24 @@
+// Pieces of the sentences that the engine says to a person.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace engine {
+
+/// `text` between quotation marks, fit for one line of any terminal: control characters and bytes
+/// that are not UTF-8 appear as \xNN.
+std::string quoted(std::string_view text);
+
+/// The system's words for an errno value, begun with a small letter: "permission denied".
+std::string reason(int error);
+
+/// A size for people, in decimal units: "734 MB", "4.7 GB", "512 bytes".
+std::string sizeText(std::uint64_t bytes);
+
+/// Length in bytes of the UTF-8 character that `text` begins with, 0 when its first byte begins
+/// none (RFC 3629: no overlong forms, no surrogates, at most U+10FFFF) or `text` is empty.
+std::size_t utf8Length(std::string_view text);
+
+} // namespace engine

@@ -1,0 +1,92 @@
+// What lies under a folder, read once, in the order in which it is stored on a disc.
+#pragma once
+
+#include "base/Result.h"
+#include "image/IsoImage.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <sys/types.h>
+
+namespace engine::image {
+
+/// One file, folder, link or special file. 0 is the root folder, which is its own parent.
+struct Entry {
+    std::uint32_t parent = 0;
+    std::uint32_t name = 0;   ///< offset in FolderTree's texts
+    std::uint32_t target = 0; ///< of a symbolic link: offset in FolderTree's texts
+    std::uint32_t first = 0;  ///< folder: its first child; regular file: its number in contents
+    std::uint32_t count = 0;  ///< of a folder: number of children, which lie side by side
+    mode_t mode = 0;
+    uid_t uid = 0;
+    gid_t gid = 0;
+    dev_t device = 0;        ///< the file system it lies on
+    dev_t special = 0;       ///< of a device file: which device
+    std::uint64_t inode = 0;
+    std::int64_t modified = 0, accessed = 0, changed = 0; ///< seconds since 1970
+};
+
+/// The data of a regular file, stored once whatever the number of its names.
+struct Content {
+    std::uint32_t entry = 0; ///< the name through which it is read
+    std::uint64_t size = 0;  ///< in bytes
+};
+
+class FolderTree {
+public:
+    /// Reads everything under `folder`, the children of a folder in the order of their names'
+    /// bytes. Nothing is opened but folders; files that cannot be read are found by their
+    /// permissions, and are an error that names the file.
+    static Result<FolderTree> read(const std::string &folder, const IsoOptions &options);
+
+    const std::vector<Entry> &entries() const { return m_entries; }
+    const std::vector<Content> &contents() const { return m_contents; }
+    const std::vector<std::string> &notes() const { return m_notes; }
+    const std::string &folder() const { return m_folder; }
+    bool followsLinks() const { return m_followsLinks; }
+
+    const char *name(const Entry &entry) const { return &m_texts[entry.name]; }
+    const char *target(const Entry &entry) const { return &m_texts[entry.target]; }
+
+    /// Path of an entry below the root folder, without the folder itself; "." for the root.
+    std::string relativePath(std::uint32_t entry) const;
+    /// Path of an entry as a person would type it.
+    std::string path(std::uint32_t entry) const;
+
+private:
+    friend class FolderScan;
+    std::string m_folder;
+    std::vector<Entry> m_entries;
+    std::vector<Content> m_contents;
+    std::vector<std::string> m_notes;
+    std::string m_texts; ///< names and link targets, each ended by NUL
+    bool m_followsLinks = false;
+};
+
+/// Opens folders and files of a tree one after another, cheaply when neighbours follow each other,
+/// and without limit on the length of a path. One owner; not thread-safe.
+class TreeOpener {
+public:
+    explicit TreeOpener(const FolderTree &tree);
+    TreeOpener(const TreeOpener &) = delete;
+    TreeOpener &operator=(const TreeOpener &) = delete;
+    ~TreeOpener();
+
+    /// Makes `folder` the current one and returns its descriptor, owned by this object and valid
+    /// until the next call; -1 with errno on failure.
+    int enter(std::uint32_t folder);
+    /// A new descriptor of a regular file for reading, owned by the caller; -1 with errno.
+    int openFile(std::uint32_t file);
+
+private:
+    int openChain(std::uint32_t folder);
+    const FolderTree &m_tree;
+    std::uint32_t m_current = 0;
+    int m_root = -1;
+    int m_fd = -1; ///< of m_current
+};
+
+} // namespace engine::image

@@ -1,0 +1,80 @@
+// An ISO 9660 image with Joliet and Rock Ridge names, made of a folder and read as a stream.
+#pragma once
+
+#include "base/Result.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace burn {
+struct burn_source;
+}
+
+namespace engine::image {
+
+constexpr std::uint32_t blockSize = 2048; ///< bytes of a logical block (ECMA-119 6.1.2)
+
+/// What becomes of symbolic links.
+enum class Links {
+    keep,   ///< stored as Rock Ridge links; left out, with a note, when there is no Rock Ridge
+    follow, ///< stored as what they point to; loops and dangling links left out, with a note
+};
+
+struct IsoOptions {
+    std::string volumeName; ///< UTF-8; when empty, the folder's own name
+    bool rockRidge = true;  ///< exact names, times, modes and owners beside the Joliet names
+    Links links = Links::keep;
+    /// Asked now and then while the folder is read and the image is written; true ends both with
+    /// Exit::interrupted. Called on the thread that called fromFolder() or writeTo(). May be empty.
+    std::function<bool()> stop;
+};
+
+/// The image of one folder: the tree is read once, the exact size is known, and the data is read
+/// from the files while the image is streamed. The image can be streamed once.
+///
+/// Not thread-safe, except that the burn source may be read on another thread. Movable.
+class IsoImage {
+public:
+    /// Reads the tree under `folder`. Names may hold any bytes. An error names the file or folder
+    /// that cannot be read.
+    static Result<IsoImage> fromFolder(const std::string &folder, const IsoOptions &options);
+
+    IsoImage(IsoImage &&other) noexcept;
+    IsoImage &operator=(IsoImage &&other) noexcept;
+    ~IsoImage();
+
+    /// Size of the image in blocks of 2048 bytes, 150 blocks of padding included (drives read
+    /// ahead over the end of a track written at once). Exact before anything is streamed.
+    std::uint32_t blockCount() const;
+
+    /// Number of files that hold data, each counted once whatever its number of links.
+    std::uint32_t fileCount() const;
+
+    /// What was left out or stored under another name: plain sentences, one line each.
+    const std::vector<std::string> &notes() const;
+
+    /// The image as the data of a libburn track. Owned by this object; libburn takes references
+    /// of its own (burn_track_set_source), and those stay valid when this object is gone. Reads of
+    /// any size are served; a read returns -1 when a file fails, and outcome() then says which.
+    burn::burn_source *burnSource();
+
+    /// How the streaming through burnSource() went so far: an error that names the file which
+    /// could not be read or became shorter. May be asked from any thread.
+    Result<void> outcome() const;
+
+    /// Writes the whole image to `fd` from its current position. The error of a failed write
+    /// speaks of `destination`, one of a source file names that file.
+    Result<void> writeTo(int fd, const std::string &destination);
+
+private:
+    class Stream;
+    struct Outlet;
+    explicit IsoImage(std::shared_ptr<Stream> stream);
+    std::shared_ptr<Stream> m_stream;
+    burn::burn_source *m_source = nullptr; ///< made by burnSource()
+};
+
+} // namespace engine::image

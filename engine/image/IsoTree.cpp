@@ -1,0 +1,282 @@
+#include "image/IsoTree.h"
+
+#include "base/Words.h"
+
+#include <cstdlib>
+#include <mutex>
+
+#include <sys/stat.h>
+
+#include <libisofs/libisofs.h>
+
+// The public header keeps this structure from C++ because it calls its first member "class"; the
+// layout is part of the interface (libisofs.h, "Representation of file contents").
+struct iso_stream {
+    IsoStreamIface *iface;
+    int refcount;
+    void *data;
+};
+
+namespace engine::image {
+
+namespace {
+
+// Blocks of zeros after the image: a drive reads ahead over the end of a track written at once.
+constexpr std::uint32_t paddingBlocks = 150;
+
+// Any number that libisofs does not use for streams of its own.
+constexpr unsigned int streamFileSystem = 0xc0;
+
+/// The data of one file: what libisofs allocates as a stream, with our own members behind it.
+struct FileStream {
+    iso_stream stream;
+    FolderReader *reader;
+    std::uint64_t size;
+    std::uint32_t content;
+};
+
+FileStream &self(IsoStream *stream)
+{
+    return *static_cast<FileStream *>(stream->data);
+}
+
+int openStream(IsoStream *stream)
+{
+    self(stream).reader->open(self(stream).content);
+    return 1;
+}
+
+int closeStream(IsoStream *)
+{
+    return 1;
+}
+
+off_t sizeOf(IsoStream *stream)
+{
+    return static_cast<off_t>(self(stream).size);
+}
+
+int readStream(IsoStream *stream, void *buffer, size_t size)
+{
+    std::size_t got = 0;
+    if (!self(stream).reader->read(static_cast<std::byte *>(buffer), size, got))
+        return static_cast<int>(ISO_FILE_READ_ERROR);
+    return static_cast<int>(got);
+}
+
+int isRepeatable(IsoStream *)
+{
+    return 1;
+}
+
+// Files are stored in the order of these numbers, and names of equal numbers share their data.
+void identify(IsoStream *stream, unsigned int *fileSystem, dev_t *device, ino_t *inode)
+{
+    *fileSystem = streamFileSystem;
+    *device = 0;
+    *inode = self(stream).content;
+}
+
+void freeStream(IsoStream *) {} // the members lie in the block that libisofs frees
+
+int updateSize(IsoStream *)
+{
+    return 1;
+}
+
+IsoStreamIface streamClass {
+    1,        { 'u', 's', 'e', 'r' }, openStream, closeStream, sizeOf,  readStream, isRepeatable,
+    identify, freeStream,             updateSize, nullptr,     nullptr, nullptr,
+};
+
+IsoStream *newStream(const FolderTree &tree, const Entry &entry, FolderReader &reader)
+{
+    auto *file = static_cast<FileStream *>(std::calloc(1, sizeof(FileStream)));
+    if (!file)
+        return nullptr;
+    file->stream = { &streamClass, 1, file };
+    file->reader = &reader;
+    file->size = tree.contents()[entry.first].size;
+    file->content = entry.first;
+    return &file->stream;
+}
+
+void initialize()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        iso_init();
+        char keep[] = "FAILURE", print[] = "NEVER", id[] = "";
+        iso_set_msgs_severities(keep, print, id);
+        // Names are bytes; where they have to be characters (Joliet) they are UTF-8.
+        char charset[] = "UTF-8";
+        iso_set_local_charset(charset, 0);
+    });
+}
+
+void copyAttributes(IsoNode *node, const Entry &entry)
+{
+    iso_node_set_permissions(node, entry.mode & 07777);
+    iso_node_set_uid(node, entry.uid);
+    iso_node_set_gid(node, entry.gid);
+    iso_node_set_mtime(node, entry.modified);
+    iso_node_set_atime(node, entry.accessed);
+    iso_node_set_ctime(node, entry.changed);
+}
+
+class Builder {
+public:
+    Builder(const FolderTree &tree, FolderReader &reader, ::IsoImage *image)
+        : m_tree(tree), m_reader(reader), m_image(image), m_folders(tree.entries().size())
+    {
+    }
+
+    Result<void> run()
+    {
+        IsoDir *root = iso_image_get_root(m_image);
+        copyAttributes(iso_node(root), m_tree.entries()[0]);
+        m_folders[0] = root;
+        std::vector<std::uint32_t> pending { 0 };
+        while (!pending.empty()) {
+            const std::uint32_t folder = pending.back();
+            pending.pop_back();
+            const Entry &entry = m_tree.entries()[folder];
+            // From the last name to the first: libisofs keeps a folder as a sorted chain and
+            // looks for the place of a new node from its start.
+            for (std::uint32_t child = entry.first + entry.count; child-- > entry.first;) {
+                if (auto ok = add(child, m_folders[folder]); !ok)
+                    return ok;
+                if (S_ISDIR(m_tree.entries()[child].mode))
+                    pending.push_back(child);
+            }
+        }
+        return {};
+    }
+
+private:
+    static IsoNode *iso_node(IsoDir *folder) { return reinterpret_cast<IsoNode *>(folder); }
+
+    Result<void> add(std::uint32_t number, IsoDir *parent)
+    {
+        const Entry &entry = m_tree.entries()[number];
+        IsoNode *node = nullptr;
+        const int code = addNode(number, entry, parent, node);
+        if (code < 0) {
+            return Error { Exit::failed,
+                           quoted(m_tree.path(number)) + " cannot be put into the image: "
+                               + iso_error_to_msg(code) + "." };
+        }
+        copyAttributes(node, entry);
+        return {};
+    }
+
+    int addNode(std::uint32_t number, const Entry &entry, IsoDir *parent, IsoNode *&node)
+    {
+        const char *name = m_tree.name(entry);
+        if (S_ISDIR(entry.mode)) {
+            const int code = iso_image_add_new_dir(m_image, parent, name, &m_folders[number]);
+            node = iso_node(m_folders[number]);
+            return code;
+        }
+        if (S_ISREG(entry.mode)) {
+            IsoStream *stream = newStream(m_tree, entry, m_reader);
+            IsoFile *file = nullptr;
+            const int code = stream ? iso_image_add_new_file(m_image, parent, name, stream, &file)
+                                    : static_cast<int>(ISO_OUT_OF_MEM);
+            node = reinterpret_cast<IsoNode *>(file);
+            return code;
+        }
+        if (S_ISLNK(entry.mode)) {
+            IsoSymlink *link = nullptr;
+            const int code = iso_image_add_new_symlink(m_image, parent, name, m_tree.target(entry), &link);
+            node = reinterpret_cast<IsoNode *>(link);
+            return code;
+        }
+        IsoSpecial *special = nullptr;
+        const int code = iso_image_add_new_special(m_image, parent, name, entry.mode, entry.special, &special);
+        node = reinterpret_cast<IsoNode *>(special);
+        return code;
+    }
+
+    const FolderTree &m_tree;
+    FolderReader &m_reader;
+    ::IsoImage *m_image;
+    std::vector<IsoDir *> m_folders; ///< node of each entry that is a folder
+};
+
+struct WriteOptionsRelease {
+    void operator()(IsoWriteOpts *options) const { iso_write_opts_free(options); }
+};
+using WriteOptions = std::unique_ptr<IsoWriteOpts, WriteOptionsRelease>;
+
+WriteOptions writeOptions(bool rockRidge)
+{
+    IsoWriteOpts *made = nullptr;
+    if (iso_write_opts_new(&made, 0) < 0)
+        return nullptr;
+    WriteOptions options(made);
+    iso_write_opts_set_iso_level(made, 3);
+    iso_write_opts_set_rockridge(made, rockRidge ? 1 : 0);
+    iso_write_opts_set_rrip_version_1_10(made, 1);
+    iso_write_opts_set_joliet(made, 1);
+    iso_write_opts_set_joliet_long_names(made, 1);
+    iso_write_opts_set_joliet_longer_paths(made, 1);
+    iso_write_opts_set_joliet_utf16(made, 1);
+    // No ';1' and no dot that is not in the name, but only with Joliet (bit 1).
+    iso_write_opts_set_omit_version_numbers(made, 2);
+    iso_write_opts_set_no_force_dots(made, 2);
+    // A tree of any depth stays where it is; no system that reads discs minds today.
+    iso_write_opts_set_allow_deep_paths(made, 1);
+    iso_write_opts_set_allow_longer_paths(made, 1);
+    iso_write_opts_set_relaxed_vol_atts(made, 1);
+    iso_write_opts_set_dir_rec_mtime(made, 7);
+    iso_write_opts_set_always_gmt(made, 1);
+    iso_write_opts_set_sort_files(made, 0);
+    iso_write_opts_set_output_charset(made, "UTF-8");
+    iso_write_opts_set_tail_blocks(made, paddingBlocks);
+    return options;
+}
+
+} // namespace
+
+void IsoTreeRelease::operator()(Iso_Image *tree) const
+{
+    iso_image_unref(tree);
+}
+
+Result<IsoTree> buildIsoTree(const FolderTree &tree, FolderReader &reader, const std::string &volumeName)
+{
+    initialize();
+    ::IsoImage *made = nullptr;
+    if (const int code = iso_image_new(volumeName.c_str(), &made); code < 0) {
+        return Error { Exit::failed, std::string("The image cannot be begun: ") + iso_error_to_msg(code) + "." };
+    }
+    IsoTree image(made);
+    if (auto ok = Builder(tree, reader, made).run(); !ok)
+        return ok.error();
+    return image;
+}
+
+Result<burn::burn_source *> startIso(const IsoTree &tree, bool rockRidge)
+{
+    const WriteOptions options = writeOptions(rockRidge);
+    ::burn_source *source = nullptr; // libisofs knows libburn's structure outside its name space
+    const int code = options ? iso_image_create_burn_source(tree.get(), options.get(), &source)
+                             : static_cast<int>(ISO_OUT_OF_MEM);
+    if (code < 0) {
+        return Error { Exit::failed, std::string("The image cannot be laid out: ") + iso_error_to_msg(code) + "." };
+    }
+    return reinterpret_cast<burn::burn_source *>(source);
+}
+
+std::string lastIsoMessage()
+{
+    char severity[80] = "";
+    char least[] = "FAILURE";
+    char text[ISO_MSGS_MESSAGE_LEN] = "it failed without a reason";
+    int code = 0, image = 0;
+    while (iso_obtain_msgs(least, &code, &image, text, severity) > 0) { }
+    return text;
+}
+
+} // namespace engine::image

@@ -2,12 +2,12 @@
 #include "app/AppDelegate.h"
 #include "app/BatchRun.h"
 #include "app/MainWindow.h"
+#include "ui/SymbolIcon.h"
 
 #include <QApplication>
 #include <QByteArrayView>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QIcon>
 #include <QTimer>
 
 #include <csignal>
@@ -149,7 +149,7 @@ int main(int argc, char **argv)
     QGuiApplication::setApplicationDisplayName(u"Corvalis"_s);
     QGuiApplication::setDesktopFileName(u"corvalis"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVALIS_VERSION));
-    QApplication::setWindowIcon(QIcon(u":/icons/corvalis.svg"_s));
+    QApplication::setWindowIcon(applicationIcon());
     endOnSignals();
     const std::optional<BatchJob> job = readCommandLine(application);
     return job ? runBatch(*job) : runWindow();

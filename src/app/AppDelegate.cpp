@@ -3,7 +3,6 @@
 #include "app/MainWindow.h"
 #include "app/Preferences.h"
 #include "compilation/FolderTree.h"
-#include "compilation/SpaceOccupiedView.h"
 #include "runner/ActivityLog.h"
 #include "ui_MainWindow.h"
 
@@ -98,7 +97,7 @@ void AppDelegate::applicationDidFinishLaunching()
     setModeDefaults();
     m_b_Col1_Ascenging = true;
     m_b_Col2_Ascenging = m_b_Col3_Ascenging = m_b_Col4_Ascenging = false;
-    ui->spaceoccupiedviewControl->setI_Percentage(0);
+    PaintSpaceOccupiedControl();
     i_Type_of_New_Disc = 1;
     loadColourScheme();
     schedule(timerSetAlternatingRows, &AppDelegate::TimerSetAlternatingRowsRoutine);

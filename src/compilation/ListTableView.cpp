@@ -5,11 +5,33 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QProxyStyle>
 
 #include <algorithm>
 
+namespace {
+
+/// The desktop's style with more room left and right of the texts.
+class RoomyStyle : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+
+    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
+    {
+        constexpr int room = 8;
+        const bool isMargin = metric == PM_HeaderMargin || metric == PM_FocusFrameHMargin;
+        return isMargin ? room : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
+
+} // namespace
+
 ListTableView::ListTableView(QWidget *parent) : QTableView(parent)
 {
+    auto *roomy = new RoomyStyle;
+    roomy->setParent(this);
+    setStyle(roomy);
+    horizontalHeader()->setStyle(roomy);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);

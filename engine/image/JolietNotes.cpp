@@ -27,8 +27,8 @@ struct Fate {
     {
         if (count == 0)
             return;
-        const std::string more
-            = count > mostExamples ? " and " + std::to_string(count - mostExamples) + " more" : "";
+        const std::string more =
+            count > mostExamples ? " and " + std::to_string(count - mostExamples) + " more" : "";
         notes.push_back(text + (": " + examples) + more + ".");
     }
 };
@@ -37,9 +37,9 @@ struct Fate {
 
 void addJolietNotes(const FolderTree &tree, std::vector<std::string> &notes)
 {
-    Fate changed { "Characters that the Joliet names cannot hold are stored as '_' there", 0, {} };
-    Fate cut { "The Joliet names are cut to 103 characters", 0, {} };
-    Fate unseen { "Only systems that read Rock Ridge show these links and special files", 0, {} };
+    Fate changed{ "Characters that the Joliet names cannot hold are stored as '_' there", 0, {} };
+    Fate cut{ "The Joliet names are cut to 103 characters", 0, {} };
+    Fate unseen{ "Only systems that read Rock Ridge show these links and special files", 0, {} };
     for (std::uint32_t number = 1; number < tree.entries().size(); ++number) {
         const Entry &entry = tree.entries()[number];
         if (!S_ISREG(entry.mode) && !S_ISDIR(entry.mode)) {

@@ -1,13 +1,16 @@
-#include "image/IsoTree.h"
+#include "image/IsoHeader.h"
 
 #include "base/Words.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdlib>
-#include <mutex>
-
-#include <sys/stat.h>
-
+#include <cstring>
+#include <libburn/libburn.h>
 #include <libisofs/libisofs.h>
+#include <mutex>
+#include <sys/stat.h>
+#include <vector>
 
 // The public header keeps this structure from C++ because it calls its first member "class"; the
 // layout is part of the interface (libisofs.h, "Representation of file contents").
@@ -27,11 +30,21 @@ constexpr std::uint32_t paddingBlocks = 150;
 // Any number that libisofs does not use for streams of its own.
 constexpr unsigned int streamFileSystem = 0xc0;
 
-/// The data of one file: what libisofs allocates as a stream, with our own members behind it.
+/// What stands in for the first bytes of a file's data, to prove where libisofs puts it.
+using Marker = std::array<char, 16>;
+
+Marker markerOf(std::uint32_t content)
+{
+    Marker marker{ 'd', 'a', 't', 'a', ' ', 'o', 'f', ' ', 'f', 'i', 'l', 'e' };
+    std::memcpy(marker.data() + 12, &content, sizeof content);
+    return marker;
+}
+
+/// The place of one file: what libisofs allocates as a stream, with our own members behind it.
 struct FileStream {
     iso_stream stream;
-    FolderReader *reader;
     std::uint64_t size;
+    std::uint64_t left; ///< bytes that libisofs has not asked for yet
     std::uint32_t content;
 };
 
@@ -42,7 +55,7 @@ FileStream &self(IsoStream *stream)
 
 int openStream(IsoStream *stream)
 {
-    self(stream).reader->open(self(stream).content);
+    self(stream).left = self(stream).size;
     return 1;
 }
 
@@ -58,10 +71,14 @@ off_t sizeOf(IsoStream *stream)
 
 int readStream(IsoStream *stream, void *buffer, size_t size)
 {
-    std::size_t got = 0;
-    if (!self(stream).reader->read(static_cast<std::byte *>(buffer), size, got))
-        return static_cast<int>(ISO_FILE_READ_ERROR);
-    return static_cast<int>(got);
+    FileStream &file = self(stream);
+    size = static_cast<size_t>(std::min<std::uint64_t>(size, file.left));
+    if (file.left == file.size) {
+        const Marker marker = markerOf(file.content);
+        std::memcpy(buffer, marker.data(), std::min(size, marker.size()));
+    }
+    file.left -= size;
+    return static_cast<int>(size);
 }
 
 int isRepeatable(IsoStream *)
@@ -69,7 +86,7 @@ int isRepeatable(IsoStream *)
     return 1;
 }
 
-// Files are stored in the order of these numbers, and names of equal numbers share their data.
+// Files are laid out in the order of these numbers, and names of equal numbers share their data.
 void identify(IsoStream *stream, unsigned int *fileSystem, dev_t *device, ino_t *inode)
 {
     *fileSystem = streamFileSystem;
@@ -77,25 +94,37 @@ void identify(IsoStream *stream, unsigned int *fileSystem, dev_t *device, ino_t 
     *inode = self(stream).content;
 }
 
-void freeStream(IsoStream *) {} // the members lie in the block that libisofs frees
+void freeStream(IsoStream *)
+{
+} // the members lie in the block that libisofs frees
 
 int updateSize(IsoStream *)
 {
     return 1;
 }
 
-IsoStreamIface streamClass {
-    1,        { 'u', 's', 'e', 'r' }, openStream, closeStream, sizeOf,  readStream, isRepeatable,
-    identify, freeStream,             updateSize, nullptr,     nullptr, nullptr,
+IsoStreamIface streamClass{
+    1,
+    { 'u', 's', 'e', 'r' },
+    openStream,
+    closeStream,
+    sizeOf,
+    readStream,
+    isRepeatable,
+    identify,
+    freeStream,
+    updateSize,
+    nullptr,
+    nullptr,
+    nullptr,
 };
 
-IsoStream *newStream(const FolderTree &tree, const Entry &entry, FolderReader &reader)
+IsoStream *newStream(const FolderTree &tree, const Entry &entry)
 {
     auto *file = static_cast<FileStream *>(std::calloc(1, sizeof(FileStream)));
     if (!file)
         return nullptr;
     file->stream = { &streamClass, 1, file };
-    file->reader = &reader;
     file->size = tree.contents()[entry.first].size;
     file->content = entry.first;
     return &file->stream;
@@ -126,8 +155,10 @@ void copyAttributes(IsoNode *node, const Entry &entry)
 
 class Builder {
 public:
-    Builder(const FolderTree &tree, FolderReader &reader, ::IsoImage *image)
-        : m_tree(tree), m_reader(reader), m_image(image), m_folders(tree.entries().size())
+    Builder(const FolderTree &tree, ::IsoImage *image)
+        : m_tree(tree)
+        , m_image(image)
+        , m_folders(tree.entries().size())
     {
     }
 
@@ -136,7 +167,7 @@ public:
         IsoDir *root = iso_image_get_root(m_image);
         copyAttributes(iso_node(root), m_tree.entries()[0]);
         m_folders[0] = root;
-        std::vector<std::uint32_t> pending { 0 };
+        std::vector<std::uint32_t> pending{ 0 };
         while (!pending.empty()) {
             const std::uint32_t folder = pending.back();
             pending.pop_back();
@@ -162,9 +193,9 @@ private:
         IsoNode *node = nullptr;
         const int code = addNode(number, entry, parent, node);
         if (code < 0) {
-            return Error { Exit::failed,
-                           quoted(m_tree.path(number)) + " cannot be put into the image: "
-                               + iso_error_to_msg(code) + "." };
+            return Error{ Exit::failed,
+                quoted(m_tree.path(number)) + " cannot be put into the image: " + iso_error_to_msg(code)
+                    + "." };
         }
         copyAttributes(node, entry);
         return {};
@@ -179,7 +210,7 @@ private:
             return code;
         }
         if (S_ISREG(entry.mode)) {
-            IsoStream *stream = newStream(m_tree, entry, m_reader);
+            IsoStream *stream = newStream(m_tree, entry);
             IsoFile *file = nullptr;
             const int code = stream ? iso_image_add_new_file(m_image, parent, name, stream, &file)
                                     : static_cast<int>(ISO_OUT_OF_MEM);
@@ -193,13 +224,13 @@ private:
             return code;
         }
         IsoSpecial *special = nullptr;
-        const int code = iso_image_add_new_special(m_image, parent, name, entry.mode, entry.special, &special);
+        const int code =
+            iso_image_add_new_special(m_image, parent, name, entry.mode, entry.special, &special);
         node = reinterpret_cast<IsoNode *>(special);
         return code;
     }
 
     const FolderTree &m_tree;
-    FolderReader &m_reader;
     ::IsoImage *m_image;
     std::vector<IsoDir *> m_folders; ///< node of each entry that is a folder
 };
@@ -237,46 +268,124 @@ WriteOptions writeOptions(bool rockRidge)
     return options;
 }
 
-} // namespace
-
-void IsoTreeRelease::operator()(Iso_Image *tree) const
+std::uint64_t dataBlocks(const FolderTree &tree)
 {
-    iso_image_unref(tree);
+    std::uint64_t blocks = 0;
+    for (const Content &content : tree.contents())
+        blocks += (content.size + blockSize - 1) / blockSize;
+    return blocks;
 }
 
-Result<IsoTree> buildIsoTree(const FolderTree &tree, FolderReader &reader, const std::string &volumeName)
-{
-    initialize();
-    ::IsoImage *made = nullptr;
-    if (const int code = iso_image_new(volumeName.c_str(), &made); code < 0) {
-        return Error { Exit::failed, std::string("The image cannot be begun: ") + iso_error_to_msg(code) + "." };
-    }
-    IsoTree image(made);
-    if (auto ok = Builder(tree, reader, made).run(); !ok)
-        return ok.error();
-    return image;
-}
-
-Result<burn::burn_source *> startIso(const IsoTree &tree, bool rockRidge)
-{
-    const WriteOptions options = writeOptions(rockRidge);
-    ::burn_source *source = nullptr; // libisofs knows libburn's structure outside its name space
-    const int code = options ? iso_image_create_burn_source(tree.get(), options.get(), &source)
-                             : static_cast<int>(ISO_OUT_OF_MEM);
-    if (code < 0) {
-        return Error { Exit::failed, std::string("The image cannot be laid out: ") + iso_error_to_msg(code) + "." };
-    }
-    return reinterpret_cast<burn::burn_source *>(source);
-}
-
-std::string lastIsoMessage()
+std::string lastMessage()
 {
     char severity[80] = "";
     char least[] = "FAILURE";
-    char text[ISO_MSGS_MESSAGE_LEN] = "it failed without a reason";
+    char text[ISO_MSGS_MESSAGE_LEN] = "libisofs gave no reason";
     int code = 0, image = 0;
     while (iso_obtain_msgs(least, &code, &image, text, severity) > 0) { }
     return text;
+}
+
+} // namespace
+
+void IsoHeader::ImageRelease::operator()(Iso_Image *image) const
+{
+    iso_image_unref(image);
+}
+
+void IsoHeader::SourceRelease::operator()(burn::burn_source *source) const
+{
+    if (!source->read && source->version >= 1 && source->cancel)
+        source->cancel(source);
+    burn::burn_source_free(source);
+}
+
+std::uint32_t IsoHeader::paddingBlocks()
+{
+    return image::paddingBlocks;
+}
+
+Result<IsoHeader> IsoHeader::make(const FolderTree &tree, const std::string &volumeName, bool rockRidge)
+{
+    initialize();
+    ::IsoImage *made = nullptr;
+    if (const int code = iso_image_new(volumeName.c_str(), &made); code < 0)
+        return Error{ Exit::failed,
+            std::string("The image cannot be begun: ") + iso_error_to_msg(code) + "." };
+    IsoHeader header;
+    header.m_image.reset(made);
+    if (auto ok = Builder(tree, made).run(); !ok)
+        return ok.error();
+    if (auto ok = header.layOut(tree, rockRidge); !ok)
+        return ok.error();
+    return header;
+}
+
+Result<void> IsoHeader::layOut(const FolderTree &tree, bool rockRidge)
+{
+    const WriteOptions options = writeOptions(rockRidge);
+    ::burn_source *source = nullptr; // libisofs knows libburn's structure outside its name space
+    const int code = options ? iso_image_create_burn_source(m_image.get(), options.get(), &source)
+                             : static_cast<int>(ISO_OUT_OF_MEM);
+    if (code < 0)
+        return Error{ Exit::failed,
+            std::string("The image cannot be laid out: ") + iso_error_to_msg(code) + "." };
+    m_source.reset(reinterpret_cast<burn::burn_source *>(source));
+    const auto bytes = static_cast<std::uint64_t>(m_source->get_size(m_source.get()));
+    m_imageBlocks = static_cast<std::uint32_t>(bytes / blockSize);
+    m_left = bytes - (dataBlocks(tree) + image::paddingBlocks) * blockSize;
+    const auto first = std::find_if(tree.contents().begin(), tree.contents().end(),
+        [](const Content &content) { return content.size > 0; });
+    m_firstContent = static_cast<std::uint32_t>(first - tree.contents().begin());
+    m_firstMarker = 0;
+    if (first != tree.contents().end())
+        m_firstMarker = static_cast<std::size_t>(std::min<std::uint64_t>(first->size, sizeof(Marker)));
+    return {};
+}
+
+Result<std::size_t> IsoHeader::read(std::span<std::byte> buffer)
+{
+    if (!m_source)
+        return std::size_t{ 0 };
+    buffer = buffer.first(static_cast<std::size_t>(std::min<std::uint64_t>(buffer.size(), m_left)));
+    if (auto ok = readSource(buffer); !ok)
+        return ok.error();
+    m_left -= buffer.size();
+    if (m_left == 0) {
+        if (auto ok = finish(); !ok)
+            return ok.error();
+    }
+    return buffer.size();
+}
+
+Result<void> IsoHeader::readSource(std::span<std::byte> buffer)
+{
+    while (!buffer.empty()) {
+        auto *bytes = reinterpret_cast<unsigned char *>(buffer.data());
+        const auto size = static_cast<int>(buffer.size());
+        const int count = m_source->read ? m_source->read(m_source.get(), bytes, size)
+                                         : m_source->read_xt(m_source.get(), bytes, size);
+        if (count <= 0)
+            return Error{ Exit::failed, "The image cannot be produced: " + lastMessage() + "." };
+        buffer = buffer.subspan(static_cast<std::size_t>(count));
+    }
+    return {};
+}
+
+/// Makes sure that the data of the files begins here, and lets libisofs go.
+Result<void> IsoHeader::finish()
+{
+    std::array<std::byte, blockSize> block;
+    if (auto ok = readSource(block); !ok)
+        return ok;
+    const Marker marker = markerOf(m_firstContent);
+    if (std::memcmp(block.data(), marker.data(), m_firstMarker) != 0)
+        return Error{ Exit::failed,
+            "The image cannot be produced: libisofs laid the files out in an unknown way; "
+            "please report this with its version." };
+    m_source.reset();
+    m_image.reset();
+    return {};
 }
 
 } // namespace engine::image

@@ -5,6 +5,7 @@
 #include "compilation/FolderTree.h"
 #include "runner/ActivityLog.h"
 #include "ui_MainWindow.h"
+#include "writing/FolderStaging.h"
 
 #include <QApplication>
 #include <QDir>
@@ -12,6 +13,7 @@
 #include <QLoggingCategory>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QThreadPool>
 
 #include <cstdio>
 #include <cstdlib>
@@ -56,7 +58,13 @@ AppDelegate::AppDelegate(MainWindow *mainWindow, Surroundings surroundings)
 {
 }
 
-AppDelegate::~AppDelegate() = default;
+AppDelegate::~AppDelegate()
+{
+    // Files being measured and folders being copied report back to this object.
+    for (const auto &copy : std::as_const(stagingCopies))
+        copy->stop = true;
+    QThreadPool::globalInstance()->waitForDone();
+}
 
 QString AppDelegate::preference(const QString &key) const
 {

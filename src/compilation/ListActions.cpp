@@ -5,6 +5,7 @@
 #include "compilation/ListTableView.h"
 #include "compilation/Measuring.h"
 #include "runner/StatusSheets.h"
+#include "runner/ToolRun.h"
 #include "ui/PreviewPlayer.h"
 #include "ui_MainWindow.h"
 
@@ -55,7 +56,10 @@ FolderNames namesIn(const QString &folder)
 
 QString AppDelegate::GetMediaFileDuration(const QString &path)
 {
-    return compilation::durationText(captureTool(sffmpegPath, {u"-i"_s, path}));
+    // Without an output file to write, a report of the input is followed by an error and status 1.
+    runner::ToolRun report(sffmpegPath, {u"-i"_s, path}, activityLog);
+    report.setExpectedStatus(1);
+    return compilation::durationText(report.capture(around.probeLimit));
 }
 
 qint64 AppDelegate::Return_Seconds_From_Duration_Str(const QString &duration)

@@ -113,7 +113,7 @@ void ToolRun::finish(const ToolEnd &end)
     take(StandardOutput);
     if (processChannelMode() == SeparateChannels)
         take(StandardError);
-    m_log->end(m_position, end.text(), end.troubled());
+    m_log->end(m_position, end.text(), end.troubled(m_expectedStatus));
     Q_EMIT ended(end);
 }
 

@@ -24,7 +24,8 @@ struct ToolEnd {
 
     /// One sentence for the log.
     QString text() const;
-    bool troubled() const { return how != How::Ended || code != 0; }
+    /// Whether this is not how a run that should end with `expected` ends.
+    bool troubled(int expected = 0) const { return how != How::Ended || code != expected; }
 };
 
 /// A child process that writes itself into the activity log. Its standard input is the null device.
@@ -35,6 +36,9 @@ class ToolRun : public QProcess {
 public:
     ToolRun(const QString &program, const QStringList &arguments, ActivityLog *log, QObject *parent = nullptr);
     ~ToolRun() override;
+
+    /// The status with which this tool ends when all is well; 0 unless set.
+    void setExpectedStatus(int status) { m_expectedStatus = status; }
 
     /// Starts the child. ended() follows exactly once, also when it cannot be started, and never
     /// before control is back in the event loop.
@@ -64,6 +68,7 @@ private:
     ActivityLog *m_log;
     qsizetype m_position = -1;
     ToolEnd m_end;
+    int m_expectedStatus = 0;
     bool m_finished = false;
 };
 

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QStyleFactory>
@@ -31,6 +32,13 @@ QPalette darkPalette()
     QPalette dark(QColor(53, 53, 53), QColor(42, 42, 42));
     dark.setColor(QPalette::Highlight, QColor(61, 122, 190));
     return dark;
+}
+
+/// Waits until `reached` answers true; without it there is nothing to photograph.
+void waitFor(const std::function<bool()> &reached, int limit)
+{
+    if (!QTest::qWaitFor(reached, limit))
+        qFatal("The program did not come this far in %d ms.", limit);
 }
 
 class Photographer {
@@ -76,7 +84,7 @@ private:
         shoot(u"audio-empty"_s);
         m_panels.answer = media({u"*.mp3"_s, u"*.m4a"_s, u"*.wav"_s, u"*.wma"_s});
         m_controller.OnActionAudioAddFiles();
-        QTest::qWaitFor([this] { return !m_controller.windowUniqueProgress; }, 30'000);
+        waitFor([this] { return !m_controller.windowUniqueProgress; }, 30'000);
         ui()->tableviewAudioFiles->selectRow(2);
         shoot(u"audio"_s);
     }
@@ -84,7 +92,7 @@ private:
     void takeJob()
     {
         QTimer progress;
-        QObject::connect(&progress, &QTimer::timeout, [this] {
+        QObject::connect(&progress, &QTimer::timeout, qApp, [this] {
             if (m_controller.windowProgress && m_controller.windowProgress->progressOverall()->value() == 3
                 && m_controller.windowProgress->progressBar()->value() > 20 && !m_progressTaken) {
                 m_progressTaken = true;
@@ -93,9 +101,9 @@ private:
         });
         progress.start(20);
         ui()->btnBurn->click();
-        QTest::qWaitFor([this] { return m_controller.windowPerformingOperation; }, 60'000);
+        waitFor([this] { return !m_controller.windowPerformingOperation.isNull(); }, 60'000);
         shoot(u"working"_s);
-        QTest::qWaitFor([this] { return m_controller.windowOperationCompleted; }, 60'000);
+        waitFor([this] { return !m_controller.windowOperationCompleted.isNull(); }, 60'000);
         shoot(u"complete"_s);
         m_controller.Close_Window_Operation_Complete();
         QTest::qWait(100);
@@ -112,7 +120,7 @@ private:
         ui()->submenuItemTabVideo->trigger();
         m_panels.answer = media({u"*.mp4"_s, u"*.avi"_s, u"*.mov"_s});
         m_controller.OnActionVideoAddFiles();
-        QTest::qWaitFor([this] { return !m_controller.windowUniqueProgress; }, 30'000);
+        waitFor([this] { return !m_controller.windowUniqueProgress; }, 30'000);
         shoot(u"video"_s);
         ui()->submenuItemTabData->trigger();
         m_panels.answer = {QUrl::fromLocalFile(m_media)};

@@ -17,7 +17,7 @@ static void loadSymbols()
 
 namespace {
 
-constexpr qreal disabledOpacity = 0.4;
+constexpr float disabledOpacity = 0.4F;
 
 QString fileOf(const QString &name)
 {

@@ -74,7 +74,7 @@ void Spinner::paintEvent(QPaintEvent *)
     painter.rotate(m_step * 360.0 / spokes);
     for (int i = 0; i < spokes; ++i) {
         painter.rotate(360.0 / spokes);
-        colour.setAlphaF(0.15f + 0.85f * static_cast<float>(i + 1) / spokes);
+        colour.setAlphaF(std::min(1.0f, 0.15f + 0.85f * static_cast<float>(i + 1) / spokes));
         painter.setPen(QPen(colour, thickness, Qt::SolidLine, Qt::RoundCap));
         painter.drawLine(QPointF(0, -radius * 0.5), QPointF(0, -radius + thickness));
     }

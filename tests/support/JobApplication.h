@@ -40,11 +40,16 @@ inline const QByteArray blankOther = "           Type: MO                   Name
 /// Notes "+Name" when a sheet shows and "-Name" when it goes, for as long as it lives.
 class SheetNotes : public QObject {
 public:
-    QStringList order;
     std::function<void(Sheet *)> onShow; ///< called when a sheet has become visible
     std::function<void(Sheet *)> onHide;
-    /// Milliseconds between the `from`th and the `to`th note.
-    qint64 between(int from, int to) const { return m_times.value(to) - m_times.value(from); }
+    /// The notes since the last clear().
+    QStringList order() const { return m_order; }
+    /// Milliseconds between the last notes with these texts.
+    qint64 sinceLast(const QString &first, const QString &second) const
+    {
+        return m_times.value(second) - m_times.value(first);
+    }
+    void clear() { m_order.clear(); }
 
     SheetNotes()
     {
@@ -58,8 +63,8 @@ protected:
         const bool shown = event->type() == QEvent::Show;
         if ((shown || event->type() == QEvent::Hide) && !event->spontaneous()) {
             if (auto *sheet = qobject_cast<Sheet *>(watched)) {
-                order.append(QLatin1Char(shown ? '+' : '-') + QLatin1String(sheet->metaObject()->className()));
-                m_times.append(m_clock.elapsed());
+                m_order.append(QLatin1Char(shown ? '+' : '-') + QLatin1String(sheet->metaObject()->className()));
+                m_times[m_order.last()] = m_clock.elapsed();
                 if (const auto &hook = shown ? onShow : onHide)
                     hook(sheet);
             }
@@ -69,7 +74,8 @@ protected:
 
 private:
     QElapsedTimer m_clock;
-    QList<qint64> m_times;
+    QStringList m_order;
+    QHash<QString, qint64> m_times;
 };
 
 /// Answers as NotingQuestions does, and tells the test before each answer.

@@ -75,14 +75,14 @@ class DiscChecksTest : public QObject {
     {
         app.launch();
         app.choose(kind.code);
-        app.sheets.order.clear();
+        app.sheets.clear();
         if (!withEntry)
             return;
         if (QLatin1StringView(kind.list) == "data"_L1)
             app.addFolder(app.media.path());
         else
             QVERIFY(app.add({app.file(u"clip.mp4"_s)}));
-        app.sheets.order.clear();
+        app.sheets.clear();
     }
 
     /// Presses the burn button and verifies that nothing but alerts came of it.
@@ -96,7 +96,7 @@ class DiscChecksTest : public QObject {
         const qsizetype converted = app.ffmpeg.runs().size();
         app.press("btnBurn");
         QTest::qWait(150); // longer than the timer that starts a write
-        QCOMPARE(app.sheets.order, QStringList());
+        QCOMPARE(app.sheets.order(), QStringList());
         QCOMPARE(app.drutil.runs(u"burn"_s), QList<QStringList>());
         QCOMPARE(app.ffmpeg.runs().size(), converted);
         QCOMPARE(app.controller->arrayMediaFiles.size() + app.controller->arrayDataFolders.size(), listed);

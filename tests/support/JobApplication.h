@@ -17,6 +17,7 @@
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QThreadPool>
+#include <QWindow>
 
 /// What the disc utility says of a medium.
 namespace discs {
@@ -143,6 +144,18 @@ public:
                    + commands);
     }
 
+    /// Shell commands that wait until release(gate), at most twenty seconds.
+    static QByteArray waitFor(const QByteArray &gate)
+    {
+        return "waited=0; until [ -e \"$tool.go." + gate
+            + "\" ] || [ $waited -gt 400 ]; do sleep 0.05; waited=$((waited + 1)); done\n";
+    }
+    static void release(const NotingTool &tool, const QByteArray &gate)
+    {
+        if (!QFile(tool.path() + QLatin1String(".go.") + QString::fromUtf8(gate)).open(QIODevice::WriteOnly))
+            qFatal("the gate cannot be opened");
+    }
+
     /// The paths that the disc utility found in the folder that it was to write, sorted.
     QStringList burned() const
     {
@@ -165,8 +178,14 @@ public:
         return path;
     }
 
-    /// Clicks a button of the main window.
-    void press(const char *button) const { QTest::mouseClick(element<QAbstractButton>(button), Qt::LeftButton); }
+    /// Clicks where a button of the main window is, as the mouse does: what covers or blocks the button
+    /// keeps the click from it.
+    void press(const char *button) const
+    {
+        const auto *widget = element<QAbstractButton>(button);
+        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {},
+                          widget->mapTo(window.get(), widget->rect().center()));
+    }
     void trigger(const char *menuItem) const { element<QAction>(menuItem)->trigger(); }
 
     /// Chooses the kind of disc in the new-disc sheet.

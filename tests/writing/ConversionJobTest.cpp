@@ -221,9 +221,8 @@ private Q_SLOTS:
         JobApplication app;
         // Two lines for each file, the second one only when the first has been seen.
         app.convertWith("printf 'size= 10 time=00:00:%s bitrate= 128\\r' 07.20 >&2\n"
-                        "waited=0; until [ -e \"$tool.go.$(basename \"$2\")\" ] || [ $waited -gt 200 ]; "
-                        "do sleep 0.05; waited=$((waited + 1)); done\n"
-                        "printf 'size= 20 time=00:02:%s bitrate= 128\\r' 00.00 >&2\n");
+                        + app.waitFor("$(basename \"$2\")")
+                        + "printf 'size= 20 time=00:02:%s bitrate= 128\\r' 00.00 >&2\n");
         ready(app, kinds[0], {app.file(u"short.mp3"_s, "00:00:14.00"), app.file(u"long.mp3"_s, "00:03:20.50")});
         QStringList noted;
         app.sheets.onShow = [&app, &noted](Sheet *sheet) {
@@ -236,7 +235,7 @@ private Q_SLOTS:
                 noted.append(u"%1 of %2 to %3"_s.arg(value).arg(item->minimum()).arg(item->maximum()));
                 if (value != 0) {
                     const QString name = app.controller->i_Orig_Duration_in_Seconds == 14 ? u"short.mp3"_s : u"long.mp3"_s;
-                    QFile(app.ffmpeg.path() + u".go."_s + name).open(QIODevice::WriteOnly);
+                    app.release(app.ffmpeg, name.toUtf8());
                 }
             });
             connect(overall, &QProgressBar::valueChanged, sheet, [&noted, overall](int value) {

@@ -1,0 +1,186 @@
+#include "drive/Burn.h"
+
+#include "audio/AudioDisc.h"
+#include "drive/BlockDigests.h"
+#include "drive/DiscContent.h"
+#include "report/Medium.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace engine::drive {
+
+namespace {
+
+using report::Medium;
+
+void say(const BurnOptions &options, const std::string &line)
+{
+    if (options.note)
+        options.note(line);
+}
+
+void preparing(const BurnOptions &options)
+{
+    report::Progress progress;
+    progress.phase = report::Phase::preparing;
+    options.control.report(progress, 0);
+}
+
+Error noDisc(const std::string &driveName)
+{
+    return { Exit::noDisc,
+        "There is no disc in " + driveName + ", or its tray is open: insert one and close the tray." };
+}
+
+Result<void> checkWritable(const Medium &medium, const std::string &driveName)
+{
+    if (medium.kind == report::MediumKind::none)
+        return noDisc(driveName);
+    if (report::canWriteNow(medium) || report::canErase(medium))
+        return {};
+    return Error{ Exit::failed,
+        "The " + std::string(report::factsOf(medium.kind).type) + " in " + driveName
+            + " cannot be written any more: insert a blank or rewritable disc." };
+}
+
+/// What the medium takes once a rewritable one is erased.
+std::uint64_t roomOn(const Medium &medium)
+{
+    return report::canErase(medium) ? std::max(medium.capacity, medium.free) : medium.free;
+}
+
+Result<void> checkSize(std::uint64_t needed, std::uint64_t room, const std::string &driveName)
+{
+    if (needed <= room)
+        return {};
+    return Error{ Exit::failed,
+        "The data need " + std::to_string(needed) + " blocks, and the disc in " + driveName + " has room for "
+            + std::to_string(room) + ": take something out, or insert a larger disc." };
+}
+
+/// Makes a rewritable medium that is not blank blank.
+Result<void> eraseFirst(Lease &lease, const Medium &medium, const BurnOptions &options)
+{
+    if (medium.state == report::MediumState::blank || !report::canErase(medium))
+        return {};
+    say(options, "The disc is not blank; it is erased first.");
+    return lease.erase(EraseMode::quick, options.control);
+}
+
+/// Opens the drive for a write and looks at what is in it.
+Result<std::unique_ptr<Lease>> openForWriting(Drive &drive, Medium &medium)
+{
+    auto lease = drive.acquire(Purpose::change);
+    if (!lease)
+        return lease;
+    Result<Medium> found = (*lease)->medium();
+    if (!found)
+        return found.error();
+    medium = std::move(found).value();
+    if (auto writable = checkWritable(medium, drive.name()); !writable)
+        return writable.error();
+    return lease;
+}
+
+using Content = std::unique_ptr<DiscData>;
+
+Result<void> writeAndVerify(
+    Lease &lease, DiscData &data, const std::string &driveName, const BurnOptions &options)
+{
+    BlockDigests sent;
+    if (auto written = lease.writeData(data, sent, options.control); !written)
+        return written;
+    if (!options.verify)
+        return {};
+    if (auto loaded = lease.reload(); !loaded)
+        return loaded;
+    return verify(lease, sent, driveName, options.control);
+}
+
+Result<void> burnContent(
+    Drive &drive, const std::function<Result<Content>()> &prepare, const BurnOptions &options)
+{
+    Medium medium;
+    const auto lease = openForWriting(drive, medium);
+    if (!lease)
+        return lease.error();
+    preparing(options);
+    const Result<Content> data = prepare();
+    if (!data)
+        return data.error();
+    if (auto fits = checkSize((*data)->blocks(), roomOn(medium), drive.name()); !fits)
+        return fits;
+    auto done = eraseFirst(**lease, medium, options);
+    if (done)
+        done = writeAndVerify(**lease, **data, drive.name(), options);
+    (*lease)->present();
+    return done;
+}
+
+Result<void> checkAudioMedium(
+    const Medium &medium, const audio::AudioDisc &disc, const std::string &driveName)
+{
+    if (report::factsOf(medium.kind).family != report::Family::cd)
+        return Error{ Exit::failed,
+            "An audio disc needs a CD, and there is a " + std::string(report::factsOf(medium.kind).type)
+                + " in " + driveName + ": insert a blank CD-R or CD-RW." };
+    // The pause of track 1 lies before the blocks that a disc counts.
+    return checkSize(disc.sectorCount() - audio::firstPause, roomOn(medium), driveName);
+}
+
+} // namespace
+
+Result<void> burnFolder(Drive &drive, const std::string &folder, const BurnOptions &options)
+{
+    return burnContent(
+        drive, [&] { return FolderContent::read(folder, options); }, options);
+}
+
+Result<void> burnImageFile(Drive &drive, const std::string &image, const BurnOptions &options)
+{
+    return burnContent(
+        drive, [&] { return ImageContent::open(image); }, options);
+}
+
+Result<void> burnAudioFolder(Drive &drive, const std::string &folder, const BurnOptions &options)
+{
+    Medium medium;
+    const auto lease = openForWriting(drive, medium);
+    if (!lease)
+        return lease.error();
+    preparing(options);
+    const Result<audio::AudioDisc> disc = audio::readAudioFolder(folder);
+    if (!disc)
+        return disc.error();
+    for (const std::string &line : disc->notes)
+        say(options, line);
+    if (auto fits = checkAudioMedium(medium, *disc, drive.name()); !fits)
+        return fits;
+    auto done = eraseFirst(**lease, medium, options);
+    if (done)
+        done = (*lease)->writeAudio(*disc, options.control);
+    (*lease)->present();
+    return done;
+}
+
+Result<void> eraseMedium(Drive &drive, EraseMode mode, const Control &control)
+{
+    const auto lease = drive.acquire(Purpose::change);
+    if (!lease)
+        return lease.error();
+    const Result<Medium> medium = (*lease)->medium();
+    if (!medium)
+        return medium.error();
+    if (medium->kind == report::MediumKind::none)
+        return noDisc(drive.name());
+    if (!report::canErase(*medium))
+        return Error{ Exit::failed,
+            "The " + std::string(report::factsOf(medium->kind).type) + " in " + drive.name()
+                + " cannot be erased: insert a rewritable disc." };
+    auto erased = (*lease)->erase(mode, control);
+    (*lease)->present();
+    return erased;
+}
+
+} // namespace engine::drive

@@ -1,0 +1,18 @@
+// The device node of a drive: whether it may be opened, and if not, why.
+#pragma once
+
+#include "base/Result.h"
+
+#include <string>
+
+namespace engine::drive {
+
+/// The error for an open() of `device` that failed with `failure`. `group` owns the node.
+Error openError(
+    const std::string &device, const std::string &driveName, int failure, const std::string &group);
+
+/// Tries whether nobody else has `device` for himself, waiting a little for whoever only looks at it (udev
+/// does after each change of the medium). The device is closed again. A mounted one is not free.
+Result<void> checkFree(const std::string &device, const std::string &driveName);
+
+} // namespace engine::drive

@@ -1,0 +1,127 @@
+#include "drive/DiscContent.h"
+
+#include "base/Words.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <utility>
+
+namespace engine::drive {
+
+namespace {
+
+constexpr int shrunk = -1;
+
+image::IsoOptions isoOptions(const std::function<int()> &stopSignal)
+{
+    image::IsoOptions options;
+    if (stopSignal)
+        options.stop = [stopSignal] { return stopSignal() != 0; };
+    return options;
+}
+
+/// The error of a reading that may have been stopped, with the exit code of the signal.
+Error readingError(const Error &error, const std::function<int()> &stopSignal)
+{
+    const int signal = stopSignal ? stopSignal() : 0;
+    return signal == 0 ? error
+                       : stoppedBy(signal, "Stopped before anything was written: the disc is as it was.");
+}
+
+} // namespace
+
+Result<std::unique_ptr<DiscData>> FolderContent::read(const std::string &folder, const BurnOptions &options)
+{
+    const auto &stopSignal = options.control.stopSignal;
+    Result<image::IsoImage> image = image::IsoImage::fromFolder(folder, isoOptions(stopSignal));
+    if (!image)
+        return readingError(image.error(), stopSignal);
+    if (options.note)
+        for (const std::string &note : image->notes())
+            options.note(note);
+    return std::unique_ptr<DiscData>(new FolderContent(folder, std::move(image).value(), stopSignal));
+}
+
+FolderContent::FolderContent(std::string folder, image::IsoImage image, std::function<int()> stopSignal)
+    : m_folder(std::move(folder))
+    , m_image(std::move(image))
+    , m_blocks(m_image.blockCount())
+    , m_stopSignal(std::move(stopSignal))
+{
+}
+
+Result<burn::burn_source *> FolderContent::start()
+{
+    // An image streams once; another attempt reads the tree anew.
+    if (std::exchange(m_streamed, true)) {
+        Result<image::IsoImage> again = image::IsoImage::fromFolder(m_folder, isoOptions(m_stopSignal));
+        if (!again)
+            return readingError(again.error(), m_stopSignal);
+        if (again->blockCount() != m_blocks)
+            return Error{ Exit::failed,
+                engine::quoted(m_folder) + " changed while it was being written: try again." };
+        m_image = std::move(again).value();
+    }
+    return m_image.burnSource();
+}
+
+ImageContent::ImageContent(std::string path, Fd file, std::uint64_t size)
+    : m_path(std::move(path))
+    , m_file(std::move(file))
+    , m_size(size)
+{
+}
+
+Result<std::unique_ptr<DiscData>> ImageContent::open(const std::string &path)
+{
+    // O_NONBLOCK: a named pipe must not hold up the program; regular files do not know the difference.
+    Fd file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat info { };
+    if (!file || ::fstat(file.get(), &info) != 0)
+        return systemError(engine::quoted(path) + " cannot be read", errno);
+    if (!S_ISREG(info.st_mode))
+        return Error{ Exit::failed, engine::quoted(path) + " is not a file with a disc image." };
+    if (info.st_size == 0)
+        return Error{ Exit::failed, engine::quoted(path) + " is empty: there is nothing to write." };
+    ::posix_fadvise(file.get(), 0, 0, POSIX_FADV_SEQUENTIAL);
+    return std::unique_ptr<DiscData>(
+        new ImageContent(path, std::move(file), static_cast<std::uint64_t>(info.st_size)));
+}
+
+Result<burn::burn_source *> ImageContent::start()
+{
+    m_next = 0;
+    m_failure = 0;
+    m_source = newSource(blocks() * blockBytes, [this](std::span<std::byte> out) { return fill(out); });
+    return m_source.get();
+}
+
+std::ptrdiff_t ImageContent::fill(std::span<std::byte> out)
+{
+    const std::uint64_t end = blocks() * blockBytes;
+    const auto total = static_cast<std::size_t>(std::min<std::uint64_t>(out.size(), end - m_next));
+    const std::uint64_t left = m_next < m_size ? m_size - m_next : 0;
+    const auto real = static_cast<std::size_t>(std::min<std::uint64_t>(total, left));
+    const std::ptrdiff_t got = readFully(m_file.get(), out.first(real), static_cast<off_t>(m_next));
+    if (got != static_cast<std::ptrdiff_t>(real)) {
+        m_failure = got < 0 ? errno : shrunk;
+        return -1;
+    }
+    std::memset(out.data() + real, 0, total - real);
+    m_next += total;
+    return static_cast<std::ptrdiff_t>(total);
+}
+
+Result<void> ImageContent::outcome() const
+{
+    if (m_failure == 0)
+        return {};
+    if (m_failure == shrunk)
+        return Error{ Exit::failed, engine::quoted(m_path) + " became shorter while it was being written." };
+    return systemError(engine::quoted(m_path) + " cannot be read", m_failure);
+}
+
+} // namespace engine::drive

@@ -1,0 +1,58 @@
+// What data discs are made of: a folder, or an image file.
+#pragma once
+
+#include "drive/Burn.h"
+#include "drive/Drive.h"
+#include "drive/Source.h"
+#include "drive/System.h"
+#include "image/IsoImage.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace engine::drive {
+
+/// The content of a folder as an ISO 9660 image with Joliet and Rock Ridge names.
+class FolderContent final : public DiscData {
+public:
+    /// Reads the folder. What was left out or renamed is told to options.note, and options.control can
+    /// stop it.
+    static Result<std::unique_ptr<DiscData>> read(const std::string &folder, const BurnOptions &options);
+
+    std::uint64_t blocks() const override { return m_blocks; }
+    Result<burn::burn_source *> start() override;
+    Result<void> outcome() const override { return m_image.outcome(); }
+
+private:
+    FolderContent(std::string folder, image::IsoImage image, std::function<int()> stopSignal);
+
+    std::string m_folder;
+    image::IsoImage m_image;
+    std::uint64_t m_blocks;
+    bool m_streamed = false;
+    std::function<int()> m_stopSignal;
+};
+
+/// An image file as it is, filled to whole blocks with zeros.
+class ImageContent final : public DiscData {
+public:
+    static Result<std::unique_ptr<DiscData>> open(const std::string &path);
+
+    std::uint64_t blocks() const override { return (m_size + blockBytes - 1) / blockBytes; }
+    Result<burn::burn_source *> start() override;
+    Result<void> outcome() const override;
+
+private:
+    ImageContent(std::string path, Fd file, std::uint64_t size);
+    std::ptrdiff_t fill(std::span<std::byte> out);
+
+    std::string m_path;
+    Fd m_file;
+    std::uint64_t m_size;
+    std::uint64_t m_next = 0;
+    std::atomic<int> m_failure = 0; ///< errno, or shrunk
+    Source m_source;
+};
+
+} // namespace engine::drive

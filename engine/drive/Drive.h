@@ -1,0 +1,134 @@
+// A drive that can be asked about its medium and write it: a physical one or a virtual recorder.
+#pragma once
+
+#include "base/Result.h"
+#include "report/DriveList.h"
+#include "report/Medium.h"
+#include "report/ProgressText.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+
+namespace burn {
+struct burn_source;
+}
+
+namespace engine::audio {
+struct AudioDisc;
+}
+
+namespace engine::drive {
+
+class BlockDigests;
+
+constexpr std::size_t blockBytes = 2048; ///< bytes of a block of a data disc
+
+/// How an operation tells of itself and learns that it shall stop. Both functions are called on the
+/// thread that runs the operation, several times a second, and may be empty.
+struct Control {
+    /// `unitBytes` is the size of one unit of `progress.done`, 0 where a speed would mean nothing.
+    std::function<void(const report::Progress &progress, unsigned unitBytes)> progress;
+    /// The number of the signal that asks to stop, or 0.
+    std::function<int()> stopSignal;
+
+    void report(const report::Progress &p, unsigned unitBytes) const;
+    int stopped() const;
+};
+
+/// The error of an operation that `signal` (SIGINT, SIGTERM) ended; `message` is taken as it is.
+Error stoppedBy(int signal, std::string message);
+
+/// The content of a data disc: a known number of blocks that can be streamed.
+class DiscData {
+public:
+    virtual ~DiscData() = default;
+
+    /// Blocks of 2048 bytes, known before anything is streamed.
+    virtual std::uint64_t blocks() const = 0;
+
+    /// A stream from the first block on, owned by this object until the next call. It may be asked for
+    /// again, for another attempt at writing.
+    virtual Result<burn::burn_source *> start() = 0;
+
+    /// How the stream went: an error names the file that could not be read or became shorter.
+    virtual Result<void> outcome() const = 0;
+};
+
+enum class EraseMode {
+    quick, ///< what makes the medium usable again
+    full, ///< every block
+};
+
+/// Why a drive is opened.
+enum class Purpose {
+    look, ///< ask for the medium only; a mounted disc stays mounted
+    change, ///< erase, write: a mounted disc is unmounted first
+};
+
+/// A drive held open for one verb. Nobody else has it until the object goes; it is released then, on
+/// every path. Not thread-safe.
+class Lease {
+public:
+    virtual ~Lease() = default;
+
+    /// The medium as it is now. An empty drive or an open tray is a medium of kind `none`, not an error.
+    virtual Result<report::Medium> medium() = 0;
+
+    /// Erases or formats the medium. It must be one of those that canErase() is true for.
+    virtual Result<void> erase(EraseMode mode, const Control &control) = 0;
+
+    /// Writes `data` from the first block on, closes the disc and notes every block that went out in
+    /// `sent`. The medium must be writable from its start now and large enough. An error says in which state
+    /// the disc is left.
+    virtual Result<void> writeData(DiscData &data, BlockDigests &sent, const Control &control) = 0;
+
+    /// Writes all tracks of an audio disc, session at once. The medium must be a blank CD.
+    virtual Result<void> writeAudio(const audio::AudioDisc &disc, const Control &control) = 0;
+
+    /// Makes the drive look at the medium again, as after a write.
+    virtual Result<void> reload() = 0;
+
+    /// Fills `buffer` (whole blocks) from `block` on. Returns the number of bytes that were readable, which
+    /// is less than its size where a block cannot be read.
+    virtual Result<std::size_t> read(std::uint64_t block, std::span<std::byte> buffer) = 0;
+
+    /// Lets the rest of the system see the new content, and gives the drive back. The last call.
+    virtual void present() = 0;
+};
+
+/// One drive of the machine. Cheap: nothing is opened before a verb needs it.
+class Drive {
+public:
+    virtual ~Drive() = default;
+
+    /// How it is listed.
+    virtual report::DriveRecord record() const = 0;
+
+    /// True for a recorder without hardware.
+    virtual bool isVirtual() const = 0;
+
+    /// What messages call it: "drive 2". The number is that of the list.
+    const std::string &name() const { return m_name; }
+    void setNumber(char number) { m_name = std::string("drive ") + number; }
+
+    /// Opens the drive. Errors: busy, no permission, gone, mounted and in use.
+    virtual Result<std::unique_ptr<Lease>> acquire(Purpose purpose) = 0;
+
+    /// Opens the tray, after unmounting. A virtual recorder puts what was written aside and a fresh blank in.
+    virtual Result<void> eject() = 0;
+
+    /// Closes the tray.
+    virtual Result<void> close() = 0;
+
+    /// Puts a blank of `kind` in, or none; virtual recorders only.
+    virtual Result<void> insert(report::MediumKind kind) = 0;
+
+private:
+    std::string m_name = "the drive";
+};
+
+} // namespace engine::drive

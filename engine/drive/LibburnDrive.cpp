@@ -1,0 +1,272 @@
+#include "drive/LibburnDrive.h"
+
+#include "audio/AudioDisc.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <sys/types.h>
+#include <thread>
+// libburn.h needs off_t to be known.
+#include <libburn/libburn.h>
+
+namespace engine::drive {
+
+using namespace burn;
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// libburn takes names as char * that it does not change.
+char *unchanged(const char *text)
+{
+    return const_cast<char *>(text);
+}
+
+bool openLibrary()
+{
+    class Library {
+    public:
+        Library()
+            : ready(burn_initialize() != 0)
+        {
+            if (ready)
+                burn_msgs_set_severities(unchanged("SORRY"), unchanged("NEVER"), unchanged(""));
+        }
+        ~Library()
+        {
+            if (ready)
+                burn_finish();
+        }
+        const bool ready;
+    };
+    static const Library library;
+    return library.ready;
+}
+
+/// libburn's description of a disc, freed in the order it wants.
+class Layout {
+public:
+    explicit Layout(const std::vector<Track> &tracks)
+        : m_disc(burn_disc_create())
+        , m_session(burn_session_create())
+    {
+        burn_disc_add_session(m_disc, m_session, BURN_POS_END);
+        for (const Track &track : tracks)
+            add(track);
+    }
+
+    ~Layout()
+    {
+        for (burn_track *track : m_tracks)
+            burn_track_free(track);
+        burn_session_free(m_session);
+        burn_disc_free(m_disc);
+    }
+
+    Layout(const Layout &) = delete;
+    Layout &operator=(const Layout &) = delete;
+
+    burn_disc *disc() const { return m_disc; }
+
+private:
+    void add(const Track &track)
+    {
+        burn_track *t = burn_track_create();
+        burn_track_define_data(t, 0, 0, 1, track.audio ? BURN_AUDIO : BURN_MODE1);
+        // Track 1 of an audio disc has its pause of two seconds; no pause is added between tracks.
+        if (track.audio && track.pregap > 0)
+            burn_track_set_pregap_size(t, track.pregap, 0);
+        burn_track_set_source(t, track.source.get());
+        burn_session_add_track(m_session, t, BURN_POS_END);
+        m_tracks.push_back(t);
+    }
+
+    burn_disc *m_disc;
+    burn_session *m_session;
+    std::vector<burn_track *> m_tracks;
+};
+
+struct OptionsFree {
+    void operator()(burn_write_opts *options) const { burn_write_opts_free(options); }
+};
+using Options = std::unique_ptr<burn_write_opts, OptionsFree>;
+
+Options optionsFor(burn_drive *drive, WriteMode mode)
+{
+    Options options(burn_write_opts_new(drive));
+    if (!options)
+        return options;
+    const bool atOnce = mode == WriteMode::sessionAtOnce;
+    burn_write_opts_set_write_type(
+        options.get(), atOnce ? BURN_WRITE_SAO : BURN_WRITE_TAO, atOnce ? BURN_BLOCK_SAO : BURN_BLOCK_MODE1);
+    burn_write_opts_set_underrun_proof(options.get(), 1);
+    burn_write_opts_set_perform_opc(options.get(), 0);
+    burn_write_opts_set_multi(options.get(), 0);
+    // A reserved DVD+R track must be a multiple of 32 KiB; files behind "stdio:" stay exact.
+    if (burn_drive_get_drive_role(drive) == 1)
+        burn_write_opts_set_obs_pad(options.get(), 1);
+    // Flush a file once at its end: the recorder's state is saved after that.
+    burn_write_opts_set_stdio_fsync(options.get(), 1);
+    return options;
+}
+
+report::Phase phaseOf(burn_drive_status status, report::Phase busy)
+{
+    switch (status) {
+    case BURN_DRIVE_WRITING_LEADOUT:
+    case BURN_DRIVE_CLOSING_TRACK:
+    case BURN_DRIVE_CLOSING_SESSION:
+        return report::Phase::closing;
+    case BURN_DRIVE_FORMATTING:
+        return report::Phase::erasing;
+    default:
+        return busy;
+    }
+}
+
+report::Progress progressOf(const burn_progress &p, report::Phase phase, report::Family family)
+{
+    report::Progress progress;
+    progress.phase = phase;
+    progress.family = family;
+    if (phase == report::Phase::closing)
+        return progress;
+    progress.done = static_cast<std::uint64_t>(std::max(p.sector, 0));
+    progress.total = static_cast<std::uint64_t>(std::max(p.sectors, 0));
+    if (phase == report::Phase::writing)
+        progress.bufferPercent = bufferPercent(p.buffer_capacity, p.buffer_available);
+    return progress;
+}
+
+} // namespace
+
+std::optional<int> bufferPercent(unsigned capacity, unsigned available)
+{
+    if (capacity == 0 || available > capacity)
+        return std::nullopt;
+    return static_cast<int>((static_cast<std::uint64_t>(capacity - available) * 100) / capacity);
+}
+
+Result<std::unique_ptr<LibburnDrive>> LibburnDrive::grab(
+    const std::string &address, const std::string &name, bool exclusive, bool load)
+{
+    if (!openLibrary())
+        return Error{ Exit::failed, "libburn cannot be started; check its installation." };
+    burn_preset_device_open(exclusive ? 1 : 0, 0, 0);
+    takeMessage();
+    burn_drive_info *infos = nullptr;
+    std::string writable = address;
+    if (burn_drive_scan_and_grab(&infos, writable.data(), load ? 1 : 0) <= 0) {
+        const LibburnMessage message = takeMessage();
+        return Error{ Exit::failed,
+            "The device of " + name + " cannot be opened"
+                + (message.text.empty() ? std::string(".") : ": " + message.text) };
+    }
+    return std::unique_ptr<LibburnDrive>(new LibburnDrive(infos, name));
+}
+
+LibburnDrive::LibburnDrive(burn_drive_info *infos, std::string name)
+    : m_infos(infos)
+    , m_name(std::move(name))
+{
+}
+
+LibburnDrive::~LibburnDrive()
+{
+    release(false);
+    burn_drive_info_free(m_infos);
+}
+
+burn_drive *LibburnDrive::handle() const
+{
+    return m_infos[0].drive;
+}
+
+void LibburnDrive::release(bool eject)
+{
+    if (m_grabbed)
+        burn_drive_release(handle(), eject ? 1 : 0);
+    m_grabbed = false;
+}
+
+LibburnMessage LibburnDrive::takeMessage()
+{
+    LibburnMessage first;
+    std::array<char, BURN_MSGS_MESSAGE_LEN> text{};
+    std::array<char, 80> severity{};
+    int code = 0;
+    int failure = 0;
+    while (burn_msgs_obtain(unchanged("SORRY"), &code, text.data(), &failure, severity.data()) > 0)
+        if (first.text.empty())
+            first = { code, failure, text.data() };
+    return first;
+}
+
+LibburnDrive::Outcome LibburnDrive::wait(report::Phase busy, report::Family family, unsigned unitBytes,
+    const std::function<bool()> &sourceFailed, const Control &control)
+{
+    Outcome outcome;
+    auto pause = 1ms;
+    bool cancelled = false;
+    burn_progress p{};
+    for (burn_drive_status status; (status = burn_drive_get_status(handle(), &p)) != BURN_DRIVE_IDLE;) {
+        if (status != BURN_DRIVE_SPAWNING) {
+            outcome.sectors = std::max(outcome.sectors, static_cast<std::uint64_t>(std::max(p.sector, 0)));
+            control.report(progressOf(p, phaseOf(status, busy), family), unitBytes);
+        }
+        if (outcome.signal == 0)
+            outcome.signal = control.stopped();
+        outcome.sourceFailed = outcome.sourceFailed || (sourceFailed && sourceFailed());
+        if (busy == report::Phase::writing && !cancelled && (outcome.signal != 0 || outcome.sourceFailed)) {
+            burn_drive_cancel(handle());
+            cancelled = true;
+        }
+        std::this_thread::sleep_for(pause);
+        pause = std::min(pause * 2, 100ms);
+    }
+    outcome.sourceFailed = outcome.sourceFailed || (sourceFailed && sourceFailed());
+    outcome.message = takeMessage();
+    outcome.well = !cancelled && !outcome.sourceFailed && burn_drive_wrote_well(handle()) != 0;
+    return outcome;
+}
+
+LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, WriteMode mode,
+    report::Family family, const std::function<bool()> &sourceFailed, const Control &control)
+{
+    takeMessage();
+    const bool audio = !tracks.empty() && tracks.front().audio;
+    const Layout layout(tracks);
+    const Options options = optionsFor(handle(), mode);
+    Outcome refused;
+    if (!options) {
+        refused.message.text = "out of memory";
+        return refused;
+    }
+    std::array<char, BURN_REASONS_LEN> reasons{};
+    if (burn_precheck_write(options.get(), layout.disc(), reasons.data(), 1) <= 0) {
+        takeMessage();
+        refused.message.text = reasons.data();
+        return refused;
+    }
+    burn_disc_write(options.get(), layout.disc());
+    return wait(
+        report::Phase::writing, family, audio ? audio::sectorSize : blockBytes, sourceFailed, control);
+}
+
+LibburnDrive::Outcome LibburnDrive::waitForErase(const Control &control)
+{
+    return wait(report::Phase::erasing, report::Family::none, 0, {}, control);
+}
+
+std::size_t LibburnDrive::read(std::uint64_t block, std::span<std::byte> buffer)
+{
+    constexpr int quiet = 2;
+    off_t got = 0;
+    burn_read_data(handle(), static_cast<off_t>(block * blockBytes), reinterpret_cast<char *>(buffer.data()),
+        static_cast<off_t>(buffer.size()), &got, quiet);
+    return static_cast<std::size_t>(std::clamp<off_t>(got, 0, static_cast<off_t>(buffer.size())));
+}
+
+} // namespace engine::drive

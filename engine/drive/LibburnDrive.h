@@ -1,0 +1,97 @@
+// A drive that libburn has opened: an MMC drive or a file ("stdio:"). What both have in common.
+#pragma once
+
+#include "drive/Drive.h"
+#include "drive/Source.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace burn {
+struct burn_drive;
+struct burn_drive_info;
+struct burn_write_opts;
+} // namespace burn
+
+namespace engine::drive {
+
+/// One track as it is handed to libburn.
+struct Track {
+    Source source;
+    bool audio = false; ///< sectors of 2352 bytes; else blocks of 2048
+    int pregap = 0; ///< sectors of silence before it that libburn makes; audio only
+};
+
+enum class WriteMode {
+    sessionAtOnce, ///< one go with the lead-in known beforehand; disc at once on DVD
+    trackAtOnce, ///< incremental on DVD
+};
+
+/// What a message of libburn says.
+struct LibburnMessage {
+    int code = 0; ///< of libburn's own list
+    int failure = 0; ///< errno, or 0
+    std::string text;
+};
+
+/// Opened by libburn from grab() until the end of the object. Not thread-safe.
+class LibburnDrive {
+public:
+    /// Opens the drive at a libburn address ("/dev/sr0", "stdio:/dev/fd/7"). `name` is what messages call
+    /// it. `exclusive` keeps others off the device; `load` closes the tray first.
+    static Result<std::unique_ptr<LibburnDrive>> grab(
+        const std::string &address, const std::string &name, bool exclusive, bool load);
+
+    ~LibburnDrive();
+    LibburnDrive(const LibburnDrive &) = delete;
+    LibburnDrive &operator=(const LibburnDrive &) = delete;
+
+    burn::burn_drive *handle() const;
+    const std::string &name() const { return m_name; }
+
+    /// Gives the drive back now, with its tray opened if `eject`.
+    void release(bool eject);
+
+    /// How far a write has come when it ends.
+    struct Outcome {
+        bool well = false;
+        int signal = 0; ///< the stop signal that ended it
+        bool sourceFailed = false;
+        std::uint64_t sectors = 0; ///< how far the drive was seen
+        LibburnMessage message; ///< the gravest message of a failure
+    };
+
+    /// Writes one session of `tracks` and closes the disc. `sourceFailed` is asked during the write and ends
+    /// it; may be empty.
+    Outcome write(const std::vector<Track> &tracks, WriteMode mode, report::Family family,
+        const std::function<bool()> &sourceFailed, const Control &control);
+
+    /// Waits for an erase or a format that was started. Neither can be broken off safely (MMC-6 6.2), so a
+    /// stop signal is only noted.
+    Outcome waitForErase(const Control &control);
+
+    /// Reads from `block` on; the number of bytes until the first that could not be read.
+    std::size_t read(std::uint64_t block, std::span<std::byte> buffer);
+
+    /// The first of the messages that libburn queued with at least severity SORRY; forgets the rest.
+    static LibburnMessage takeMessage();
+
+private:
+    LibburnDrive(burn::burn_drive_info *infos, std::string name);
+    Outcome wait(report::Phase busy, report::Family family, unsigned unitBytes,
+        const std::function<bool()> &sourceFailed, const Control &control);
+
+    burn::burn_drive_info *m_infos;
+    std::string m_name;
+    bool m_grabbed = true;
+};
+
+/// How much of the drive's buffer is filled, in percent; no value while the drive does not tell.
+std::optional<int> bufferPercent(unsigned capacity, unsigned available);
+
+} // namespace engine::drive

@@ -1,0 +1,296 @@
+#include "drive/PhysicalDrive.h"
+
+#include "audio/AudioDisc.h"
+#include "audio/TrackStream.h"
+#include "drive/DeviceNode.h"
+#include "drive/LibburnDrive.h"
+#include "drive/Mounts.h"
+#include "drive/PhysicalMedium.h"
+#include "drive/WriteFailure.h"
+#include "drive/WritePlan.h"
+
+#include <algorithm>
+#include <sys/types.h>
+#include <utility>
+// libburn.h needs off_t to be known.
+#include <libburn/libburn.h>
+
+namespace engine::drive {
+
+using namespace burn;
+
+namespace {
+
+/// A write may be tried in another way as long as the drive took no more than this of it.
+constexpr std::uint64_t harmlessSectors = 512;
+constexpr std::uint64_t headBlocks =
+    512; ///< what a quick erase overwrites: all volume descriptors and UDF anchors
+
+class PhysicalLease final : public Lease {
+public:
+    PhysicalLease(std::unique_ptr<LibburnDrive> drive, std::string device)
+        : m_drive(std::move(drive))
+        , m_device(std::move(device))
+        , m_name(m_drive->name())
+    {
+    }
+
+    Result<report::Medium> medium() override { return readMedium(*m_drive, m_device); }
+    Result<void> erase(EraseMode mode, const Control &control) override;
+    Result<void> writeData(DiscData &data, BlockDigests &sent, const Control &control) override;
+    Result<void> writeAudio(const audio::AudioDisc &disc, const Control &control) override;
+    Result<void> reload() override;
+    Result<std::size_t> read(std::uint64_t block, std::span<std::byte> buffer) override
+    {
+        return m_drive->read(block, buffer);
+    }
+    void present() override;
+
+private:
+    struct Job; ///< what is written, made anew for each attempt
+    Result<void> write(Job &job, const report::Medium &medium, const Control &control);
+    Result<void> blank(bool fast, const Control &control);
+    Result<void> overwrite(std::uint64_t blocks, const report::Medium &medium, const Control &control);
+    Result<void> formatIfNeeded(const Control &control);
+    bool untouched(const LibburnDrive::Outcome &outcome, const report::Medium &before);
+
+    std::unique_ptr<LibburnDrive> m_drive;
+    std::string m_device;
+    std::string m_name;
+};
+
+struct PhysicalLease::Job {
+    bool audio = false;
+    std::function<Result<std::vector<Track>>()> tracks;
+    std::function<bool()> sourceFailed;
+    std::function<Result<void>()> sourceOutcome;
+};
+
+/// True when another attempt can start as if the failed one had not been.
+bool PhysicalLease::untouched(const LibburnDrive::Outcome &outcome, const report::Medium &before)
+{
+    if (outcome.signal != 0 || outcome.sourceFailed || outcome.sectors > harmlessSectors)
+        return false;
+    if (!reload())
+        return false;
+    const Result<report::Medium> now = medium();
+    return now && report::canWriteNow(*now) && now->kind == before.kind && now->free >= before.free;
+}
+
+Result<void> PhysicalLease::write(Job &job, const report::Medium &medium, const Control &control)
+{
+    const auto family = report::factsOf(medium.kind).family;
+    Attempt attempt = firstAttempt(medium.rewriting, medium.speeds);
+    while (true) {
+        Result<std::vector<Track>> tracks = job.tracks();
+        if (!tracks)
+            return tracks.error();
+        burn_drive_set_speed(m_drive->handle(), 0, attempt.speed);
+        const LibburnDrive::Outcome outcome =
+            m_drive->write(*tracks, attempt.mode, family, job.sourceFailed, control);
+        if (outcome.well)
+            return {};
+        const bool again = untouched(outcome, medium);
+        const auto next = nextAttempt(attempt, outcome.message, job.audio, medium.speeds);
+        if (!again || !next)
+            return writeFailure(outcome, job.sourceOutcome(), m_name, leftOf(medium, !again));
+        attempt = *next;
+    }
+}
+
+Result<void> PhysicalLease::writeData(DiscData &data, BlockDigests &sent, const Control &control)
+{
+    if (auto formatted = formatIfNeeded(control); !formatted)
+        return formatted;
+    const Result<report::Medium> now = medium();
+    if (!now)
+        return now.error();
+    const auto tapState = std::make_shared<TapState>();
+    Job job;
+    job.tracks = [&]() -> Result<std::vector<Track>> {
+        const Result<burn_source *> stream = data.start();
+        if (!stream)
+            return stream.error();
+        std::vector<Track> tracks(1);
+        tracks.front().source = tap(*stream, data.blocks(), tapState);
+        return tracks;
+    };
+    job.sourceFailed = [&] { return tapState->ranDry.load(); };
+    job.sourceOutcome = [&] { return data.outcome(); };
+    auto written = write(job, *now, control);
+    tapState->bytes.load(std::memory_order_acquire);
+    sent = std::move(tapState->digests);
+    return written;
+}
+
+Result<void> PhysicalLease::writeAudio(const audio::AudioDisc &disc, const Control &control)
+{
+    const Result<report::Medium> now = medium();
+    if (!now)
+        return now.error();
+    const auto outcome = std::make_shared<Result<void>>();
+    Job job;
+    job.audio = true;
+    job.tracks = [&] { return audioTracks(disc, outcome); };
+    job.sourceOutcome = [&] { return *outcome; };
+    if (auto written = write(job, *now, control); !written)
+        return written;
+    // libburn fills up a track whose file failed with silence; that is no disc to be handed out.
+    if (!*outcome)
+        return writeFailure({}, *outcome, m_name, leftOf(*now, true));
+    return {};
+}
+
+Result<void> PhysicalLease::reload()
+{
+    m_drive->release(false);
+    m_drive.reset();
+    auto drive = LibburnDrive::grab(m_device, m_name, true, true);
+    if (!drive)
+        return drive.error();
+    m_drive = std::move(drive).value();
+    return {};
+}
+
+void PhysicalLease::present()
+{
+    // The kernel keeps the old size and content until the medium is loaded anew. A drive that cannot pull its
+    // tray in by itself leaves it open with the finished disc.
+    if (!m_drive)
+        return;
+    m_drive->release(true);
+    m_drive.reset();
+    if (auto drive = LibburnDrive::grab(m_device, m_name, true, true))
+        (*drive)->release(false);
+}
+
+Result<void> PhysicalLease::formatIfNeeded(const Control &control)
+{
+    int status = 0;
+    off_t size = 0;
+    unsigned spare = 0;
+    int formats = 0;
+    const int profile = profileOf(*m_drive);
+    if (!needsFormat(
+            profile, burn_disc_get_formats(m_drive->handle(), &status, &size, &spare, &formats) > 0, status))
+        return {};
+    constexpr int defaultSize = 3 << 1;
+    constexpr int noCertification = 1 << 6;
+    burn_disc_format(m_drive->handle(), 0, defaultSize | noCertification);
+    const LibburnDrive::Outcome outcome = m_drive->waitForErase(control);
+    if (outcome.signal != 0)
+        return stoppedBy(outcome.signal, "Stopped after the disc in " + m_name + " was formatted.");
+    if (!outcome.well)
+        return Error{ Exit::failed,
+            "The disc in " + m_name + " cannot be formatted (" + outcome.message.text
+                + "): try another disc." };
+    return reload();
+}
+
+Result<void> PhysicalLease::blank(bool fast, const Control &control)
+{
+    // A disc whose last write was killed may be in no state that libburn knows; blanking is its cure.
+    burn_disc_pretend_full(m_drive->handle());
+    burn_disc_erase(m_drive->handle(), fast ? 1 : 0);
+    const LibburnDrive::Outcome outcome = m_drive->waitForErase(control);
+    if (!outcome.well)
+        return Error{ Exit::failed,
+            "The disc in " + m_name + " cannot be erased (" + outcome.message.text
+                + "): try a full erase, or another disc." };
+    if (outcome.signal != 0)
+        return stoppedBy(
+            outcome.signal, "Stopped after the erase had ended: the disc in " + m_name + " is blank.");
+    return reload();
+}
+
+Result<void> PhysicalLease::overwrite(
+    std::uint64_t blocks, const report::Medium &medium, const Control &control)
+{
+    Job job;
+    job.tracks = [&]() -> Result<std::vector<Track>> {
+        std::vector<Track> tracks(1);
+        tracks.front().source = zeros(blocks * blockBytes);
+        return tracks;
+    };
+    job.sourceOutcome = [] { return Result<void>(); };
+    if (auto written = write(job, medium, control); !written)
+        return written;
+    return reload();
+}
+
+Result<void> PhysicalLease::erase(EraseMode mode, const Control &control)
+{
+    const bool quick = mode == EraseMode::quick;
+    const Result<report::Medium> now = medium();
+    if (!now)
+        return now.error();
+    if (!report::canErase(*now))
+        return Error{ Exit::failed, "The disc in " + m_name + " cannot be erased: insert a rewritable one." };
+    // DVD-RW in restricted overwrite can be blanked as well; a quick erase leaves it as it is formatted.
+    const bool blankable = report::factsOf(now->kind).rewriting == report::Rewriting::erase;
+    if (now->rewriting == report::Rewriting::erase || (blankable && !quick))
+        return blank(quick, control);
+    if (auto formatted = formatIfNeeded(control); !formatted)
+        return formatted;
+    const Result<report::Medium> formatted = medium();
+    if (!formatted)
+        return formatted.error();
+    return overwrite(
+        quick ? std::min(headBlocks, formatted->capacity) : formatted->capacity, *formatted, control);
+}
+
+} // namespace
+
+PhysicalDrive::PhysicalDrive(PhysicalRecord record)
+    : m_record(std::move(record))
+{
+}
+
+Result<std::unique_ptr<Lease>> PhysicalDrive::acquire(Purpose purpose)
+{
+    const std::string &device = m_record.device;
+    const bool mounted = !mountPoints(device).empty();
+    // Whoever only looks leaves a mounted disc mounted; the mount holds the device then.
+    const bool exclusive = purpose == Purpose::change || !mounted;
+    if (purpose == Purpose::change)
+        if (auto gone = unmount(device, name()); !gone)
+            return gone.error();
+    if (exclusive)
+        if (auto free = checkFree(device, name()); !free)
+            return free.error();
+    auto drive = LibburnDrive::grab(device, name(), exclusive, false);
+    if (!drive)
+        return drive.error();
+    return std::unique_ptr<Lease>(std::make_unique<PhysicalLease>(std::move(drive).value(), device));
+}
+
+Result<void> PhysicalDrive::eject()
+{
+    if (auto gone = unmount(m_record.device, name()); !gone)
+        return gone;
+    if (auto free = checkFree(m_record.device, name()); !free)
+        return free;
+    auto drive = LibburnDrive::grab(m_record.device, name(), true, false);
+    if (!drive)
+        return drive.error();
+    (*drive)->release(true);
+    return {};
+}
+
+Result<void> PhysicalDrive::close()
+{
+    if (auto free = checkFree(m_record.device, name()); !free)
+        return mountPoints(m_record.device).empty() ? free : Result<void>();
+    auto drive = LibburnDrive::grab(m_record.device, name(), true, true);
+    if (!drive)
+        return drive.error();
+    return {};
+}
+
+Result<void> PhysicalDrive::insert(report::MediumKind)
+{
+    return Error{ Exit::failed,
+        "Discs are put into " + name() + " by hand; insert is for virtual recorders." };
+}
+
+} // namespace engine::drive

@@ -1,0 +1,26 @@
+// A drive of the machine, through libburn and the kernel's device node.
+#pragma once
+
+#include "drive/Drive.h"
+#include "drive/PhysicalDrives.h"
+
+#include <string>
+
+namespace engine::drive {
+
+class PhysicalDrive final : public Drive {
+public:
+    explicit PhysicalDrive(PhysicalRecord record);
+
+    report::DriveRecord record() const override { return m_record.record; }
+    bool isVirtual() const override { return false; }
+    Result<std::unique_ptr<Lease>> acquire(Purpose purpose) override;
+    Result<void> eject() override;
+    Result<void> close() override;
+    Result<void> insert(report::MediumKind kind) override;
+
+private:
+    PhysicalRecord m_record;
+};
+
+} // namespace engine::drive

@@ -1,0 +1,143 @@
+#include "drive/PhysicalMedium.h"
+
+#include "audio/AudioDisc.h"
+#include "audio/TrackStream.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <cstring>
+#include <sys/types.h>
+#include <thread>
+// libburn.h needs off_t to be known.
+#include <libburn/libburn.h>
+
+namespace engine::drive {
+
+using namespace burn;
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::uint64_t descriptorBlock = 16;
+
+burn_disc_status statusOf(burn_drive *drive)
+{
+    burn_disc_status status = burn_disc_get_status(drive);
+    for (auto waited = 0ms; status == BURN_DISC_UNREADY && waited < 30s; waited += 100ms) {
+        std::this_thread::sleep_for(100ms);
+        status = burn_disc_get_status(drive);
+    }
+    return status;
+}
+
+/// Source 2 (GET PERFORMANCE) knows the medium; mode page 2Ah is what older CD drives have.
+std::vector<int> speedsOf(burn_drive *drive)
+{
+    std::vector<int> forMedium;
+    std::vector<int> forDrive;
+    burn_speed_descriptor *list = nullptr;
+    if (burn_drive_get_speedlist(drive, &list) <= 0)
+        return {};
+    for (const burn_speed_descriptor *row = list; row; row = row->next)
+        if (row->write_speed > 0)
+            (row->source == 2 ? forMedium : forDrive).push_back(row->write_speed);
+    burn_drive_free_speedlist(&list);
+    return forMedium.empty() ? forDrive : forMedium;
+}
+
+std::uint64_t leadOutOf(burn_drive *drive, report::MediumKind kind)
+{
+    int start = 0;
+    int end = 0;
+    if (report::factsOf(kind).family != report::Family::cd || burn_disc_read_atip(drive) <= 0
+        || burn_drive_get_start_end_lba(drive, &start, &end, 0) <= 0)
+        return 0;
+    return static_cast<std::uint64_t>(std::max(end, 0));
+}
+
+std::uint64_t volumeOn(LibburnDrive &drive)
+{
+    std::array<std::byte, blockBytes> descriptor{};
+    if (drive.read(descriptorBlock, descriptor) < descriptor.size())
+        return 0;
+    return volumeBlocks(descriptor);
+}
+
+} // namespace
+
+int profileOf(LibburnDrive &drive)
+{
+    int profile = 0;
+    std::array<char, 80> name{};
+    return burn_disc_get_profile(drive.handle(), &profile, name.data()) > 0 ? profile : 0;
+}
+
+Result<report::Medium> readMedium(LibburnDrive &drive, const std::string &device)
+{
+    burn_drive *const d = drive.handle();
+    const burn_disc_status status = statusOf(d);
+    if (status == BURN_DISC_EMPTY)
+        return report::Medium{};
+    if (status == BURN_DISC_UNREADY)
+        return Error{ Exit::failed,
+            "The disc in " + drive.name() + " does not get ready: take it out and clean it." };
+    report::DriveAnswers answers;
+    answers.profile = profileOf(drive);
+    answers.blank = status == BURN_DISC_BLANK;
+    answers.appendable = status == BURN_DISC_APPENDABLE;
+    answers.suitable = status != BURN_DISC_UNSUITABLE;
+    answers.damagedTrack = (burn_disc_next_track_is_damaged(d, 0) & 1) != 0;
+    answers.freeBlocks = static_cast<std::uint64_t>(burn_disc_available_space(d, nullptr)) / blockBytes;
+    int readable = 0;
+    if (burn_get_read_capacity(d, &readable, 0) > 0)
+        answers.readableBlocks = static_cast<std::uint64_t>(std::max(readable, 0));
+    const report::MediumKind kind = report::kindOfProfile(answers.profile);
+    answers.leadOutBlocks = leadOutOf(d, kind);
+    if (report::rewritingOfProfile(answers.profile) == report::Rewriting::overwrite)
+        answers.volumeBlocks = volumeOn(drive);
+    answers.speeds = speedsOf(d);
+    report::Medium medium = report::mediumFromAnswers(answers);
+    medium.deviceName = device;
+    LibburnDrive::takeMessage();
+    return medium;
+}
+
+std::uint64_t volumeBlocks(std::span<const std::byte> descriptor)
+{
+    constexpr std::size_t spaceSize = 80; // both-byte order, the little-endian half first
+    constexpr std::array<unsigned char, 6> primary{ 1, 'C', 'D', '0', '0', '1' };
+    if (descriptor.size() < spaceSize + 4
+        || std::memcmp(descriptor.data(), primary.data(), primary.size()) != 0)
+        return 0;
+    std::uint64_t blocks = 0;
+    for (std::size_t i = 4; i-- > 0;)
+        blocks = blocks << 8 | std::to_integer<std::uint64_t>(descriptor[spaceSize + i]);
+    return blocks;
+}
+
+bool needsFormat(int profile, bool answered, int status)
+{
+    const bool mayNeed = profile == 0x12 || profile == 0x43; // DVD-RAM, BD-RE
+    return mayNeed && answered && status == BURN_FORMAT_IS_UNFORMATTED;
+}
+
+Result<std::vector<Track>> audioTracks(
+    const audio::AudioDisc &disc, const std::shared_ptr<Result<void>> &outcome)
+{
+    std::vector<Track> tracks;
+    for (const audio::AudioTrack &track : disc.tracks) {
+        auto stream = audio::TrackStream::open(track);
+        if (!stream)
+            return stream.error();
+        Track added;
+        added.source = Source(audio::newTrackSource(std::move(stream).value(), track.sectors, outcome));
+        added.audio = true;
+        added.pregap = tracks.empty() ? static_cast<int>(audio::firstPause) : 0;
+        tracks.push_back(std::move(added));
+    }
+    return tracks;
+}
+
+} // namespace engine::drive

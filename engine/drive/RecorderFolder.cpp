@@ -1,0 +1,288 @@
+#include "drive/RecorderFolder.h"
+
+#include "base/Words.h"
+#include "report/Medium.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <dirent.h>
+#include <fcntl.h>
+#include <filesystem>
+#include <memory>
+#include <pwd.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <thread>
+#include <unistd.h>
+
+namespace engine::drive {
+
+namespace {
+
+constexpr const char *stateFile = "recorder.ini";
+constexpr const char *archiveFolder = "discs";
+
+std::string homeFolder()
+{
+    if (const char *home = std::getenv("HOME"); home && *home)
+        return home;
+    const passwd *user = ::getpwuid(::getuid());
+    return user && user->pw_dir ? user->pw_dir : "/";
+}
+
+bool isNumber(const std::string &name)
+{
+    return !name.empty() && name.size() <= 9
+        && std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; });
+}
+
+bool isFolder(int parent, const char *name)
+{
+    struct stat info { };
+    return ::fstatat(parent, name, &info, 0) == 0 && S_ISDIR(info.st_mode);
+}
+
+bool exists(int folder, const char *name)
+{
+    return ::faccessat(folder, name, F_OK, AT_SYMLINK_NOFOLLOW) == 0;
+}
+
+std::string archiveStem(report::MediumKind kind, bool spoilt)
+{
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    ::localtime_r(&now, &local);
+    std::array<char, 40> date{};
+    std::strftime(date.data(), date.size(), "%Y-%m-%d-%H%M%S-", &local);
+    const char *name = report::factsOf(kind).insertName;
+    return date.data() + std::string(name ? name : "disc") + (spoilt ? "-spoilt" : "");
+}
+
+// The sheet names the file beside it, so it has to follow that file's new name.
+std::string renamedCueSheet(const std::string &sheet, const std::string &binName)
+{
+    const std::string old = std::string("\"") + audioDiscFile + '"';
+    const auto at = sheet.find(old);
+    if (at == std::string::npos)
+        return sheet;
+    return sheet.substr(0, at) + '"' + binName + '"' + sheet.substr(at + old.size());
+}
+
+bool lockPatiently(int fd, int operation)
+{
+    using namespace std::chrono_literals;
+    constexpr int attempts = 40;
+    for (int i = 0; i < attempts; ++i) {
+        if (::flock(fd, operation | LOCK_NB) == 0)
+            return true;
+        if (errno != EWOULDBLOCK && errno != EINTR)
+            return false;
+        std::this_thread::sleep_for(25ms);
+    }
+    errno = EWOULDBLOCK;
+    return false;
+}
+
+} // namespace
+
+std::string recordersFolder()
+{
+    if (const char *own = std::getenv("CORVALIS_RECORDERS"); own && *own)
+        return own;
+    const char *data = std::getenv("XDG_DATA_HOME");
+    const std::string base = data && *data == '/' ? data : homeFolder() + "/.local/share";
+    return base + "/corvalis/recorders";
+}
+
+Result<std::vector<std::string>> recorderFolders(const std::string &base)
+{
+    const std::unique_ptr<DIR, int (*)(DIR *)> folder(::opendir(base.c_str()), ::closedir);
+    if (!folder) {
+        if (errno == ENOENT)
+            return std::vector<std::string>{};
+        return systemError("The folder of the virtual recorders cannot be read", errno);
+    }
+    std::vector<std::string> names;
+    while (const dirent *entry = ::readdir(folder.get()))
+        if (isNumber(entry->d_name) && isFolder(::dirfd(folder.get()), entry->d_name))
+            names.emplace_back(entry->d_name);
+    std::ranges::sort(names, [](const std::string &a, const std::string &b) {
+        const long left = std::atol(a.c_str());
+        const long right = std::atol(b.c_str());
+        return left != right ? left < right : a < b;
+    });
+    for (std::string &name : names)
+        name.insert(0, base + '/');
+    return names;
+}
+
+Result<void> createFirstRecorder(const std::string &base)
+{
+    const std::string what = "The virtual recorder cannot be made in " + engine::quoted(base);
+    std::error_code failure;
+    std::filesystem::create_directories(base, failure);
+    if (failure)
+        return systemError(what, failure.value());
+    std::string fresh = base + "/new-XXXXXX";
+    if (!::mkdtemp(fresh.data()))
+        return systemError(what, errno);
+    ::chmod(fresh.c_str(), 0755);
+    RecorderState state;
+    state.kind = report::MediumKind::cdR;
+    const Fd folder(::open(fresh.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    Result<void> saved = replaceFile(folder.get(), stateFile, recorderText(state), what);
+    // Another process may have been quicker; its recorder is as good, and is never replaced.
+    if (saved && ::renameat2(AT_FDCWD, fresh.c_str(), AT_FDCWD, (base + "/1").c_str(), RENAME_NOREPLACE) == 0)
+        return {};
+    const int why = errno;
+    std::filesystem::remove_all(fresh, failure);
+    if (saved && why != EEXIST)
+        return systemError(what, why);
+    return saved;
+}
+
+RecorderFolder::RecorderFolder(Fd folder, std::string path, std::string name)
+    : m_folder(std::move(folder))
+    , m_path(std::move(path))
+    , m_name(std::move(name))
+{
+}
+
+Result<RecorderFolder> RecorderFolder::lock(const std::string &path, const std::string &name, Access access)
+{
+    const bool change = access == Access::exclusive;
+    Fd folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder)
+        return systemError("The folder of " + name + " cannot be opened", errno);
+    if (!lockPatiently(folder.get(), change ? LOCK_EX : LOCK_SH)) {
+        if (errno == EWOULDBLOCK)
+            return Error{ Exit::failed,
+                "The virtual recorder, " + name
+                    + ", is busy with another program; wait until that has ended." };
+        return systemError("The folder of " + name + " cannot be locked", errno);
+    }
+    if (change && ::faccessat(folder.get(), ".", W_OK | X_OK, AT_EACCESS) != 0)
+        return systemError(
+            "The folder of " + name + ", " + engine::quoted(path) + ", cannot be written", errno);
+    return RecorderFolder(std::move(folder), path, name);
+}
+
+Result<RecorderState> RecorderFolder::load() const
+{
+    const std::string file = std::string(stateFile) + " of " + m_name;
+    const Result<std::string> text = readSmallFile(m_folder.get(), stateFile, file + " cannot be read");
+    if (!text)
+        return Error{ Exit::failed, text.error().message + " A new medium repairs it: drutil insert." };
+    Result<RecorderState> state = parseRecorder(*text);
+    if (!state)
+        return Error{ Exit::failed,
+            file + " " + state.error().message + "; a new medium repairs it: drutil insert." };
+    return state;
+}
+
+Result<void> RecorderFolder::save(const RecorderState &state) const
+{
+    return replaceFile(m_folder.get(), stateFile, recorderText(state),
+        std::string(stateFile) + " of " + m_name + " cannot be written");
+}
+
+Result<void> RecorderFolder::moveToArchive(const std::string &stem, bool audio, const Fd &discs) const
+{
+    const char *from = audio ? audioDiscFile : dataDiscFile;
+    const std::string what = "The disc of " + m_name + " cannot be put into its folder " + archiveFolder;
+    for (int copy = 1;; ++copy) {
+        const std::string name = copy == 1 ? stem : stem + '-' + std::to_string(copy);
+        const std::string file = name + (audio ? ".bin" : ".iso");
+        // The sheet goes first: with a name of its own it cannot meet that of another disc later.
+        if (exists(discs.get(), (name + ".cue").c_str()))
+            continue;
+        if (::renameat2(m_folder.get(), from, discs.get(), file.c_str(), RENAME_NOREPLACE) != 0) {
+            if (errno == EEXIST)
+                continue;
+            return systemError(what, errno);
+        }
+        if (!audio || !exists(m_folder.get(), cueSheetFile))
+            return {};
+        const Result<std::string> sheet = readSmallFile(m_folder.get(), cueSheetFile, what);
+        if (!sheet)
+            return sheet.error();
+        if (auto saved = replaceFile(discs.get(), name + ".cue", renamedCueSheet(*sheet, file), what); !saved)
+            return saved;
+        ::unlinkat(m_folder.get(), cueSheetFile, 0);
+        return {};
+    }
+}
+
+Result<void> RecorderFolder::archive(report::MediumKind kind, bool spoilt) const
+{
+    const std::array<bool, 2> forms{ false, true };
+    for (const bool audio : forms) {
+        if (!exists(m_folder.get(), audio ? audioDiscFile : dataDiscFile))
+            continue;
+        const std::string what =
+            "The folder " + std::string(archiveFolder) + " of " + m_name + " cannot be made";
+        if (::mkdirat(m_folder.get(), archiveFolder, 0777) != 0 && errno != EEXIST)
+            return systemError(what, errno);
+        const Fd discs(::openat(m_folder.get(), archiveFolder, O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        if (!discs)
+            return systemError(what, errno);
+        if (auto moved = moveToArchive(archiveStem(kind, spoilt), audio, discs); !moved)
+            return moved;
+    }
+    return {};
+}
+
+Result<void> RecorderFolder::clear() const
+{
+    for (const char *file : { dataDiscFile, audioDiscFile, cueSheetFile })
+        if (::unlinkat(m_folder.get(), file, 0) != 0 && errno != ENOENT)
+            return systemError("The disc of " + m_name + " cannot be erased", errno);
+    return {};
+}
+
+Result<void> RecorderFolder::saveCueSheet(const std::string &text) const
+{
+    return replaceFile(
+        m_folder.get(), cueSheetFile, text, "The cue sheet of " + m_name + " cannot be written");
+}
+
+Result<Fd> RecorderFolder::createDisc(const char *file) const
+{
+    Fd fd(::openat(m_folder.get(), file, O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (!fd)
+        return systemError("The disc of " + m_name + " cannot be written", errno);
+    return fd;
+}
+
+Result<Fd> RecorderFolder::openDisc(const char *file) const
+{
+    Fd fd(::openat(m_folder.get(), file, O_RDONLY | O_CLOEXEC));
+    if (!fd)
+        return systemError("The disc of " + m_name + " cannot be read", errno);
+    return fd;
+}
+
+Result<std::uint64_t> RecorderFolder::room() const
+{
+    struct statvfs info { };
+    if (::fstatvfs(m_folder.get(), &info) != 0)
+        return systemError("The folder of " + m_name + " cannot be measured", errno);
+    return static_cast<std::uint64_t>(info.f_bavail) * info.f_frsize;
+}
+
+RecorderState peek(const std::string &path, bool &readable)
+{
+    const Fd folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const Result<std::string> text = readSmallFile(folder.get(), stateFile, path);
+    const Result<RecorderState> state = text ? parseRecorder(*text) : Result<RecorderState>(text.error());
+    readable = static_cast<bool>(state);
+    return state ? *state : RecorderState{};
+}
+
+} // namespace engine::drive

@@ -1,0 +1,50 @@
+// Small owners and helpers around system calls.
+#pragma once
+
+#include "base/Result.h"
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace engine::drive {
+
+/// Owns a file descriptor.
+class Fd {
+public:
+    Fd() = default;
+    explicit Fd(int fd)
+        : m_fd(fd)
+    {
+    }
+    Fd(Fd &&other) noexcept
+        : m_fd(other.release())
+    {
+    }
+    Fd &operator=(Fd &&other) noexcept;
+    ~Fd();
+
+    explicit operator bool() const { return m_fd >= 0; }
+    int get() const { return m_fd; }
+    int release();
+
+private:
+    int m_fd = -1;
+};
+
+/// "recorder.ini of drive 1 cannot be read: Permission denied."; `failure` is an errno.
+Error systemError(const std::string &what, int failure);
+
+/// The whole file `name` in the folder `folder`; the errno of the failure otherwise, as a systemError()
+/// that begins with `what`. Files of 64 KiB and more are refused.
+Result<std::string> readSmallFile(int folder, const char *name, const std::string &what);
+
+/// Replaces the file `name` in `folder` at once, so that a reader sees the old text or the new one and a
+/// power cut leaves one of them. The error begins with `what`.
+Result<void> replaceFile(int folder, const std::string &name, std::string_view text, const std::string &what);
+
+/// Fills `buffer` from `offset` on; less than its size at the end of the file; -1 and errno on failure.
+std::ptrdiff_t readFully(int fd, std::span<std::byte> buffer, off_t offset);
+
+} // namespace engine::drive

@@ -1,0 +1,326 @@
+#include "drive/VirtualDrive.h"
+
+#include "audio/AudioDisc.h"
+#include "audio/TrackStream.h"
+#include "drive/LibburnDrive.h"
+#include "drive/RecorderFolder.h"
+#include "drive/WriteFailure.h"
+
+#include <cerrno>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace engine::drive {
+
+namespace {
+
+std::uint64_t sizeOf(const Fd &file)
+{
+    struct stat info { };
+    return ::fstat(file.get(), &info) == 0 ? static_cast<std::uint64_t>(info.st_size) : 0;
+}
+
+std::string addressOf(const Fd &file)
+{
+    // By number and not by path: paths may be longer than libburn's addresses.
+    return "stdio:/dev/fd/" + std::to_string(file.get());
+}
+
+/// What is written at once to a recorder: one stream of bytes that becomes one file.
+struct Content {
+    Track track;
+    std::uint64_t bytes = 0; ///< of the file
+    std::uint64_t sectors = 0; ///< of the disc
+    const char *file = nullptr;
+    std::string cueSheet; ///< empty for a data disc
+};
+
+class VirtualLease final : public Lease {
+public:
+    VirtualLease(RecorderFolder folder, std::string name)
+        : m_folder(std::move(folder))
+        , m_name(std::move(name))
+    {
+    }
+
+    Result<report::Medium> medium() override;
+    Result<void> erase(EraseMode mode, const Control &control) override;
+    Result<void> writeData(DiscData &data, BlockDigests &sent, const Control &control) override;
+    Result<void> writeAudio(const audio::AudioDisc &disc, const Control &control) override;
+    Result<void> reload() override;
+    Result<std::size_t> read(std::uint64_t block, std::span<std::byte> buffer) override;
+    void present() override { }
+
+private:
+    Result<RecorderState> begin(std::uint64_t bytes);
+    Result<void> write(Content content, const std::shared_ptr<TapState> &tapState,
+        const std::function<Result<void>()> &sourceOutcome, const Control &control);
+    Result<void> finish(RecorderState state, const Content &content, const Fd &file);
+    Error abandon(RecorderState state, const Fd &file, const LibburnDrive::Outcome &outcome,
+        const Result<void> &sourceOutcome);
+
+    RecorderFolder m_folder;
+    std::string m_name;
+    Fd m_disc;
+    std::unique_ptr<LibburnDrive> m_reader;
+};
+
+Result<report::Medium> VirtualLease::medium()
+{
+    const Result<RecorderState> state = m_folder.load();
+    if (!state)
+        return state.error();
+    report::Medium medium = mediumOf(*state);
+    // A killed write could not note how far it had come.
+    if (state->disc == DiscState::writing && medium.kind != report::MediumKind::none)
+        for (const char *file : { dataDiscFile, audioDiscFile })
+            if (const auto disc = m_folder.openDisc(file))
+                medium.used = sizeOf(*disc) / blockBytes;
+    medium.deviceName = "virtual";
+    return medium;
+}
+
+Result<void> VirtualLease::erase(EraseMode, const Control &)
+{
+    Result<RecorderState> state = m_folder.load();
+    if (!state)
+        return state.error();
+    if (!report::canErase(mediumOf(*state)))
+        return Error{ Exit::failed, "The disc in " + m_name + " cannot be erased: insert a rewritable one." };
+    // What is half gone after a kill must not look like a whole disc.
+    state->disc = DiscState::writing;
+    if (auto saved = m_folder.save(*state); !saved)
+        return saved;
+    if (auto cleared = m_folder.clear(); !cleared)
+        return cleared;
+    state->disc = DiscState::blank;
+    state->blocks = 0;
+    return m_folder.save(*state);
+}
+
+/// The recorder's rules, and room for the file. Marks the disc as being written.
+Result<RecorderState> VirtualLease::begin(std::uint64_t bytes)
+{
+    Result<RecorderState> state = m_folder.load();
+    if (!state)
+        return state;
+    if (!report::canWriteNow(mediumOf(*state)))
+        return Error{ Exit::failed, "The disc in " + m_name + " was written already: insert a blank one." };
+    if (auto cleared = m_folder.clear(); !cleared)
+        return cleared.error();
+    const Result<std::uint64_t> room = m_folder.room();
+    if (!room)
+        return room.error();
+    if (*room < bytes)
+        return Error{ Exit::failed,
+            "The file system that holds " + m_name + " has room for " + std::to_string(*room / blockBytes)
+                + " blocks, and the disc needs " + std::to_string(bytes / blockBytes)
+                + ": make room there." };
+    state->disc = DiscState::writing;
+    state->blocks = 0;
+    if (auto saved = m_folder.save(*state); !saved)
+        return saved.error();
+    return state;
+}
+
+Error VirtualLease::abandon(RecorderState state, const Fd &file, const LibburnDrive::Outcome &outcome,
+    const Result<void> &sourceOutcome)
+{
+    const std::uint64_t reached = sizeOf(file) / blockBytes;
+    state.disc = DiscState::blank;
+    const Left left = leftOf(mediumOf(state), reached > 0);
+    if (reached > 0) {
+        state.disc = DiscState::spoilt;
+        state.blocks = reached;
+    } else if (auto cleared = m_folder.clear(); !cleared) {
+        return cleared.error();
+    }
+    if (auto saved = m_folder.save(state); !saved)
+        return saved.error();
+    return writeFailure(outcome, sourceOutcome, m_name, left);
+}
+
+Result<void> VirtualLease::finish(RecorderState state, const Content &content, const Fd &file)
+{
+    // libburn writes whole blocks of 2048 bytes; audio sectors end where they end.
+    if (sizeOf(file) != content.bytes
+        && (::ftruncate(file.get(), static_cast<off_t>(content.bytes)) != 0 || ::fsync(file.get()) != 0))
+        return systemError("The disc of " + m_name + " cannot be finished", errno);
+    if (!content.cueSheet.empty())
+        if (auto saved = m_folder.saveCueSheet(content.cueSheet); !saved)
+            return saved;
+    state.disc = DiscState::written;
+    state.blocks = content.sectors;
+    return m_folder.save(state);
+}
+
+Result<void> VirtualLease::write(Content content, const std::shared_ptr<TapState> &tapState,
+    const std::function<Result<void>()> &sourceOutcome, const Control &control)
+{
+    const Result<RecorderState> state = begin(content.bytes);
+    if (!state)
+        return state.error();
+    Result<Fd> file = m_folder.createDisc(content.file);
+    if (!file)
+        return abandon(*state, Fd(), {}, file.error());
+    LibburnDrive::Outcome outcome;
+    {
+        auto drive = LibburnDrive::grab(addressOf(*file), m_name, true, false);
+        if (!drive)
+            return abandon(*state, *file, {}, drive.error());
+        const auto family = report::factsOf(state->kind).family;
+        std::vector<Track> tracks;
+        tracks.push_back(std::move(content.track));
+        outcome = (*drive)->write(
+            tracks, WriteMode::trackAtOnce, family, [&] { return tapState->ranDry.load(); }, control);
+    }
+    if (!outcome.well || tapState->bytes.load() < content.bytes)
+        return abandon(*state, *file, outcome, sourceOutcome());
+    return finish(*state, content, *file);
+}
+
+Result<void> VirtualLease::writeData(DiscData &data, BlockDigests &sent, const Control &control)
+{
+    const Result<burn::burn_source *> stream = data.start();
+    if (!stream)
+        return stream.error();
+    const auto tapState = std::make_shared<TapState>();
+    Content content;
+    content.track.source = tap(*stream, data.blocks(), tapState);
+    content.sectors = data.blocks();
+    content.bytes = data.blocks() * blockBytes;
+    content.file = dataDiscFile;
+    auto written = write(
+        std::move(content), tapState, [&] { return data.outcome(); }, control);
+    sent = std::move(tapState->digests);
+    return written;
+}
+
+Result<void> VirtualLease::writeAudio(const audio::AudioDisc &disc, const Control &control)
+{
+    // The same bytes that audio::writeBin() makes, through libburn: the pause of track 1, then all tracks.
+    const std::uint64_t bytes = std::uint64_t{ disc.sectorCount() } * audio::sectorSize;
+    const auto outcome = std::make_shared<Result<void>>();
+    std::vector<Source> parts;
+    parts.push_back(zeros(std::uint64_t{ audio::firstPause } * audio::sectorSize));
+    for (const audio::AudioTrack &track : disc.tracks) {
+        auto stream = audio::TrackStream::open(track);
+        if (!stream)
+            return stream.error();
+        parts.emplace_back(audio::newTrackSource(std::move(stream).value(), track.sectors, outcome));
+    }
+    const std::uint64_t blocks = (bytes + blockBytes - 1) / blockBytes;
+    parts.push_back(zeros(blocks * blockBytes - bytes));
+    const Source all = chain(std::move(parts), blocks * blockBytes);
+    const auto tapState = std::make_shared<TapState>();
+    Content content;
+    content.track.source = tap(all.get(), blocks, tapState);
+    content.sectors = disc.sectorCount() - audio::firstPause;
+    content.bytes = bytes;
+    content.file = audioDiscFile;
+    content.cueSheet = audio::cueSheet(audioDiscFile, disc.tracks);
+    return write(
+        std::move(content), tapState, [&] { return *outcome; }, control);
+}
+
+Result<void> VirtualLease::reload()
+{
+    m_reader.reset();
+    Result<Fd> disc = m_folder.openDisc(dataDiscFile);
+    if (!disc)
+        return disc.error();
+    m_disc = std::move(disc).value();
+    return {};
+}
+
+Result<std::size_t> VirtualLease::read(std::uint64_t block, std::span<std::byte> buffer)
+{
+    if (!m_reader) {
+        auto reader = LibburnDrive::grab(addressOf(m_disc), m_name, true, false);
+        if (!reader)
+            return reader.error();
+        m_reader = std::move(reader).value();
+    }
+    return m_reader->read(block, buffer);
+}
+
+bool isSpoilt(DiscState state)
+{
+    return state == DiscState::writing || state == DiscState::spoilt;
+}
+
+/// Takes what is in `folder` out and puts a blank of `kind` in.
+Result<void> exchange(const RecorderFolder &folder, RecorderState state, report::MediumKind kind)
+{
+    if (auto moved = folder.archive(state.kind, isSpoilt(state.disc)); !moved)
+        return moved;
+    state.trayOpen = false;
+    state.kind = kind;
+    state.disc = DiscState::blank;
+    state.blocks = 0;
+    return folder.save(state);
+}
+
+} // namespace
+
+VirtualDrive::VirtualDrive(std::string folder)
+    : m_folder(std::move(folder))
+{
+}
+
+report::DriveRecord VirtualDrive::record() const
+{
+    bool readable = false;
+    const RecorderState state = peek(m_folder, readable);
+    return { state.vendor, state.product, state.revision, "Virtual", readable ? "Supported" : "Damaged" };
+}
+
+Result<std::unique_ptr<Lease>> VirtualDrive::acquire(Purpose purpose)
+{
+    auto folder = RecorderFolder::lock(
+        m_folder, name(), purpose == Purpose::change ? Access::exclusive : Access::shared);
+    if (!folder)
+        return folder.error();
+    return std::unique_ptr<Lease>(std::make_unique<VirtualLease>(std::move(folder).value(), name()));
+}
+
+Result<void> VirtualDrive::eject()
+{
+    auto folder = RecorderFolder::lock(m_folder, name(), Access::exclusive);
+    if (!folder)
+        return folder.error();
+    Result<RecorderState> state = folder->load();
+    if (!state)
+        return state.error();
+    if (state->kind != report::MediumKind::none)
+        return exchange(*folder, *state, state->kind);
+    state->trayOpen = true;
+    return folder->save(*state);
+}
+
+Result<void> VirtualDrive::close()
+{
+    auto folder = RecorderFolder::lock(m_folder, name(), Access::exclusive);
+    if (!folder)
+        return folder.error();
+    Result<RecorderState> state = folder->load();
+    if (!state)
+        return state.error();
+    if (!state->trayOpen)
+        return {};
+    state->trayOpen = false;
+    return folder->save(*state);
+}
+
+Result<void> VirtualDrive::insert(report::MediumKind kind)
+{
+    auto folder = RecorderFolder::lock(m_folder, name(), Access::exclusive);
+    if (!folder)
+        return folder.error();
+    // A damaged recorder.ini is replaced: this is how a recorder is repaired.
+    const Result<RecorderState> state = folder->load();
+    return exchange(*folder, state ? *state : RecorderState{}, kind);
+}
+
+} // namespace engine::drive

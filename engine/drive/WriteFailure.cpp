@@ -1,0 +1,62 @@
+#include "drive/WriteFailure.h"
+
+#include "base/Words.h"
+
+#include <cerrno>
+#include <csignal>
+
+namespace engine::drive {
+
+namespace {
+
+std::string withoutFullStop(std::string text)
+{
+    while (!text.empty()
+        && (text.back() == '.' || text.back() == ' ' || text.back() == ',' || text.back() == '\n'))
+        text.pop_back();
+    return text;
+}
+
+std::string stateSentence(const std::string &driveName, Left left)
+{
+    switch (left) {
+    case Left::blank:
+        return " The disc in " + driveName + " is still blank.";
+    case Left::spoilt:
+        return " The disc in " + driveName + " is spoilt.";
+    case Left::erasable:
+        break;
+    }
+    return " The disc in " + driveName + " has to be erased before it can be used.";
+}
+
+} // namespace
+
+Left leftOf(const report::Medium &before, bool touched)
+{
+    if (!touched && before.state == report::MediumState::blank)
+        return Left::blank;
+    return report::canErase(before) ? Left::erasable : Left::spoilt;
+}
+
+Error writeFailure(
+    const LibburnDrive::Outcome &outcome, const Result<void> &source, const std::string &driveName, Left left)
+{
+    const std::string state = stateSentence(driveName, left);
+    if (outcome.signal != 0)
+        return stoppedBy(outcome.signal, "The write was stopped." + state);
+    if (!source)
+        return { source.error().exit, withoutFullStop(source.error().message) + "." + state };
+    if (outcome.sourceFailed)
+        return { Exit::failed, "The data for the disc ended too early." + state };
+    const int failure = outcome.message.failure;
+    if (failure == ENOSPC || failure == EDQUOT || failure == EFBIG)
+        return { Exit::failed,
+            "The file system that holds " + driveName + " takes no more: " + reason(failure) + "." + state };
+    if (outcome.message.text.empty())
+        return { Exit::failed, "The write to " + driveName + " failed." + state };
+    return { Exit::failed,
+        "The write to " + driveName + " failed (" + withoutFullStop(outcome.message.text) + ")." + state };
+}
+
+} // namespace engine::drive

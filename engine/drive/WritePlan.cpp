@@ -1,0 +1,35 @@
+#include "drive/WritePlan.h"
+
+#include <algorithm>
+
+namespace engine::drive {
+
+Attempt firstAttempt(report::Rewriting rewriting, const std::vector<int> &speeds)
+{
+    const bool sequential = rewriting == report::Rewriting::once || rewriting == report::Rewriting::erase;
+    return { sequential ? WriteMode::sessionAtOnce : WriteMode::trackAtOnce,
+        speeds.empty() ? 0 : speeds.back() };
+}
+
+bool isSpeedError(const LibburnMessage &refusal)
+{
+    return refusal.text.find("[3 73 ") != std::string::npos
+        || refusal.text.find("ower calibration") != std::string::npos
+        || refusal.text.find("speed") != std::string::npos;
+}
+
+std::optional<Attempt> nextAttempt(
+    const Attempt &failed, const LibburnMessage &refusal, bool audio, const std::vector<int> &speeds)
+{
+    if (isSpeedError(refusal)) {
+        const auto same = std::ranges::lower_bound(speeds, failed.speed);
+        if (failed.speed == 0 || same == speeds.begin())
+            return std::nullopt;
+        return Attempt{ failed.mode, *std::prev(same) };
+    }
+    if (failed.mode == WriteMode::sessionAtOnce && !audio)
+        return Attempt{ WriteMode::trackAtOnce, failed.speed };
+    return std::nullopt;
+}
+
+} // namespace engine::drive

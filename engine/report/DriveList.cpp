@@ -1,0 +1,55 @@
+#include "report/DriveList.h"
+
+#include <algorithm>
+
+namespace engine::report {
+
+namespace {
+
+constexpr std::string_view numbers = "123456789abcdefghijklmnopqrstuvwxyz";
+static_assert(numbers.size() == maximumDrives);
+
+std::string column(const std::string &text, std::size_t width)
+{
+    std::string cell = text.substr(0, width);
+    for (char &c : cell)
+        if (c < 0x20 || c > 0x7e)
+            c = '?';
+    cell.resize(width, ' ');
+    return cell;
+}
+
+// The gaps between the cells are part of the format: 3, 12, 30, 36, 46.
+std::string line(const std::string &number, const DriveRecord &d)
+{
+    std::string text = column(number, 3) + column(d.vendor, 8) + ' ' + column(d.product, 16) + "  "
+        + column(d.revision, 4) + "  " + column(d.bus, 8) + "  " + column(d.support, d.support.size());
+    text.erase(text.find_last_not_of(' ') + 1);
+    text.resize(std::max<std::size_t>(text.size(), 30), ' ');
+    return text + '\n';
+}
+
+} // namespace
+
+char driveNumber(std::size_t index)
+{
+    return numbers.at(index);
+}
+
+std::optional<std::size_t> driveIndex(std::string_view number)
+{
+    const std::size_t at = number.size() == 1 ? numbers.find(number.front()) : std::string_view::npos;
+    if (at == std::string_view::npos)
+        return std::nullopt;
+    return at;
+}
+
+std::string driveListText(const std::vector<DriveRecord> &drives)
+{
+    std::string text = line("", { "Vendor", "Product", "Rev", "Bus", "SupportLevel" });
+    for (std::size_t i = 0; i < std::min(drives.size(), maximumDrives); ++i)
+        text += line(std::string(1, driveNumber(i)), drives[i]);
+    return text;
+}
+
+} // namespace engine::report

@@ -1,0 +1,44 @@
+// Lines that tell how far a write, an erase or a comparison has come.
+#pragma once
+
+#include "report/Medium.h"
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace engine::report {
+
+enum class Phase { preparing, erasing, writing, closing, verifying };
+
+/// How far an operation is at one moment.
+struct Progress {
+    Phase phase = Phase::preparing;
+    uint64_t done = 0; ///< in units of `total`
+    uint64_t total = 0; ///< 0: not known
+    double speed = 0.0; ///< 1000 bytes a second, 0 not known
+    Family family = Family::none; ///< what the speed factor refers to
+    std::optional<int> bufferPercent; ///< fill of the drive's buffer, 0..100
+};
+
+/// One line without its break: "Writing: 42.3 %, 16x, buffer 98 %". Parts that are not known are left out.
+std::string progressText(const Progress &progress);
+
+/// Lets lines through at most twice a second, and each change of phase at once. Keeps the speed by
+/// comparing with the line before.
+class ProgressPacer {
+public:
+    using Clock = std::chrono::steady_clock;
+
+    /// The line to print at `now`, or nothing when it is too early for another. `blockBytes` is the size
+    /// of one unit of `progress.done`; 0 where the speed means nothing.
+    std::optional<std::string> next(Progress progress, unsigned blockBytes, Clock::time_point now);
+
+private:
+    std::optional<Phase> m_phase;
+    Clock::time_point m_printed;
+    uint64_t m_done = 0;
+};
+
+} // namespace engine::report

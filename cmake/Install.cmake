@@ -24,7 +24,7 @@ install(FILES ${CMAKE_BINARY_DIR}/libexec/corvalis/ffmpeg DESTINATION ${CORVALIS
 install(FILES src/ui/icons/corvalis.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES ${packaging}/corvalis.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${packaging}/org.corvalis.Corvalis.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-install(FILES ${packaging}/copyright README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES ${packaging}/copyright README.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/corvalis)
 
 # Installed compressed, without a time stamp so that a build can be reproduced.
 function(install_compressed file name destination)

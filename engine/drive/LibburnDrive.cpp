@@ -210,11 +210,14 @@ LibburnDrive::Outcome LibburnDrive::wait(report::Phase busy, report::Family fami
     Outcome outcome;
     auto pause = 1ms;
     bool cancelled = false;
+    report::Phase phase = busy;
     burn_progress p{};
     for (burn_drive_status status; (status = burn_drive_get_status(handle(), &p)) != BURN_DRIVE_IDLE;) {
         if (status != BURN_DRIVE_SPAWNING) {
             outcome.sectors = std::max(outcome.sectors, static_cast<std::uint64_t>(std::max(p.sector, 0)));
-            control.report(progressOf(p, phaseOf(status, busy), family), unitBytes);
+            // A DVD goes back to "writing" for a moment between closing its track and its session.
+            phase = phase == report::Phase::closing ? phase : phaseOf(status, busy);
+            control.report(progressOf(p, phase, family), unitBytes);
         }
         if (outcome.signal == 0)
             outcome.signal = control.stopped();

@@ -204,8 +204,8 @@ LibburnMessage LibburnDrive::takeMessage()
     return first;
 }
 
-LibburnDrive::Outcome LibburnDrive::wait(report::Phase busy, report::Family family, unsigned unitBytes,
-    const std::function<bool()> &sourceFailed, const Control &control)
+LibburnDrive::Outcome LibburnDrive::wait(Stop stop, report::Phase busy, report::Family family,
+    unsigned unitBytes, const std::function<bool()> &sourceFailed, const Control &control)
 {
     Outcome outcome;
     auto pause = 1ms;
@@ -222,7 +222,7 @@ LibburnDrive::Outcome LibburnDrive::wait(report::Phase busy, report::Family fami
         if (outcome.signal == 0)
             outcome.signal = control.stopped();
         outcome.sourceFailed = outcome.sourceFailed || (sourceFailed && sourceFailed());
-        if (busy == report::Phase::writing && !cancelled && (outcome.signal != 0 || outcome.sourceFailed)) {
+        if (stop == Stop::cancels && !cancelled && (outcome.signal != 0 || outcome.sourceFailed)) {
             burn_drive_cancel(handle());
             cancelled = true;
         }
@@ -236,7 +236,8 @@ LibburnDrive::Outcome LibburnDrive::wait(report::Phase busy, report::Family fami
 }
 
 LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, WriteMode mode,
-    report::Family family, const std::function<bool()> &sourceFailed, const Control &control)
+    report::Phase phase, report::Family family, const std::function<bool()> &sourceFailed,
+    const Control &control)
 {
     takeMessage();
     const bool audio = !tracks.empty() && tracks.front().audio;
@@ -254,13 +255,12 @@ LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, Writ
         return refused;
     }
     burn_disc_write(options.get(), layout.disc());
-    return wait(
-        report::Phase::writing, family, audio ? audio::sectorSize : blockBytes, sourceFailed, control);
+    return wait(Stop::cancels, phase, family, audio ? audio::sectorSize : blockBytes, sourceFailed, control);
 }
 
 LibburnDrive::Outcome LibburnDrive::waitForErase(const Control &control)
 {
-    return wait(report::Phase::erasing, report::Family::none, 0, {}, control);
+    return wait(Stop::waits, report::Phase::erasing, report::Family::none, 0, {}, control);
 }
 
 std::size_t LibburnDrive::read(std::uint64_t block, std::span<std::byte> buffer)

@@ -61,6 +61,7 @@ private:
 
 struct PhysicalLease::Job {
     bool audio = false;
+    report::Phase phase = report::Phase::writing;
     std::function<Result<std::vector<Track>>()> tracks;
     std::function<bool()> sourceFailed;
     std::function<Result<void>()> sourceOutcome;
@@ -87,7 +88,7 @@ Result<void> PhysicalLease::write(Job &job, const report::Medium &medium, const 
             return tracks.error();
         burn_drive_set_speed(m_drive->handle(), 0, attempt.speed);
         const LibburnDrive::Outcome outcome =
-            m_drive->write(*tracks, attempt.mode, family, job.sourceFailed, control);
+            m_drive->write(*tracks, attempt.mode, job.phase, family, job.sourceFailed, control);
         if (outcome.well)
             return {};
         const bool again = untouched(outcome, medium);
@@ -207,6 +208,7 @@ Result<void> PhysicalLease::overwrite(
     std::uint64_t blocks, const report::Medium &medium, const Control &control)
 {
     Job job;
+    job.phase = report::Phase::erasing;
     job.tracks = [&]() -> Result<std::vector<Track>> {
         std::vector<Track> tracks(1);
         tracks.front().source = zeros(blocks * blockBytes);

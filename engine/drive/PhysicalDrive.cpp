@@ -129,17 +129,13 @@ Result<void> PhysicalLease::writeAudio(const audio::AudioDisc &disc, const Contr
     const Result<report::Medium> now = medium();
     if (!now)
         return now.error();
-    const auto outcome = std::make_shared<Result<void>>();
+    const auto reading = std::make_shared<AudioReading>();
     Job job;
     job.audio = true;
-    job.tracks = [&] { return audioTracks(disc, outcome); };
-    job.sourceOutcome = [&] { return *outcome; };
-    if (auto written = write(job, *now, control); !written)
-        return written;
-    // libburn fills up a track whose file failed with silence; that is no disc to be handed out.
-    if (!*outcome)
-        return writeFailure({}, *outcome, m_name, leftOf(*now, true));
-    return {};
+    job.tracks = [&] { return audioTracks(disc, reading); };
+    job.sourceFailed = [&] { return reading->failed.load(); };
+    job.sourceOutcome = [&] { return reading->outcome; };
+    return write(job, *now, control);
 }
 
 Result<void> PhysicalLease::reload()

@@ -5,14 +5,13 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <memory>
-#include <string_view>
-#include <tuple>
-
 #include <dirent.h>
 #include <fcntl.h>
+#include <memory>
+#include <string_view>
 #include <strings.h>
 #include <sys/stat.h>
+#include <tuple>
 #include <unistd.h>
 
 namespace engine::audio {
@@ -75,10 +74,10 @@ Result<std::vector<Candidate>> listCandidates(const std::string &folder, std::ve
         const std::string name = item->d_name;
         if (name.starts_with('.'))
             continue;
-        struct stat info {};
+        struct stat info { };
         if (fstatat(dirfd(directory.get()), name.c_str(), &info, 0) != 0)
-            return Error { Exit::failed,
-                           "The file " + quoted(folder + '/' + name) + " cannot be read: " + reason(errno) + "." };
+            return Error{ Exit::failed,
+                "The file " + quoted(folder + '/' + name) + " cannot be read: " + reason(errno) + "." };
         if (isWaveName(name) && !S_ISDIR(info.st_mode))
             candidates.push_back({ info.st_mtim.tv_sec, info.st_mtim.tv_nsec, name });
         else
@@ -115,12 +114,12 @@ Result<AudioDisc> readAudioFolder(const std::string &folder)
     if (!candidates)
         return candidates.error();
     if (candidates->empty())
-        return Error { Exit::failed,
-                       "The folder " + quoted(folder) + " holds no WAVE file: put one for each track into it." };
+        return Error{ Exit::failed,
+            "The folder " + quoted(folder) + " holds no WAVE file: put one for each track into it." };
     if (candidates->size() > mostTracks)
-        return Error { Exit::failed,
-                       "The folder " + quoted(folder) + " holds " + std::to_string(candidates->size())
-                           + " WAVE files, but an audio disc has at most " + std::to_string(mostTracks) + " tracks." };
+        return Error{ Exit::failed,
+            "The folder " + quoted(folder) + " holds " + std::to_string(candidates->size())
+                + " WAVE files, but an audio disc has at most " + std::to_string(mostTracks) + " tracks." };
     for (const Candidate &candidate : *candidates) {
         const std::string path = folder + (folder.ends_with('/') ? "" : "/") + candidate.name;
         const auto wave = readWave(path);
@@ -134,8 +133,8 @@ Result<AudioDisc> readAudioFolder(const std::string &folder)
 std::string msf(std::uint32_t sector)
 {
     char text[32];
-    std::snprintf(text, sizeof text, "%02u:%02u:%02u", sector / sectorsPerSecond / 60, sector / sectorsPerSecond % 60,
-                  sector % sectorsPerSecond);
+    std::snprintf(text, sizeof text, "%02u:%02u:%02u", sector / sectorsPerSecond / 60,
+        sector / sectorsPerSecond % 60, sector % sectorsPerSecond);
     return text;
 }
 
@@ -143,7 +142,8 @@ std::string cueSheet(const std::string &binName, const std::vector<AudioTrack> &
 {
     std::string name = binName;
     std::replace_if(
-        name.begin(), name.end(), [](char letter) { return letter == '"' || letter == '\n' || letter == '\r'; }, '_');
+        name.begin(), name.end(),
+        [](char letter) { return letter == '"' || letter == '\n' || letter == '\r'; }, '_');
     std::string sheet = "FILE \"" + name + "\" BINARY\n";
     std::uint32_t start = firstPause;
     for (std::size_t index = 0; index < tracks.size(); ++index) {

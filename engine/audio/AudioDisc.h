@@ -10,10 +10,10 @@
 
 namespace engine::audio {
 
-constexpr std::uint32_t sectorSize = 2352;        ///< bytes of an audio sector
-constexpr std::uint32_t sectorsPerSecond = 75;    ///< also called frames
-constexpr std::uint32_t firstPause = 150;         ///< sectors of silence before track 1
-constexpr std::uint32_t shortestTrack = 300;      ///< sectors; a CD track lasts at least four seconds
+constexpr std::uint32_t sectorSize = 2352; ///< bytes of an audio sector
+constexpr std::uint32_t sectorsPerSecond = 75; ///< also called frames
+constexpr std::uint32_t firstPause = 150; ///< sectors of silence before track 1
+constexpr std::uint32_t shortestTrack = 300; ///< sectors; a CD track lasts at least four seconds
 constexpr std::uint32_t mostTracks = 99;
 
 /// One track: a file's samples, filled with silence to `sectors` whole sectors.

@@ -6,14 +6,12 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <fcntl.h>
+#include <libburn/libburn.h>
 #include <new>
+#include <unistd.h>
 #include <utility>
 #include <vector>
-
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <libburn/libburn.h>
 
 namespace engine::audio {
 
@@ -34,7 +32,8 @@ TrackSource &of(burn::burn_source *source)
 
 int readSource(burn::burn_source *source, unsigned char *buffer, int size)
 {
-    const auto got = of(source).track.read(reinterpret_cast<std::byte *>(buffer), static_cast<std::size_t>(size));
+    const auto got =
+        of(source).track.read(reinterpret_cast<std::byte *>(buffer), static_cast<std::size_t>(size));
     if (got)
         return static_cast<int>(*got);
     *of(source).outcome = got.error();
@@ -48,7 +47,7 @@ Result<void> writeAll(int fd, const std::byte *bytes, std::size_t size, const st
         if (part < 0 && errno == EINTR)
             continue;
         if (part < 0)
-            return Error { Exit::failed, quoted(destination) + " cannot be written: " + reason(errno) + "." };
+            return Error{ Exit::failed, quoted(destination) + " cannot be written: " + reason(errno) + "." };
         bytes += part;
         size -= static_cast<std::size_t>(part);
     }
@@ -61,19 +60,26 @@ Result<TrackStream> TrackStream::open(const AudioTrack &track)
 {
     const int fd = ::open(track.path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (fd < 0)
-        return Error { Exit::failed, "The file " + quoted(track.path) + " cannot be read: " + reason(errno) + "." };
+        return Error{ Exit::failed,
+            "The file " + quoted(track.path) + " cannot be read: " + reason(errno) + "." };
     return TrackStream(track, fd);
 }
 
 TrackStream::TrackStream(const AudioTrack &track, int fd)
-    : m_path(track.path), m_fd(fd), m_next(track.wave.offset), m_samples(track.wave.size),
-      m_silence(static_cast<std::uint64_t>(track.sectors) * sectorSize - track.wave.size)
+    : m_path(track.path)
+    , m_fd(fd)
+    , m_next(track.wave.offset)
+    , m_samples(track.wave.size)
+    , m_silence(static_cast<std::uint64_t>(track.sectors) * sectorSize - track.wave.size)
 {
 }
 
 TrackStream::TrackStream(TrackStream &&other) noexcept
-    : m_path(std::move(other.m_path)), m_fd(std::exchange(other.m_fd, -1)), m_next(other.m_next),
-      m_samples(other.m_samples), m_silence(other.m_silence)
+    : m_path(std::move(other.m_path))
+    , m_fd(std::exchange(other.m_fd, -1))
+    , m_next(other.m_next)
+    , m_samples(other.m_samples)
+    , m_silence(other.m_silence)
 {
 }
 
@@ -102,10 +108,10 @@ Result<std::size_t> TrackStream::read(std::byte *buffer, std::size_t size)
         if (got < 0 && errno == EINTR)
             continue;
         if (got <= 0)
-            return Error { Exit::failed,
-                           "The file " + quoted(m_path)
-                               + (got < 0 ? " cannot be read: " + reason(errno) : " became shorter while it was read")
-                               + "." };
+            return Error{ Exit::failed,
+                "The file " + quoted(m_path)
+                    + (got < 0 ? " cannot be read: " + reason(errno) : " became shorter while it was read")
+                    + "." };
         done += static_cast<std::size_t>(got);
         m_next += static_cast<std::uint64_t>(got);
         m_samples -= static_cast<std::uint64_t>(got);
@@ -116,22 +122,25 @@ Result<std::size_t> TrackStream::read(std::byte *buffer, std::size_t size)
     return done + silence;
 }
 
-burn::burn_source *newTrackSource(TrackStream track, std::uint32_t sectors, std::shared_ptr<Result<void>> outcome)
+burn::burn_source *newTrackSource(
+    TrackStream track, std::uint32_t sectors, std::shared_ptr<Result<void>> outcome)
 {
     auto *source = static_cast<burn::burn_source *>(std::calloc(1, sizeof(burn::burn_source)));
     if (!source)
         throw std::bad_alloc();
     source->refcount = 1;
     source->read = readSource;
-    source->get_size = [](burn::burn_source *from) { return static_cast<off_t>(of(from).sectors) * sectorSize; };
+    source->get_size = [](burn::burn_source *from) {
+        return static_cast<off_t>(of(from).sectors) * sectorSize;
+    };
     source->set_size = [](burn::burn_source *, off_t) { return 1; };
     source->free_data = [](burn::burn_source *from) { delete static_cast<TrackSource *>(from->data); };
-    source->data = new TrackSource { std::move(track), sectors, std::move(outcome) };
+    source->data = new TrackSource{ std::move(track), sectors, std::move(outcome) };
     return source;
 }
 
 Result<void> writeBin(const AudioDisc &disc, int fd, const std::string &destination,
-                      const std::function<bool(std::uint32_t sectors)> &progress)
+    const std::function<bool(std::uint32_t sectors)> &progress)
 {
     std::vector<std::byte> buffer(sectorsAtOnce * sectorSize);
     if (auto ok = writeAll(fd, buffer.data(), firstPause * sectorSize, destination); !ok)
@@ -143,7 +152,7 @@ Result<void> writeBin(const AudioDisc &disc, int fd, const std::string &destinat
             return stream.error();
         for (;;) {
             if (progress && !progress(written))
-                return Error { Exit::interrupted, "Writing " + quoted(destination) + " was interrupted." };
+                return Error{ Exit::interrupted, "Writing " + quoted(destination) + " was interrupted." };
             const auto got = stream->read(buffer.data(), buffer.size());
             if (!got)
                 return got.error();

@@ -35,7 +35,7 @@ private:
     TrackStream(const AudioTrack &track, int fd);
     std::string m_path;
     int m_fd = -1;
-    std::uint64_t m_next = 0;    ///< offset in the file
+    std::uint64_t m_next = 0; ///< offset in the file
     std::uint64_t m_samples = 0; ///< bytes of samples still to come
     std::uint64_t m_silence = 0; ///< bytes of silence still to come
 };
@@ -44,12 +44,13 @@ private:
 /// The caller owns the reference (burn_source_free). When a read fails, the source returns -1 and
 /// `outcome` holds the error; it is shared with the caller and must not be read while libburn
 /// writes.
-burn::burn_source *newTrackSource(TrackStream track, std::uint32_t sectors, std::shared_ptr<Result<void>> outcome);
+burn::burn_source *newTrackSource(
+    TrackStream track, std::uint32_t sectors, std::shared_ptr<Result<void>> outcome);
 
 /// Writes the pause of track 1 and all tracks to `fd`: the .bin file that cueSheet() describes.
 /// `progress` is told the sectors written so far and ends the writing (Exit::interrupted) by
 /// returning false; may be empty. The error of a failed write speaks of `destination`.
 Result<void> writeBin(const AudioDisc &disc, int fd, const std::string &destination,
-                      const std::function<bool(std::uint32_t sectors)> &progress);
+    const std::function<bool(std::uint32_t sectors)> &progress);
 
 } // namespace engine::audio

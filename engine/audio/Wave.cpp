@@ -6,10 +6,9 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <fcntl.h>
 #include <optional>
 #include <string_view>
-
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -22,8 +21,8 @@ constexpr std::uint16_t formatPcm = 0x0001;
 constexpr std::uint16_t formatExtensible = 0xfffe;
 
 // KSDATAFORMAT_SUBTYPE_PCM as it lies in a file
-constexpr std::array<unsigned char, 16> pcmSubFormat { 0x01, 0x00, 0x00, 0x00, 0x00, 0x00, 0x10, 0x00,
-                                                       0x80, 0x00, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71 };
+constexpr std::array<unsigned char, 16> pcmSubFormat{ 0x01, 0x00, 0x00, 0x00, 0x00, 0x00, 0x10, 0x00, 0x80,
+    0x00, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71 };
 
 constexpr std::uint64_t riffHeader = 12;
 constexpr std::uint64_t chunkHeader = 8;
@@ -71,7 +70,7 @@ public:
     }
 
 private:
-    std::array<std::byte, 40> m_bytes {};
+    std::array<std::byte, 40> m_bytes{};
     std::size_t m_size;
 };
 
@@ -85,7 +84,7 @@ std::optional<Format> readFormat(const ReadAt &readAt, std::uint64_t offset, std
     const Bytes bytes(readAt, offset, size);
     if (size < 16 || !bytes.has(16))
         return {};
-    Format format { bytes.u16(0), bytes.u16(2), bytes.u32(4), bytes.u16(14) };
+    Format format{ bytes.u16(0), bytes.u16(2), bytes.u32(4), bytes.u16(14) };
     if (format.tag == formatExtensible && size >= 40 && bytes.has(40) && bytes.equals(24, pcmSubFormat)) {
         format.tag = formatPcm;
         const std::uint16_t validBits = bytes.u16(18);
@@ -107,8 +106,8 @@ Result<void> checkFormat(const std::optional<Format> &format)
     if (format->rate != 44100)
         return no("has " + std::to_string(format->rate) + " samples a second" + wanted);
     if (format->channels != 2)
-        return no("has " + std::to_string(format->channels) + (format->channels == 1 ? " channel" : " channels")
-                  + wanted);
+        return no("has " + std::to_string(format->channels)
+            + (format->channels == 1 ? " channel" : " channels") + wanted);
     return {};
 }
 
@@ -118,7 +117,7 @@ bool isOpenEnded(std::uint32_t size, std::uint32_t riffSize, std::uint64_t rest,
     if (size == unknownSize || size > rest)
         return true;
     const bool riffIsOpen = riffSize == unknownSize || riffSize + chunkHeader > fileSize
-        || riffSize + chunkHeader <= fileSize - rest - chunkHeader;
+        || riffSize + chunkHeader <= fileSize - rest;
     return size == 0 && riffIsOpen;
 }
 
@@ -143,7 +142,7 @@ Result<WaveData> parseWave(const ReadAt &readAt, std::uint64_t fileSize)
             if (auto ok = checkFormat(format); !ok)
                 return ok.error();
             const std::uint64_t rest = fileSize - offset;
-            WaveData data { offset, isOpenEnded(size, riff.u32(4), rest, fileSize) ? rest : size };
+            WaveData data{ offset, isOpenEnded(size, riff.u32(4), rest, fileSize) ? rest : size };
             data.size -= data.size % frameSize;
             if (data.size == 0)
                 return no("holds no sound");
@@ -169,11 +168,11 @@ Result<WaveData> parseWave(std::span<const std::byte> file)
 Result<WaveData> readWave(const std::string &path)
 {
     const auto failed = [&path](const std::string &predicate) {
-        return Error { Exit::failed, "The file " + quoted(path) + " " + predicate + "." };
+        return Error{ Exit::failed, "The file " + quoted(path) + " " + predicate + "." };
     };
     // Not blocking: a pipe of that name must not hold the program up.
     const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    struct stat info {};
+    struct stat info { };
     if (fd < 0 || fstat(fd, &info) != 0)
         return failed("cannot be read: " + reason(errno));
     int readError = 0;
@@ -183,9 +182,8 @@ Result<WaveData> readWave(const std::string &path)
             readError = errno;
         return got < 0 ? 0 : static_cast<std::size_t>(got);
     };
-    const auto data = S_ISREG(info.st_mode)
-        ? parseWave(readAt, static_cast<std::uint64_t>(info.st_size))
-        : Result<WaveData>(no("is not a file"));
+    const auto data = S_ISREG(info.st_mode) ? parseWave(readAt, static_cast<std::uint64_t>(info.st_size))
+                                            : Result<WaveData>(no("is not a file"));
     close(fd);
     if (readError != 0)
         return failed("cannot be read: " + reason(readError));

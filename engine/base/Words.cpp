@@ -10,13 +10,13 @@ namespace engine {
 namespace {
 
 struct Utf8Lead {
-    unsigned char first, last;             ///< range of the lead byte
+    unsigned char first, last; ///< range of the lead byte
     unsigned char secondFirst, secondLast; ///< range of the byte after it
     std::size_t length;
 };
 
 // RFC 3629, 4: the well-formed byte sequences.
-constexpr std::array<Utf8Lead, 9> utf8Leads { {
+constexpr std::array<Utf8Lead, 9> utf8Leads{ {
     { 0x00, 0x7f, 0x00, 0x00, 1 },
     { 0xc2, 0xdf, 0x80, 0xbf, 2 },
     { 0xe0, 0xe0, 0xa0, 0xbf, 3 },
@@ -84,7 +84,7 @@ std::string reason(int error)
 
 std::string sizeText(std::uint64_t bytes)
 {
-    static constexpr std::array units { "bytes", "kB", "MB", "GB", "TB" };
+    static constexpr std::array units{ "bytes", "kB", "MB", "GB", "TB" };
     double value = static_cast<double>(bytes);
     std::size_t unit = 0;
     while (value >= 999.5 && unit + 1 < units.size()) {

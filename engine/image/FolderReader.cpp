@@ -5,54 +5,50 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace engine::image {
 
-FolderReader::FolderReader(const FolderTree &tree) : m_tree(tree) {}
+FolderReader::FolderReader(const FolderTree &tree, Large large)
+    : m_tree(tree)
+    , m_large(large)
+{
+    for (Slot &slot : m_slots)
+        slot.bytes = std::make_unique_for_overwrite<std::byte[]>(slotSize);
+    m_thread = std::thread([this] { run(); });
+}
 
 FolderReader::~FolderReader()
 {
-    stop();
-}
-
-void FolderReader::open(std::uint32_t content)
-{
-    if (!comesNext(content)) {
-        stop();
-        start(content);
+    {
+        const std::lock_guard lock(m_mutex);
+        m_stopping = true;
     }
-    m_content = content;
-    m_left = m_tree.contents()[content].size;
+    m_changed.notify_all();
+    m_thread.join();
+    for (const Slot &slot : m_slots) {
+        if (slot.file >= 0)
+            close(slot.file);
+    }
 }
 
-/// Whether the next byte in the slots is the first of `content`.
-bool FolderReader::comesNext(std::uint32_t content) const
+bool FolderReader::next(Piece &piece)
 {
-    if (!m_thread.joinable() || m_left > 0 || content <= m_content)
+    std::unique_lock lock(m_mutex);
+    if (m_released < m_taken) {
+        Slot &done = m_slots[m_released % slotCount];
+        if (done.file >= 0)
+            close(done.file);
+        done.file = -1;
+        m_released = m_taken;
+        m_changed.notify_all();
+    }
+    m_changed.wait(lock, [this] { return m_published > m_taken || m_ended; });
+    if (m_published == m_taken)
         return false;
-    const auto size = [this](std::uint32_t passed) { return m_tree.contents()[passed].size; };
-    for (std::uint32_t passed = m_content + 1; passed < content; ++passed) {
-        if (size(passed) > 0)
-            return false;
-    }
-    return true;
-}
-
-bool FolderReader::read(std::byte *buffer, std::size_t size, std::size_t &got)
-{
-    size = static_cast<std::size_t>(std::min<std::uint64_t>(size, m_left));
-    for (got = 0; got < size;) {
-        std::size_t part = 0;
-        const std::byte *bytes = next(size - got, part);
-        if (!bytes)
-            return false;
-        std::memcpy(buffer + got, bytes, part);
-        got += part;
-    }
-    m_left -= size;
+    const Slot &slot = m_slots[m_taken++ % slotCount];
+    piece = { { slot.bytes.get(), slot.filled }, slot.file, slot.fileSize, slot.content };
     return true;
 }
 
@@ -62,65 +58,25 @@ Result<void> FolderReader::outcome() const
     return m_outcome;
 }
 
-void FolderReader::start(std::uint32_t content)
+Error FolderReader::contentError(const FolderTree &tree, std::uint32_t content, int error)
 {
-    for (Slot &slot : m_slots) {
-        if (!slot.bytes)
-            slot.bytes = std::make_unique_for_overwrite<std::byte[]>(slotSize);
-    }
-    m_published = m_released = m_taken = m_available = 0;
-    m_slotOffset = 0;
-    m_fillOffset = 0;
-    m_ended = m_stopping = false;
-    m_thread = std::thread([this, content] { fill(content); });
+    const std::string why = error != 0
+        ? "cannot be read: " + reason(error)
+        : "became shorter while it was being stored; leave it alone and start again";
+    return { Exit::failed,
+        "The file " + quoted(tree.path(tree.contents()[content].entry)) + " " + why + "." };
 }
 
-void FolderReader::stop()
-{
-    if (!m_thread.joinable())
-        return;
-    {
-        const std::lock_guard lock(m_mutex);
-        m_stopping = true;
-    }
-    m_changed.notify_all();
-    m_thread.join();
-}
-
-/// Up to `most` bytes that lie side by side; waits for the reading thread. nullptr at its end.
-const std::byte *FolderReader::next(std::size_t most, std::size_t &got)
-{
-    if (m_taken < m_available && m_slotOffset == m_slots[m_taken % slotCount].filled) {
-        ++m_taken;
-        m_slotOffset = 0;
-        {
-            const std::lock_guard lock(m_mutex);
-            m_released = m_taken;
-        }
-        m_changed.notify_all();
-    }
-    if (m_taken == m_available) {
-        std::unique_lock lock(m_mutex);
-        m_changed.wait(lock, [this] { return m_published > m_taken || m_ended; });
-        m_available = m_published;
-        if (m_taken == m_available)
-            return nullptr;
-    }
-    const Slot &slot = m_slots[m_taken % slotCount];
-    got = std::min(most, slot.filled - m_slotOffset);
-    const std::byte *bytes = slot.bytes.get() + m_slotOffset;
-    m_slotOffset += got;
-    return bytes;
-}
-
-void FolderReader::fill(std::uint32_t content)
+void FolderReader::run()
 {
     TreeOpener opener(m_tree);
     const auto end = static_cast<std::uint32_t>(m_tree.contents().size());
-    while (content < end && fillFrom(content, opener))
+    filling().filled = 0;
+    std::uint32_t content = 0;
+    while (content < end && readContent(content, opener))
         ++content;
-    if (content == end && m_fillOffset > 0)
-        publish(m_fillOffset);
+    if (content == end && filling().filled > 0)
+        publish();
     {
         const std::lock_guard lock(m_mutex);
         m_ended = true;
@@ -128,55 +84,78 @@ void FolderReader::fill(std::uint32_t content)
     m_changed.notify_all();
 }
 
-/// Puts one file into the slots; false when it failed or the reading is to stop.
-bool FolderReader::fillFrom(std::uint32_t content, TreeOpener &opener)
+bool FolderReader::readContent(std::uint32_t content, TreeOpener &opener)
 {
-    std::uint64_t left = m_tree.contents()[content].size;
-    if (left == 0)
+    const std::uint64_t size = m_tree.contents()[content].size;
+    if (size == 0)
         return true;
     const int fd = opener.openFile(m_tree.contents()[content].entry);
-    if (fd < 0) {
-        fail(content, "cannot be read: " + reason(errno));
-        return false;
-    }
-    bool going = true;
-    while (going && left > 0) {
-        const auto room = static_cast<std::size_t>(std::min<std::uint64_t>(left, slotSize - m_fillOffset));
-        const ssize_t got = ::read(fd, m_slots[m_published % slotCount].bytes.get() + m_fillOffset, room);
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got <= 0) {
-            fail(content, got < 0 ? "cannot be read: " + reason(errno)
-                                  : "became shorter while it was being stored; leave it alone and start again");
-            going = false;
-            break;
-        }
-        left -= static_cast<std::uint64_t>(got);
-        m_fillOffset += static_cast<std::size_t>(got);
-        going = m_fillOffset < slotSize || publish(slotSize);
-    }
+    if (fd < 0)
+        return fail(content, errno);
+    if (m_large == Large::open && size >= largeSize)
+        return handOver(fd, content) && pad(size);
+    const bool going = readBytes(fd, content);
     close(fd);
-    return going;
+    return going && pad(size);
 }
 
-/// Hands the slot over and waits for a free one; false when the reading is to stop.
-bool FolderReader::publish(std::size_t filled)
+bool FolderReader::readBytes(int fd, std::uint32_t content)
 {
-    m_slots[m_published % slotCount].filled = filled;
-    m_fillOffset = 0;
+    for (std::uint64_t left = m_tree.contents()[content].size; left > 0;) {
+        Slot &slot = filling();
+        const auto room = static_cast<std::size_t>(std::min<std::uint64_t>(left, slotSize - slot.filled));
+        const ssize_t got = ::read(fd, slot.bytes.get() + slot.filled, room);
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got <= 0)
+            return fail(content, got < 0 ? errno : 0);
+        left -= static_cast<std::uint64_t>(got);
+        slot.filled += static_cast<std::size_t>(got);
+        if (slot.filled == slotSize && !publish())
+            return false;
+    }
+    return true;
+}
+
+bool FolderReader::handOver(int fd, std::uint32_t content)
+{
+    Slot &slot = filling();
+    slot.file = fd;
+    slot.fileSize = m_tree.contents()[content].size;
+    slot.content = content;
+    return publish();
+}
+
+/// Zeros after `size` bytes of data, up to a whole block.
+bool FolderReader::pad(std::uint64_t size)
+{
+    Slot &slot = filling();
+    const auto zeros = static_cast<std::size_t>((blockSize - size % blockSize) % blockSize);
+    // Slots are whole blocks and every file begins at one, except after a file that was handed over: then
+    // the slot is empty. There is always room.
+    std::memset(slot.bytes.get() + slot.filled, 0, zeros);
+    slot.filled += zeros;
+    return slot.filled < slotSize || publish();
+}
+
+/// Hands the slot over and waits for a free one.
+bool FolderReader::publish()
+{
     std::unique_lock lock(m_mutex);
     ++m_published;
     m_changed.notify_all();
     m_changed.wait(lock, [this] { return m_stopping || m_published - m_released < slotCount; });
-    return !m_stopping;
+    if (m_stopping)
+        return false;
+    filling().filled = 0;
+    return true;
 }
 
-void FolderReader::fail(std::uint32_t content, const std::string &why)
+bool FolderReader::fail(std::uint32_t content, int error)
 {
-    const std::string path = m_tree.path(m_tree.contents()[content].entry);
     const std::lock_guard lock(m_mutex);
-    if (m_outcome)
-        m_outcome = Error { Exit::failed, "The file " + quoted(path) + " " + why + "." };
+    m_outcome = contentError(m_tree, content, error);
+    return false;
 }
 
 } // namespace engine::image

@@ -1,4 +1,4 @@
-// Reads the data of a tree's files ahead of whoever stores them.
+// Reads the data of a tree's files ahead of whoever writes them.
 #pragma once
 
 #include "base/Result.h"
@@ -9,69 +9,84 @@
 #include <cstddef>
 #include <memory>
 #include <mutex>
+#include <span>
 #include <thread>
 
 namespace engine::image {
 
-/// The contents of a tree as one stream of bytes in the order of their numbers, filled by a thread
-/// of its own, so that opening and reading files runs beside writing. The contents are asked for in
-/// ascending order; anything else is served too, but starts the thread anew.
+/// The next bytes of the data area: `bytes`, and after them, when `file` is not -1, `fileSize` bytes that are
+/// to be copied from the start of that file.
+struct Piece {
+    std::span<const std::byte> bytes;
+    int file = -1;
+    std::uint64_t fileSize = 0;
+    std::uint32_t content = 0; ///< the number of that file's content
+};
+
+/// The data area of an image: the contents of a tree in the order of their numbers, each filled with zeros
+/// to whole blocks. A thread of its own opens and reads the files, so that this runs beside writing.
 ///
-/// open() and read() belong to one thread at a time; outcome() may be asked from any.
+/// next() belongs to one thread; outcome() may be asked from any.
 class FolderReader {
 public:
-    explicit FolderReader(const FolderTree &tree);
+    enum class Large {
+        read, ///< every byte comes as a byte
+        open, ///< a large file comes as an open file, so that the kernel can copy it by itself
+    };
+
+    /// `tree` must live longer. Starts reading at once.
+    FolderReader(const FolderTree &tree, Large large);
     FolderReader(const FolderReader &) = delete;
     FolderReader &operator=(const FolderReader &) = delete;
     ~FolderReader();
 
-    /// Goes to the first byte of a content.
-    void open(std::uint32_t content);
-    /// Copies the next bytes of the open content; fewer than `size` only at its end. Returns
-    /// false when a file failed, see outcome().
-    bool read(std::byte *buffer, std::size_t size, std::size_t &got);
-    /// The error that stopped the reading: names the file.
+    /// Waits for the next piece, which is valid until the next call. False at the end, and when a file
+    /// failed: see outcome().
+    bool next(Piece &piece);
+    /// The error that ended the reading early: names the file.
     Result<void> outcome() const;
+
+    /// The sentence for a file that fails while its image is written; `error` is an errno value, or 0
+    /// when the file has become shorter.
+    static Error contentError(const FolderTree &tree, std::uint32_t content, int error);
 
 private:
     struct Slot {
         std::unique_ptr<std::byte[]> bytes;
         std::size_t filled = 0;
+        int file = -1;
+        std::uint64_t fileSize = 0;
+        std::uint32_t content = 0;
     };
 
-    void start(std::uint32_t content);
-    void stop();
-    bool comesNext(std::uint32_t content) const;
-    const std::byte *next(std::size_t most, std::size_t &got);
-
-    // On the reading thread.
-    void fill(std::uint32_t content);
-    bool fillFrom(std::uint32_t content, TreeOpener &opener);
-    bool publish(std::size_t filled);
-    void fail(std::uint32_t content, const std::string &why);
+    // On the reading thread; false when the reading is to stop.
+    void run();
+    bool readContent(std::uint32_t content, TreeOpener &opener);
+    bool readBytes(int fd, std::uint32_t content);
+    bool handOver(int fd, std::uint32_t content);
+    bool pad(std::uint64_t size);
+    bool publish();
+    bool fail(std::uint32_t content, int error);
+    Slot &filling() { return m_slots[m_published % slotCount]; }
 
     static constexpr std::size_t slotCount = 8;
     static constexpr std::size_t slotSize = 256 * 1024;
+    // Below this, copying through the slots beside the writing is faster than the kernel's way.
+    static constexpr std::uint64_t largeSize = 1024 * 1024;
 
     const FolderTree &m_tree;
+    const Large m_large;
     std::array<Slot, slotCount> m_slots;
-    std::thread m_thread;
+    std::uint64_t m_taken = 0; ///< slots that next() has returned
 
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
-    std::uint64_t m_published = 0; ///< slots filled since the start
-    std::uint64_t m_released = 0;  ///< slots emptied since the start
-    bool m_ended = false;          ///< nothing more will be published
+    std::uint64_t m_published = 0; ///< slots filled since the start; only the reading thread changes it
+    std::uint64_t m_released = 0; ///< slots emptied since the start
+    bool m_ended = false; ///< nothing more will be published
     bool m_stopping = false;
     Result<void> m_outcome;
-
-    std::uint64_t m_taken = 0;     ///< number of the slot being emptied
-    std::size_t m_slotOffset = 0;  ///< in that slot
-    std::uint64_t m_available = 0; ///< slots known to be filled
-    std::uint32_t m_content = 0;   ///< opened last
-    std::uint64_t m_left = 0;      ///< bytes of it still to come
-
-    std::size_t m_fillOffset = 0; ///< reading thread: bytes in the slot being filled
+    std::thread m_thread; ///< last, so that it finds the other members
 };
 
 } // namespace engine::image

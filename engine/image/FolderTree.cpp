@@ -6,13 +6,12 @@
 #include <cerrno>
 #include <climits>
 #include <cstring>
-#include <memory>
-#include <unordered_map>
-
 #include <dirent.h>
 #include <fcntl.h>
+#include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <unordered_map>
 
 namespace engine::image {
 
@@ -20,7 +19,7 @@ namespace {
 
 // A folder that links lead to again and again, each time below another, multiplies without end
 // for practical purposes although no path returns to its own ancestor.
-constexpr std::uint32_t mostLinkedFolders = 100000;
+constexpr std::uint32_t mostLinkedFolders = 20000;
 
 // Beyond this the offsets of names no longer fit (and no disc holds the directory records).
 constexpr std::size_t mostTextBytes = UINT32_MAX - PATH_MAX - NAME_MAX;
@@ -36,7 +35,7 @@ struct FileId {
 struct FileIdHash {
     std::size_t operator()(const FileId &id) const
     {
-        return std::hash<std::uint64_t> {}(id.inode * 0x9e3779b97f4a7c15U ^ id.device);
+        return std::hash<std::uint64_t>{}(id.inode * 0x9e3779b97f4a7c15U ^ id.device);
     }
 };
 
@@ -53,7 +52,12 @@ bool mayRead(const struct stat &info, int folderFd, const char *name)
 /// Builds a FolderTree, folder by folder, without recursion: a tree may be deeper than a stack.
 class FolderScan {
 public:
-    FolderScan(FolderTree &tree, const IsoOptions &options) : m_tree(tree), m_options(options), m_opener(tree) {}
+    FolderScan(FolderTree &tree, const IsoOptions &options)
+        : m_tree(tree)
+        , m_options(options)
+        , m_opener(tree)
+    {
+    }
 
     Result<void> run()
     {
@@ -71,11 +75,11 @@ public:
 private:
     Result<void> addRoot()
     {
-        struct stat info {};
+        struct stat info { };
         const int fd = m_opener.enter(0);
         if (fd < 0 || fstat(fd, &info) != 0) {
-            return Error { Exit::failed,
-                           "The folder " + quoted(m_tree.folder()) + " cannot be read: " + reason(errno) + "." };
+            return Error{ Exit::failed,
+                "The folder " + quoted(m_tree.folder()) + " cannot be read: " + reason(errno) + "." };
         }
         Entry &root = m_tree.m_entries.emplace_back();
         root.name = text("");
@@ -87,7 +91,7 @@ private:
     Result<void> readFolder(std::uint32_t folder)
     {
         if (stopped())
-            return Error { Exit::interrupted, "Reading the folder was interrupted." };
+            return Error{ Exit::interrupted, "Reading the folder was interrupted." };
         const int fd = m_opener.enter(folder);
         if (fd < 0 || !listNames(fd))
             return unreadable("folder", folder, errno);
@@ -131,10 +135,11 @@ private:
     Result<void> addChild(int fd, std::uint32_t folder, const std::string &name)
     {
         if (m_tree.m_entries.size() % 4096 == 0 && stopped())
-            return Error { Exit::interrupted, "Reading the folder was interrupted." };
+            return Error{ Exit::interrupted, "Reading the folder was interrupted." };
         if (m_tree.m_texts.size() > mostTextBytes)
-            return Error { Exit::failed, "The folder " + quoted(m_tree.folder()) + " holds too many names for a disc." };
-        struct stat info {};
+            return Error{ Exit::failed,
+                "The folder " + quoted(m_tree.folder()) + " holds too many names for a disc." };
+        struct stat info { };
         if (fstatat(fd, name.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0) {
             if (errno != ENOENT)
                 return unreadable("file", folder, errno, name);
@@ -147,10 +152,10 @@ private:
         if (followed && !follow(fd, folder, name, info))
             return {};
         if (followed && S_ISDIR(info.st_mode) && ++m_linkedFolders > mostLinkedFolders) {
-            return Error { Exit::failed,
-                           "The links to folders under " + quoted(m_tree.folder())
-                               + " lead to one another without end: remove some of them, for example "
-                               + quoted(childPath(folder, name)) + "." };
+            return Error{ Exit::failed,
+                "The links to folders under " + quoted(m_tree.folder())
+                    + " lead to one another without end: remove some of them, for example "
+                    + quoted(childPath(folder, name)) + "." };
         }
         entry.name = text(name);
         fill(entry, info);
@@ -188,9 +193,9 @@ private:
     {
         if (fstatat(fd, name.c_str(), &info, 0) != 0) {
             leaveOut(folder, name,
-                     errno == ENOENT     ? "the link points to nothing"
-                         : errno == ELOOP ? "the link leads back to itself"
-                                          : "the link cannot be followed: " + reason(errno));
+                errno == ENOENT      ? "the link points to nothing"
+                    : errno == ELOOP ? "the link leads back to itself"
+                                     : "the link cannot be followed: " + reason(errno));
             return false;
         }
         if (S_ISDIR(info.st_mode) && isAncestor(folder, info)) {
@@ -221,12 +226,12 @@ private:
     {
         const auto number = static_cast<std::uint32_t>(m_tree.m_contents.size());
         if (info.st_nlink > 1 || m_options.links == Links::follow) {
-            const auto [known, isNew] = m_known.try_emplace(FileId { info.st_dev, info.st_ino }, number);
+            const auto [known, isNew] = m_known.try_emplace(FileId{ info.st_dev, info.st_ino }, number);
             if (!isNew)
                 return known->second;
         }
         m_tree.m_contents.push_back({ static_cast<std::uint32_t>(m_tree.m_entries.size()),
-                                      static_cast<std::uint64_t>(info.st_size) });
+            static_cast<std::uint64_t>(info.st_size) });
         return number;
     }
 
@@ -264,7 +269,7 @@ private:
     {
         const std::string path = name.empty() ? m_tree.path(entry) : childPath(entry, name);
         return { Exit::failed,
-                 std::string("The ") + kind + " " + quoted(path) + " cannot be read: " + reason(error) + "." };
+            std::string("The ") + kind + " " + quoted(path) + " cannot be read: " + reason(error) + "." };
     }
 
     bool stopped() const { return m_options.stop && m_options.stop(); }
@@ -273,7 +278,7 @@ private:
     const IsoOptions &m_options;
     TreeOpener m_opener;
     std::vector<std::uint32_t> m_pending; ///< folders still to be read, the next one last
-    std::vector<std::string> m_names;     ///< of the folder being read
+    std::vector<std::string> m_names; ///< of the folder being read
     std::unordered_map<FileId, std::uint32_t, FileIdHash> m_known;
     std::uint32_t m_linkedFolders = 0;
 };
@@ -308,7 +313,10 @@ std::string FolderTree::path(std::uint32_t entry) const
     return m_folder + (m_folder.ends_with('/') ? "" : "/") + relativePath(entry);
 }
 
-TreeOpener::TreeOpener(const FolderTree &tree) : m_tree(tree) {}
+TreeOpener::TreeOpener(const FolderTree &tree)
+    : m_tree(tree)
+{
+}
 
 TreeOpener::~TreeOpener()
 {
@@ -328,7 +336,8 @@ int TreeOpener::enter(std::uint32_t folder)
     if (m_root < 0 || m_current == folder)
         return m_fd;
     const bool isChild = m_fd >= 0 && m_tree.entries()[folder].parent == m_current;
-    const int fd = isChild ? openat(m_fd, m_tree.name(m_tree.entries()[folder]), folderFlags) : openChain(folder);
+    const int fd =
+        isChild ? openat(m_fd, m_tree.name(m_tree.entries()[folder]), folderFlags) : openChain(folder);
     const int error = errno;
     if (m_fd >= 0 && m_fd != m_root)
         close(m_fd);

@@ -7,24 +7,23 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
-
 #include <sys/types.h>
+#include <vector>
 
 namespace engine::image {
 
 /// One file, folder, link or special file. 0 is the root folder, which is its own parent.
 struct Entry {
     std::uint32_t parent = 0;
-    std::uint32_t name = 0;   ///< offset in FolderTree's texts
+    std::uint32_t name = 0; ///< offset in FolderTree's texts
     std::uint32_t target = 0; ///< of a symbolic link: offset in FolderTree's texts
-    std::uint32_t first = 0;  ///< folder: its first child; regular file: its number in contents
-    std::uint32_t count = 0;  ///< of a folder: number of children, which lie side by side
+    std::uint32_t first = 0; ///< folder: its first child; regular file: its number in contents
+    std::uint32_t count = 0; ///< of a folder: number of children, which lie side by side
     mode_t mode = 0;
     uid_t uid = 0;
     gid_t gid = 0;
-    dev_t device = 0;        ///< the file system it lies on
-    dev_t special = 0;       ///< of a device file: which device
+    dev_t device = 0; ///< the file system it lies on
+    dev_t special = 0; ///< of a device file: which device
     std::uint64_t inode = 0;
     std::int64_t modified = 0, accessed = 0, changed = 0; ///< seconds since 1970
 };
@@ -32,7 +31,7 @@ struct Entry {
 /// The data of a regular file, stored once whatever the number of its names.
 struct Content {
     std::uint32_t entry = 0; ///< the name through which it is read
-    std::uint64_t size = 0;  ///< in bytes
+    std::uint64_t size = 0; ///< in bytes
 };
 
 class FolderTree {

@@ -3,25 +3,25 @@
 #include "base/Words.h"
 #include "image/FolderReader.h"
 #include "image/FolderTree.h"
-#include "image/IsoTree.h"
+#include "image/ImageFile.h"
+#include "image/IsoHeader.h"
 #include "image/JolietNotes.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdlib>
 #include <cstring>
-#include <mutex>
-
-#include <unistd.h>
-
 #include <libburn/libburn.h>
+#include <mutex>
+#include <new>
+#include <optional>
+#include <span>
+#include <utility>
 
 namespace engine::image {
 
 namespace {
 
-constexpr std::size_t writeSize = 1024 * 1024;
-constexpr std::size_t gatherSize = 64 * 1024; ///< libburn asks for single blocks
+constexpr std::size_t gatherSize = 256 * 1024;
 
 std::string nameOf(const std::string &folder)
 {
@@ -31,125 +31,96 @@ std::string nameOf(const std::string &folder)
     return name.empty() ? "DISC" : name;
 }
 
-Error writeError(const std::string &destination, int error)
-{
-    std::string what = quoted(destination) + " cannot be written: " + reason(error);
-    if (error == ENOSPC || error == EDQUOT)
-        what += "; free some space or choose another place";
-    else if (error == EFBIG)
-        what += "; its file system does not hold a file of this size, choose another place";
-    return { Exit::failed, what + "." };
-}
-
 } // namespace
 
-/// Everything that has to live as long as the image is streamed, in the order of dependence.
+/// The image piece by piece. A shared object: the image's owner and libburn both keep it alive.
 class IsoImage::Stream {
 public:
-    explicit Stream(FolderTree read) : tree(std::move(read)), reader(tree) {}
-    Stream(const Stream &) = delete;
-    Stream &operator=(const Stream &) = delete;
-
-    ~Stream()
+    Stream(FolderTree read, std::function<bool()> stopAsked)
+        : stop(std::move(stopAsked))
+        , tree(std::move(read))
     {
-        if (!source)
-            return;
-        if (!source->read && source->version >= 1 && source->cancel)
-            source->cancel(source);
-        burn::burn_source_free(source);
     }
 
     Result<void> begin(const IsoOptions &options)
     {
         const std::string volume = options.volumeName.empty() ? nameOf(tree.folder()) : options.volumeName;
-        auto built = buildIsoTree(tree, reader, volume);
-        if (!built)
-            return built.error();
-        iso = std::move(*built);
-        auto started = startIso(iso, options.rockRidge);
-        if (!started)
-            return started.error();
-        source = *started;
-        left = static_cast<std::uint64_t>(source->get_size(source));
-        blocks = static_cast<std::uint32_t>(left / blockSize);
-        stop = options.stop;
+        auto made = IsoHeader::make(tree, volume, options.rockRidge);
+        if (!made)
+            return made.error();
+        header = std::move(*made);
+        blocks = header.imageBlocks();
         notes = tree.notes();
         addJolietNotes(tree, notes);
         return {};
     }
 
-    /// Fills `buffer`, but for the end of the image. -1 when it failed.
-    std::int64_t read(unsigned char *buffer, std::size_t size)
+    /// The next piece of the image, valid until the next call; empty at the end.
+    Result<Piece> next(FolderReader::Large large)
     {
-        size = static_cast<std::size_t>(std::min<std::uint64_t>(size, left));
-        for (std::size_t got = 0; got < size;) {
-            const auto part = static_cast<int>(std::min(size - got, writeSize));
-            const int count = source->read ? source->read(source, buffer + got, part)
-                                           : source->read_xt(source, buffer + got, part);
-            if (!reader.outcome())
-                return -1;
-            if (count <= 0) {
-                fail("The image cannot be produced: " + lastIsoMessage() + ".");
-                return -1;
-            }
-            got += static_cast<std::size_t>(count);
+        if (!reader) {
+            reader.emplace(tree, large);
+            buffer.resize(gatherSize);
         }
-        left -= size;
-        return static_cast<std::int64_t>(size);
+        const auto got = header.read(buffer);
+        if (!got)
+            return fail(got.error());
+        if (*got > 0)
+            return Piece{ std::span(buffer).first(*got) };
+        Piece piece;
+        if (reader->next(piece))
+            return piece;
+        if (auto ok = reader->outcome(); !ok)
+            return fail(ok.error());
+        buffer.assign(std::exchange(padding, 0) * blockSize, std::byte{});
+        return Piece{ buffer };
     }
 
-    /// The same for small requests.
-    int readGathered(unsigned char *buffer, std::size_t size)
+    /// Fills `wanted` but at the end of the image; -1 when the image fails.
+    std::ptrdiff_t read(std::span<std::byte> wanted)
     {
         std::size_t done = 0;
-        while (done < size) {
-            if (gatherOffset == gathered.size() && !gather())
-                return -1;
-            const std::size_t part = std::min(size - done, gathered.size() - gatherOffset);
-            if (part == 0)
-                break;
-            std::memcpy(buffer + done, gathered.data() + gatherOffset, part);
-            gatherOffset += part;
+        while (done < wanted.size()) {
+            if (rest.empty()) {
+                const auto piece = next(FolderReader::Large::read);
+                if (!piece)
+                    return -1;
+                rest = piece->bytes;
+                if (rest.empty())
+                    break;
+            }
+            const std::size_t part = std::min(rest.size(), wanted.size() - done);
+            std::memcpy(wanted.data() + done, rest.data(), part);
+            rest = rest.subspan(part);
             done += part;
         }
-        return static_cast<int>(done);
+        return static_cast<std::ptrdiff_t>(done);
+    }
+
+    Error fail(const Error &error)
+    {
+        const std::lock_guard lock(mutex);
+        failure = error;
+        return error;
     }
 
     Result<void> outcome() const
     {
-        if (auto ok = reader.outcome(); !ok)
-            return ok;
         const std::lock_guard lock(mutex);
         return failure;
     }
 
+    const std::function<bool()> stop;
     const FolderTree tree;
-    FolderReader reader;
-    IsoTree iso;
-    burn::burn_source *source = nullptr; ///< of libisofs
     std::uint32_t blocks = 0;
-    std::uint64_t left = 0; ///< bytes of the image not yet read
     std::vector<std::string> notes;
-    std::function<bool()> stop;
 
 private:
-    bool gather()
-    {
-        gathered.resize(gatherSize);
-        gatherOffset = 0;
-        const std::int64_t count = read(gathered.data(), gatherSize);
-        gathered.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
-        return count >= 0;
-    }
-
-    void fail(const std::string &message)
-    {
-        const std::lock_guard lock(mutex);
-        failure = Error { Exit::failed, message };
-    }
-
-    std::vector<unsigned char> gathered;
-    std::size_t gatherOffset = 0;
+    IsoHeader header;
+    std::optional<FolderReader> reader;
+    std::vector<std::byte> buffer; ///< what piece is not in the reader
+    std::span<const std::byte> rest; ///< of the piece that read() is in
+    std::uint32_t padding = IsoHeader::paddingBlocks();
     mutable std::mutex mutex;
     Result<void> failure;
 };
@@ -165,12 +136,15 @@ struct IsoImage::Outlet {
             throw std::bad_alloc();
         source->refcount = 1;
         source->read = [](burn::burn_source *from, unsigned char *buffer, int size) {
-            return of(from).readGathered(buffer, static_cast<std::size_t>(size));
+            return static_cast<int>(
+                of(from).read({ reinterpret_cast<std::byte *>(buffer), static_cast<std::size_t>(size) }));
         };
-        source->get_size = [](burn::burn_source *from) { return static_cast<off_t>(of(from).blocks) * blockSize; };
+        source->get_size = [](burn::burn_source *from) {
+            return static_cast<off_t>(of(from).blocks) * blockSize;
+        };
         source->set_size = [](burn::burn_source *, off_t) { return 1; };
         source->free_data = [](burn::burn_source *from) { delete static_cast<Outlet *>(from->data); };
-        source->data = new Outlet { stream };
+        source->data = new Outlet{ stream };
         return source;
     }
 
@@ -182,16 +156,20 @@ Result<IsoImage> IsoImage::fromFolder(const std::string &folder, const IsoOption
     auto tree = FolderTree::read(folder, options);
     if (!tree)
         return tree.error();
-    auto stream = std::make_shared<Stream>(std::move(*tree));
+    auto stream = std::make_shared<Stream>(std::move(*tree), options.stop);
     if (auto ok = stream->begin(options); !ok)
         return ok.error();
     return IsoImage(std::move(stream));
 }
 
-IsoImage::IsoImage(std::shared_ptr<Stream> stream) : m_stream(std::move(stream)) {}
+IsoImage::IsoImage(std::shared_ptr<Stream> stream)
+    : m_stream(std::move(stream))
+{
+}
 
 IsoImage::IsoImage(IsoImage &&other) noexcept
-    : m_stream(std::move(other.m_stream)), m_source(std::exchange(other.m_source, nullptr))
+    : m_stream(std::move(other.m_stream))
+    , m_source(std::exchange(other.m_source, nullptr))
 {
 }
 
@@ -237,21 +215,22 @@ Result<void> IsoImage::outcome() const
 
 Result<void> IsoImage::writeTo(int fd, const std::string &destination)
 {
-    const auto buffer = std::make_unique_for_overwrite<unsigned char[]>(writeSize);
+    ImageFile file(fd, destination, m_stream->stop);
     for (;;) {
-        if (m_stream->stop && m_stream->stop())
-            return Error { Exit::interrupted, "Writing " + quoted(destination) + " was interrupted." };
-        const std::int64_t count = m_stream->read(buffer.get(), writeSize);
-        if (count < 0)
-            return m_stream->outcome();
-        if (count == 0)
+        const auto piece = m_stream->next(FolderReader::Large::open);
+        if (!piece)
+            return piece.error();
+        if (piece->bytes.empty() && piece->file < 0)
             return {};
-        for (std::int64_t done = 0; done < count;) {
-            const ssize_t part = write(fd, buffer.get() + done, static_cast<std::size_t>(count - done));
-            if (part < 0 && errno != EINTR)
-                return writeError(destination, errno);
-            done += std::max<ssize_t>(part, 0);
-        }
+        if (auto ok = file.write(piece->bytes); !ok)
+            return ok;
+        if (piece->file < 0)
+            continue;
+        const auto unreadable = [&](int error) {
+            return FolderReader::contentError(m_stream->tree, piece->content, error);
+        };
+        if (auto ok = file.copy(piece->file, piece->fileSize, unreadable); !ok)
+            return ok;
     }
 }
 

@@ -19,13 +19,13 @@ constexpr std::uint32_t blockSize = 2048; ///< bytes of a logical block (ECMA-11
 
 /// What becomes of symbolic links.
 enum class Links {
-    keep,   ///< stored as Rock Ridge links; left out, with a note, when there is no Rock Ridge
+    keep, ///< stored as Rock Ridge links; left out, with a note, when there is no Rock Ridge
     follow, ///< stored as what they point to; loops and dangling links left out, with a note
 };
 
 struct IsoOptions {
     std::string volumeName; ///< UTF-8; when empty, the folder's own name
-    bool rockRidge = true;  ///< exact names, times, modes and owners beside the Joliet names
+    bool rockRidge = true; ///< exact names, times, modes and owners beside the Joliet names
     Links links = Links::keep;
     /// Asked now and then while the folder is read and the image is written; true ends both with
     /// Exit::interrupted. Called on the thread that called fromFolder() or writeTo(). May be empty.

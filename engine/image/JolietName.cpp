@@ -10,7 +10,8 @@ constexpr std::size_t longestName = 103; ///< UTF-16 units that fit into a direc
 
 bool isForbidden(char character)
 {
-    return static_cast<unsigned char>(character) < 0x20 || std::string_view("*/:;?\\").find(character) != std::string_view::npos;
+    return static_cast<unsigned char>(character) < 0x20
+        || std::string_view("*/:;?\\").find(character) != std::string_view::npos;
 }
 
 } // namespace

@@ -1,0 +1,39 @@
+// Writing an image into a file.
+#pragma once
+
+#include "base/Result.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+
+namespace engine::image {
+
+/// The file that an image goes into. Does not own the descriptor. Errors speak of `name`; a stop asked
+/// for is Exit::interrupted.
+class ImageFile {
+public:
+    ImageFile(int fd, std::string name, std::function<bool()> stop);
+
+    /// Writes all of `bytes`.
+    Result<void> write(std::span<const std::byte> bytes);
+
+    /// Copies `size` bytes from the position of `source`, by the kernel where the file systems allow it.
+    /// `unreadable` makes the error of the source: it gets an errno value, or 0 when the source ends early.
+    Result<void> copy(int source, std::uint64_t size, const std::function<Error(int error)> &unreadable);
+
+private:
+    Result<void> checkStop() const;
+    Result<void> copyByHand(
+        int source, std::uint64_t size, const std::function<Error(int error)> &unreadable);
+
+    int m_fd;
+    std::string m_name;
+    std::function<bool()> m_stop;
+    std::unique_ptr<std::byte[]> m_buffer; ///< of copyByHand()
+};
+
+} // namespace engine::image

@@ -1,0 +1,404 @@
+#include "image/IsoHeader.h"
+
+#include "base/Words.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <cstring>
+#include <libburn/libburn.h>
+#include <libisofs/libisofs.h>
+#include <mutex>
+#include <sys/stat.h>
+#include <vector>
+
+// The public header keeps this structure from C++ because it calls its first member "class"; the
+// layout is part of the interface (libisofs.h, "Representation of file contents").
+struct iso_stream {
+    IsoStreamIface *iface;
+    int refcount;
+    void *data;
+};
+
+namespace engine::image {
+
+namespace {
+
+// Blocks of zeros after the image: a drive reads ahead over the end of a track written at once.
+constexpr std::uint32_t paddingBlocks = 150;
+
+// How much of the data area is looked at to prove that libisofs put the files where we put their data.
+constexpr std::uint64_t mostProvedBlocks = 64;
+
+// Any number that libisofs does not use for streams of its own.
+constexpr unsigned int streamFileSystem = 0xc0;
+
+/// What stands in for the first bytes of a file's data, to prove where libisofs puts it.
+using Marker = std::array<char, 16>;
+
+Marker markerOf(std::uint32_t content)
+{
+    Marker marker{ 'd', 'a', 't', 'a', ' ', 'o', 'f', ' ', 'f', 'i', 'l', 'e' };
+    std::memcpy(marker.data() + 12, &content, sizeof content);
+    return marker;
+}
+
+/// The place of one file: what libisofs allocates as a stream, with our own members behind it.
+struct FileStream {
+    iso_stream stream;
+    std::uint64_t size;
+    std::uint64_t left; ///< bytes that libisofs has not asked for yet
+    std::uint32_t content;
+};
+
+FileStream &self(IsoStream *stream)
+{
+    return *static_cast<FileStream *>(stream->data);
+}
+
+int openStream(IsoStream *stream)
+{
+    self(stream).left = self(stream).size;
+    return 1;
+}
+
+int closeStream(IsoStream *)
+{
+    return 1;
+}
+
+off_t sizeOf(IsoStream *stream)
+{
+    return static_cast<off_t>(self(stream).size);
+}
+
+int readStream(IsoStream *stream, void *buffer, size_t size)
+{
+    FileStream &file = self(stream);
+    size = static_cast<size_t>(std::min<std::uint64_t>(size, file.left));
+    if (file.left == file.size) {
+        const Marker marker = markerOf(file.content);
+        std::memcpy(buffer, marker.data(), std::min(size, marker.size()));
+    }
+    file.left -= size;
+    return static_cast<int>(size);
+}
+
+int isRepeatable(IsoStream *)
+{
+    return 1;
+}
+
+// Names of equal numbers share their data.
+void identify(IsoStream *stream, unsigned int *fileSystem, dev_t *device, ino_t *inode)
+{
+    *fileSystem = streamFileSystem;
+    *device = 0;
+    *inode = self(stream).content;
+}
+
+void freeStream(IsoStream *)
+{
+} // the members lie in the block that libisofs frees
+
+int updateSize(IsoStream *)
+{
+    return 1;
+}
+
+IsoStreamIface streamClass{
+    1,
+    { 'u', 's', 'e', 'r' },
+    openStream,
+    closeStream,
+    sizeOf,
+    readStream,
+    isRepeatable,
+    identify,
+    freeStream,
+    updateSize,
+    nullptr,
+    nullptr,
+    nullptr,
+};
+
+IsoStream *newStream(const FolderTree &tree, const Entry &entry)
+{
+    auto *file = static_cast<FileStream *>(std::calloc(1, sizeof(FileStream)));
+    if (!file)
+        return nullptr;
+    file->stream = { &streamClass, 1, file };
+    file->size = tree.contents()[entry.first].size;
+    file->content = entry.first;
+    return &file->stream;
+}
+
+void initialize()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        iso_init();
+        char keep[] = "FAILURE", print[] = "NEVER", id[] = "";
+        iso_set_msgs_severities(keep, print, id);
+        // Names are bytes; where they have to be characters (Joliet) they are UTF-8.
+        char charset[] = "UTF-8";
+        iso_set_local_charset(charset, 0);
+    });
+}
+
+void copyAttributes(IsoNode *node, const Entry &entry)
+{
+    iso_node_set_permissions(node, entry.mode & 07777);
+    iso_node_set_uid(node, entry.uid);
+    iso_node_set_gid(node, entry.gid);
+    iso_node_set_mtime(node, entry.modified);
+    iso_node_set_atime(node, entry.accessed);
+    iso_node_set_ctime(node, entry.changed);
+}
+
+class Builder {
+public:
+    Builder(const FolderTree &tree, ::IsoImage *image)
+        : m_tree(tree)
+        , m_image(image)
+        , m_folders(tree.entries().size())
+    {
+    }
+
+    Result<void> run()
+    {
+        IsoDir *root = iso_image_get_root(m_image);
+        copyAttributes(iso_node(root), m_tree.entries()[0]);
+        m_folders[0] = root;
+        std::vector<std::uint32_t> pending{ 0 };
+        while (!pending.empty()) {
+            const std::uint32_t folder = pending.back();
+            pending.pop_back();
+            const Entry &entry = m_tree.entries()[folder];
+            // From the last name to the first: libisofs keeps a folder as a sorted chain and
+            // looks for the place of a new node from its start.
+            for (std::uint32_t child = entry.first + entry.count; child-- > entry.first;) {
+                if (auto ok = add(child, m_folders[folder]); !ok)
+                    return ok;
+                if (S_ISDIR(m_tree.entries()[child].mode))
+                    pending.push_back(child);
+            }
+        }
+        return {};
+    }
+
+private:
+    static IsoNode *iso_node(IsoDir *folder) { return reinterpret_cast<IsoNode *>(folder); }
+
+    Result<void> add(std::uint32_t number, IsoDir *parent)
+    {
+        const Entry &entry = m_tree.entries()[number];
+        IsoNode *node = nullptr;
+        const int code = addNode(number, entry, parent, node);
+        if (code < 0) {
+            return Error{ Exit::failed,
+                quoted(m_tree.path(number)) + " cannot be put into the image: " + iso_error_to_msg(code)
+                    + "." };
+        }
+        copyAttributes(node, entry);
+        return {};
+    }
+
+    int addNode(std::uint32_t number, const Entry &entry, IsoDir *parent, IsoNode *&node)
+    {
+        const char *name = m_tree.name(entry);
+        if (S_ISDIR(entry.mode)) {
+            const int code = iso_image_add_new_dir(m_image, parent, name, &m_folders[number]);
+            node = iso_node(m_folders[number]);
+            return code;
+        }
+        if (S_ISREG(entry.mode)) {
+            IsoStream *stream = newStream(m_tree, entry);
+            IsoFile *file = nullptr;
+            const int code = stream ? iso_image_add_new_file(m_image, parent, name, stream, &file)
+                                    : static_cast<int>(ISO_OUT_OF_MEM);
+            node = reinterpret_cast<IsoNode *>(file);
+            if (code >= 0) // the heavier, the nearer to the start of the image
+                iso_node_set_sort_weight(node, -static_cast<int>(entry.first));
+            return code;
+        }
+        if (S_ISLNK(entry.mode)) {
+            IsoSymlink *link = nullptr;
+            const int code = iso_image_add_new_symlink(m_image, parent, name, m_tree.target(entry), &link);
+            node = reinterpret_cast<IsoNode *>(link);
+            return code;
+        }
+        IsoSpecial *special = nullptr;
+        const int code =
+            iso_image_add_new_special(m_image, parent, name, entry.mode, entry.special, &special);
+        node = reinterpret_cast<IsoNode *>(special);
+        return code;
+    }
+
+    const FolderTree &m_tree;
+    ::IsoImage *m_image;
+    std::vector<IsoDir *> m_folders; ///< node of each entry that is a folder
+};
+
+struct WriteOptionsRelease {
+    void operator()(IsoWriteOpts *options) const { iso_write_opts_free(options); }
+};
+using WriteOptions = std::unique_ptr<IsoWriteOpts, WriteOptionsRelease>;
+
+WriteOptions writeOptions(bool rockRidge)
+{
+    IsoWriteOpts *made = nullptr;
+    if (iso_write_opts_new(&made, 0) < 0)
+        return nullptr;
+    WriteOptions options(made);
+    iso_write_opts_set_iso_level(made, 3);
+    iso_write_opts_set_rockridge(made, rockRidge ? 1 : 0);
+    iso_write_opts_set_rrip_version_1_10(made, 1);
+    iso_write_opts_set_joliet(made, 1);
+    iso_write_opts_set_joliet_long_names(made, 1);
+    iso_write_opts_set_joliet_longer_paths(made, 1);
+    iso_write_opts_set_joliet_utf16(made, 1);
+    // No ';1' and no dot that is not in the name, but only with Joliet (bit 1).
+    iso_write_opts_set_omit_version_numbers(made, 2);
+    iso_write_opts_set_no_force_dots(made, 2);
+    // A tree of any depth stays where it is; no system that reads discs minds today.
+    iso_write_opts_set_allow_deep_paths(made, 1);
+    iso_write_opts_set_allow_longer_paths(made, 1);
+    iso_write_opts_set_relaxed_vol_atts(made, 1);
+    iso_write_opts_set_dir_rec_mtime(made, 7);
+    iso_write_opts_set_always_gmt(made, 1);
+    iso_write_opts_set_sort_files(made, 1);
+    iso_write_opts_set_output_charset(made, "UTF-8");
+    iso_write_opts_set_tail_blocks(made, paddingBlocks);
+    return options;
+}
+
+std::uint64_t blocksFor(std::uint64_t bytes)
+{
+    return (bytes + blockSize - 1) / blockSize;
+}
+
+std::uint64_t dataBlocks(const FolderTree &tree)
+{
+    std::uint64_t blocks = 0;
+    for (const Content &content : tree.contents())
+        blocks += blocksFor(content.size);
+    return blocks;
+}
+
+std::string lastMessage()
+{
+    char severity[80] = "";
+    char least[] = "FAILURE";
+    char text[ISO_MSGS_MESSAGE_LEN] = "libisofs gave no reason";
+    int code = 0, image = 0;
+    while (iso_obtain_msgs(least, &code, &image, text, severity) > 0) { }
+    return text;
+}
+
+} // namespace
+
+void IsoHeader::ImageRelease::operator()(Iso_Image *image) const
+{
+    iso_image_unref(image);
+}
+
+void IsoHeader::SourceRelease::operator()(burn::burn_source *source) const
+{
+    if (!source->read && source->version >= 1 && source->cancel)
+        source->cancel(source);
+    burn::burn_source_free(source);
+}
+
+std::uint32_t IsoHeader::paddingBlocks()
+{
+    return image::paddingBlocks;
+}
+
+Result<IsoHeader> IsoHeader::make(const FolderTree &tree, const std::string &volumeName, bool rockRidge)
+{
+    initialize();
+    ::IsoImage *made = nullptr;
+    if (const int code = iso_image_new(volumeName.c_str(), &made); code < 0)
+        return Error{ Exit::failed,
+            std::string("The image cannot be begun: ") + iso_error_to_msg(code) + "." };
+    IsoHeader header;
+    header.m_tree = &tree;
+    header.m_image.reset(made);
+    if (auto ok = Builder(tree, made).run(); !ok)
+        return ok.error();
+    if (auto ok = header.layOut(tree, rockRidge); !ok)
+        return ok.error();
+    return header;
+}
+
+Result<void> IsoHeader::layOut(const FolderTree &tree, bool rockRidge)
+{
+    const WriteOptions options = writeOptions(rockRidge);
+    ::burn_source *source = nullptr; // libisofs knows libburn's structure outside its name space
+    const int code = options ? iso_image_create_burn_source(m_image.get(), options.get(), &source)
+                             : static_cast<int>(ISO_OUT_OF_MEM);
+    if (code < 0)
+        return Error{ Exit::failed,
+            std::string("The image cannot be laid out: ") + iso_error_to_msg(code) + "." };
+    m_source.reset(reinterpret_cast<burn::burn_source *>(source));
+    const auto bytes = static_cast<std::uint64_t>(m_source->get_size(m_source.get()));
+    m_imageBlocks = static_cast<std::uint32_t>(bytes / blockSize);
+    m_dataBlocks = dataBlocks(tree);
+    m_left = bytes - (m_dataBlocks + image::paddingBlocks) * blockSize;
+    return {};
+}
+
+Result<std::size_t> IsoHeader::read(std::span<std::byte> buffer)
+{
+    if (!m_source)
+        return std::size_t{ 0 };
+    buffer = buffer.first(static_cast<std::size_t>(std::min<std::uint64_t>(buffer.size(), m_left)));
+    if (auto ok = readSource(buffer); !ok)
+        return ok.error();
+    m_left -= buffer.size();
+    if (m_left == 0) {
+        if (auto ok = finish(); !ok)
+            return ok.error();
+    }
+    return buffer.size();
+}
+
+Result<void> IsoHeader::readSource(std::span<std::byte> buffer)
+{
+    while (!buffer.empty()) {
+        auto *bytes = reinterpret_cast<unsigned char *>(buffer.data());
+        const auto size = static_cast<int>(buffer.size());
+        const int count = m_source->read ? m_source->read(m_source.get(), bytes, size)
+                                         : m_source->read_xt(m_source.get(), bytes, size);
+        if (count <= 0)
+            return Error{ Exit::failed, "The image cannot be produced: " + lastMessage() + "." };
+        buffer = buffer.subspan(static_cast<std::size_t>(count));
+    }
+    return {};
+}
+
+/// Makes sure that the data of the files follows in the order of their numbers, and lets libisofs go.
+Result<void> IsoHeader::finish()
+{
+    std::vector<std::byte> blocks(std::min<std::uint64_t>(m_dataBlocks, mostProvedBlocks) * blockSize);
+    if (auto ok = readSource(blocks); !ok)
+        return ok;
+    std::size_t start = 0;
+    for (std::uint32_t content = 0; start < blocks.size(); ++content) {
+        const std::uint64_t size = m_tree->contents()[content].size;
+        const Marker marker = markerOf(content);
+        const auto compared = static_cast<std::size_t>(std::min<std::uint64_t>(size, marker.size()));
+        if (std::memcmp(&blocks[start], marker.data(), compared) != 0)
+            return Error{ Exit::failed,
+                "The image cannot be produced: libisofs laid the files out in an unknown way; "
+                "please report this with its version." };
+        start +=
+            static_cast<std::size_t>(blocksFor(std::min<std::uint64_t>(size, blocks.size()))) * blockSize;
+    }
+    m_source.reset();
+    m_image.reset();
+    return {};
+}
+
+} // namespace engine::image

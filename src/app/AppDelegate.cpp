@@ -1,0 +1,198 @@
+#include "app/AppDelegate.h"
+
+#include "app/MainWindow.h"
+#include "app/Preferences.h"
+#include "compilation/FolderTree.h"
+#include "runner/ActivityLog.h"
+#include "ui_MainWindow.h"
+#include "writing/FolderStaging.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLoggingCategory>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QThreadPool>
+
+#include <cstdio>
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The path of one of our tools: the system's where it has one, else the one built or installed with us.
+QString toolPath(const QString &name)
+{
+    const QString here = QCoreApplication::applicationDirPath();
+    for (const QString &path : {u"/usr/bin/"_s + name, here + u'/' + name}) {
+        if (QFile::exists(path))
+            return path;
+    }
+    return QDir::cleanPath(here + u"/../libexec/corvalis/"_s + name);
+}
+
+[[noreturn]] void exitAtOnce(int status)
+{
+    std::fflush(nullptr);
+    std::_Exit(status);
+}
+
+} // namespace
+
+Surroundings Surroundings::ofThisMachine(Questions *questions)
+{
+    Surroundings around;
+    around.drutil = toolPath(u"drutil"_s);
+    around.hdiutil = toolPath(u"hdiutil"_s);
+    around.resources = QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../libexec/corvalis"_s);
+    around.questions = questions;
+    around.exitProcess = exitAtOnce;
+    return around;
+}
+
+AppDelegate::AppDelegate(MainWindow *mainWindow, Surroundings surroundings)
+    : window(mainWindow), ui(mainWindow->ui()), around(std::move(surroundings)), activityLog(new ActivityLog(this)),
+      preferences(std::make_unique<QSettings>(u"Corvalis"_s, u"Corvalis"_s))
+{
+}
+
+AppDelegate::~AppDelegate()
+{
+    // Files being measured and folders being copied report back to this object.
+    for (const auto &copy : std::as_const(stagingCopies))
+        copy->stop = true;
+    QThreadPool::globalInstance()->waitForDone();
+}
+
+QString AppDelegate::preference(const QString &key) const
+{
+    return preferences->value(key).toString();
+}
+
+void AppDelegate::setPreference(const QString &key, const QString &value)
+{
+    preferences->setValue(key, value);
+    savePreferences();
+}
+
+void AppDelegate::savePreferences()
+{
+    preferences->sync();
+    if (preferences->status() != QSettings::NoError)
+        activityLog->note(tr("The settings could not be saved"), preferences->fileName());
+}
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    m_b_Debug_Mode = false;
+    s_Video_Output_Format = u""_s;
+    s_Audio_Output_Format = u""_s;
+    s_Current_Drive_Number = u"1"_s;
+    if (!makeWorkingFolders())
+        return around.exitProcess(0);
+    for (const QString &folder : {s_Output_Folder, s_Audio_Folder, s_Video_Folder, s_Data_Folder})
+        RemoveAllContentInFolder(folder);
+    s_Video_Output_Format = preference(preferences::videoFormat);
+    s_Audio_Output_Format = preference(preferences::audioFormat);
+    array_Optical_Media_Drives.clear();
+    Load_List_Of_Optical_Drives();
+    arrayMediaFiles.clear();
+    arrayDataFolders.clear();
+    const QString ffmpeg = around.resources + u"/ffmpeg"_s;
+    sffmpegPath = QFile::exists(ffmpeg) ? ffmpeg : QString();
+    setModeDefaults();
+    m_b_Col1_Ascenging = true;
+    m_b_Col2_Ascenging = m_b_Col3_Ascenging = m_b_Col4_Ascenging = false;
+    PaintSpaceOccupiedControl();
+    i_Type_of_New_Disc = 1;
+    loadColourScheme();
+    schedule(timerSetAlternatingRows, &AppDelegate::TimerSetAlternatingRowsRoutine);
+    schedule(timerForceColorsAtStartup, &AppDelegate::TimerForceColorsAtStartupRoutine);
+    window->setWindowTitle(u"Corvalis"_s);
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+bool AppDelegate::makeWorkingFolders()
+{
+    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    struct WorkingFolder {
+        QString AppDelegate::*path;
+        QString name;
+        QString failure;
+    };
+    const QList<WorkingFolder> folders{
+        {&AppDelegate::s_Output_Folder, u"Corvalis"_s, u"Error #0008. Application will exit."_s},
+        {&AppDelegate::s_Audio_Folder, u"CorvalisAudio"_s, u"Error #0009. Application will exit."_s},
+        {&AppDelegate::s_Video_Folder, u"CorvalisVideo"_s, u"Error #000a. Application will exit."_s},
+        {&AppDelegate::s_Data_Folder, u"CorvalisData"_s, u"Error #000b. Application will exit."_s},
+    };
+    for (const WorkingFolder &folder : folders)
+        this->*folder.path = documents.filePath(folder.name);
+    for (const WorkingFolder &folder : folders) {
+        const QString path = this->*folder.path;
+        if (QFile::exists(path))
+            continue;
+        if (!QDir().mkpath(path)) {
+            alert(u"Error"_s, folder.failure);
+            return false;
+        }
+        if (folder.path == &AppDelegate::s_Output_Folder)
+            storeFirstRunFormats();
+    }
+    return true;
+}
+
+void AppDelegate::storeFirstRunFormats()
+{
+    s_Video_Output_Format = s_Audio_Output_Format = u"0"_s;
+    setPreference(preferences::videoFormat, s_Video_Output_Format);
+    setPreference(preferences::audioFormat, s_Audio_Output_Format);
+}
+
+void AppDelegate::RemoveAllContentInFolder(const QString &folder)
+{
+    compilation::emptyFolder(QFile::encodeName(folder).toStdString(), [this](const std::string &failure) {
+        const QString text = QString::fromStdString(failure);
+        qWarning().noquote() << u"oops: %1"_s.arg(text);
+        activityLog->note(tr("A file in a working folder could not be removed"), text);
+    });
+}
+
+QSize AppDelegate::windowWillResize_toSize(QSize proposed)
+{
+    return proposed.expandedTo({700, 400});
+}
+
+void AppDelegate::windowWillClose()
+{
+    Terminate_App();
+}
+
+void AppDelegate::applicationWillTerminate()
+{
+    Terminate_App();
+}
+
+void AppDelegate::Terminate_App()
+{
+    around.exitProcess(0);
+}
+
+void AppDelegate::alert(const QString &message, const QString &informative)
+{
+    around.questions->ask({message, informative, {u"Close"_s}}, window);
+}
+
+void AppDelegate::schedule(QPointer<QTimer> &timer, TimerRoutine routine)
+{
+    delete timer;
+    timer = new QTimer(this);
+    timer->setSingleShot(true);
+    connect(timer, &QTimer::timeout, this, routine);
+    connect(timer, &QTimer::timeout, timer, &QObject::deleteLater);
+    timer->start(100);
+}

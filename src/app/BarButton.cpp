@@ -1,0 +1,222 @@
+#include "app/BarButton.h"
+
+#include "ui/PaintedViews.h"
+#include "ui/SymbolIcon.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int toolIcon = 24;
+constexpr int cardIcon = 40;
+constexpr int radius = 6;
+
+const PaintedView *barOf(const QWidget *widget)
+{
+    for (const QWidget *w = widget->parentWidget(); w; w = w->parentWidget()) {
+        if (const auto *bar = qobject_cast<const PaintedView *>(w))
+            return bar;
+    }
+    return nullptr;
+}
+
+QColor withAlpha(QColor colour, double alpha)
+{
+    colour.setAlphaF(static_cast<float>(alpha));
+    return colour;
+}
+
+} // namespace
+
+QColor textColourOnBar(const QWidget *widget)
+{
+    const PaintedView *bar = barOf(widget);
+    const QColor colour = bar ? bar->colour() : QColor();
+    return colour.isValid() ? readableTextOn(colour) : widget->palette().color(QPalette::WindowText);
+}
+
+BarButton::BarButton(QWidget *parent) : QAbstractButton(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::ArrowCursor);
+}
+
+void BarButton::setLook(Look look)
+{
+    m_look = look;
+    const bool card = look == Look::Card;
+    setSizePolicy(card ? QSizePolicy::Expanding : QSizePolicy::Fixed, card ? QSizePolicy::Expanding : QSizePolicy::Fixed);
+    setMaximumHeight(card ? 160 : QWIDGETSIZE_MAX);
+    updateGeometry();
+}
+
+void BarButton::setSymbol(const QString &name)
+{
+    m_symbol = name;
+    updateGeometry();
+}
+
+void BarButton::setDescription(const QString &text)
+{
+    m_description = text;
+    updateGeometry();
+}
+
+void BarButton::setBordered(bool bordered)
+{
+    m_bordered = bordered;
+    setAccessibleDescription(bordered ? tr("chosen") : QString());
+    update();
+}
+
+QFont BarButton::headingFont() const
+{
+    QFont heading = font();
+    if (m_look == Look::Card || m_look == Look::Prominent) {
+        heading.setBold(true);
+        heading.setPointSizeF(heading.pointSizeF() * 1.1);
+    } else if (m_look == Look::Mode && m_bordered) {
+        heading.setBold(true);
+    }
+    return heading;
+}
+
+QSize BarButton::sizeHint() const
+{
+    QFont widest = headingFont();
+    widest.setBold(true);
+    const QFontMetrics metrics(m_look == Look::Mode ? widest : headingFont());
+    const QSize text(metrics.horizontalAdvance(this->text()), metrics.height());
+    switch (m_look) {
+    case Look::Tool:
+        return {qMax(64, text.width() + 16), 6 + toolIcon + 4 + text.height() + 6};
+    case Look::Mode:
+        return {text.width() + 24, text.height() + 10};
+    case Look::Card:
+        return {320, qMax(cardIcon, text.height() * 4) + 40};
+    case Look::Prominent:
+        return {qMax(200, toolIcon + 10 + text.width() + 40), qMax(48, text.height() + 24)};
+    }
+    Q_UNREACHABLE();
+}
+
+QSize BarButton::minimumSizeHint() const
+{
+    return m_look == Look::Card ? QSize(220, sizeHint().height()) : sizeHint();
+}
+
+void BarButton::paintSymbol(QPainter &painter, const QRect &where, const QColor &colour) const
+{
+    if (!m_symbol.isEmpty())
+        symbolIcon(m_symbol, colour).paint(&painter, where, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+}
+
+void BarButton::paintBackground(QPainter &painter, const QColor &text) const
+{
+    const bool pressed = isDown() && isEnabled();
+    const bool hovered = underMouse() && isEnabled();
+    double layer = m_look == Look::Card ? 0.10 : m_bordered ? 0.14 : 0.0;
+    layer += pressed ? 0.18 : hovered ? 0.10 : 0.0;
+    const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
+    painter.setPen(m_bordered ? QPen(text, 1.5) : QPen(Qt::NoPen));
+    painter.setBrush(withAlpha(text, layer));
+    if (m_look == Look::Prominent) {
+        const double strength = !isEnabled() ? 0.4 : pressed ? 0.80 : hovered ? 1.0 : 0.92;
+        painter.setBrush(withAlpha(text, strength));
+    }
+    painter.drawRoundedRect(frame, radius, radius);
+    if (hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
+        const bool filled = m_look == Look::Prominent;
+        painter.setPen(QPen(filled ? readableTextOn(text) : withAlpha(text, 0.85), 1.5, Qt::DotLine));
+        painter.drawRoundedRect(frame.adjusted(3, 3, -3, -3), radius - 2, radius - 2);
+    }
+}
+
+void BarButton::paintSymbolOverText(QPainter &painter, const QColor &text) const
+{
+    const int top = (height() - (toolIcon + 4 + fontMetrics().height())) / 2;
+    paintSymbol(painter, {(width() - toolIcon) / 2, top, toolIcon, toolIcon}, text);
+    painter.drawText(QRect(0, top + toolIcon + 4, width(), fontMetrics().height()), Qt::AlignCenter, this->text());
+}
+
+void BarButton::paintSymbolBesideText(QPainter &painter, const QColor &text) const
+{
+    const int textWidth = painter.fontMetrics().horizontalAdvance(this->text());
+    const int iconWidth = m_symbol.isEmpty() ? 0 : toolIcon + 10;
+    const int left = (width() - iconWidth - textWidth) / 2;
+    paintSymbol(painter, {left, (height() - toolIcon) / 2, toolIcon, toolIcon}, text);
+    painter.drawText(QRect(left + iconWidth, 0, textWidth + 1, height()), Qt::AlignVCenter | Qt::AlignLeft, this->text());
+}
+
+void BarButton::paintCard(QPainter &painter, const QColor &text) const
+{
+    constexpr int margin = 20;
+    paintSymbol(painter, {margin, (height() - cardIcon) / 2, cardIcon, cardIcon}, text);
+    const QRect room(margin * 2 + cardIcon, 12, width() - margin * 3 - cardIcon, height() - 24);
+    const int headingHeight = painter.fontMetrics().height() + 4;
+    const QRect sentence = fontMetrics().boundingRect(room, Qt::TextWordWrap, m_description);
+    const int top = (height() - headingHeight - sentence.height()) / 2;
+    painter.drawText(QRect(room.left(), top, room.width(), headingHeight), Qt::AlignLeft | Qt::AlignTop, this->text());
+    painter.setFont(font());
+    painter.setPen(withAlpha(text, isEnabled() ? 0.85 : 0.4));
+    painter.drawText(QRect(room.left(), top + headingHeight, room.width(), sentence.height() + 2),
+                     Qt::AlignLeft | Qt::TextWordWrap, m_description);
+}
+
+void BarButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QColor text = textColourOnBar(this);
+    paintBackground(painter, text);
+    if (m_look == Look::Prominent)
+        text = readableTextOn(text);
+    painter.setFont(headingFont());
+    painter.setPen(isEnabled() ? text : withAlpha(text, 0.4));
+    switch (m_look) {
+    case Look::Tool:
+        return paintSymbolOverText(painter, text);
+    case Look::Mode:
+    case Look::Prominent:
+        return paintSymbolBesideText(painter, text);
+    case Look::Card:
+        return paintCard(painter, text);
+    }
+}
+
+void BarButton::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        animateClick();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+void BarButton::enterEvent(QEnterEvent *event)
+{
+    QAbstractButton::enterEvent(event);
+    update();
+}
+
+void BarButton::leaveEvent(QEvent *event)
+{
+    QAbstractButton::leaveEvent(event);
+    update();
+}
+
+void BarButton::changeEvent(QEvent *event)
+{
+    QAbstractButton::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        updateGeometry();
+}
+
+void BarLabel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setPen(textColourOnBar(this));
+    painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine, text());
+}

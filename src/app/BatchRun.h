@@ -1,0 +1,69 @@
+// The unattended form: one job, given on the command line, through the same operations as in the window.
+#pragma once
+
+#include "app/Questions.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+
+class AppDelegate;
+struct ProjectType;
+
+/// What the command line asks for.
+struct BatchJob {
+    const ProjectType *type = nullptr;
+    QStringList paths; ///< files, or folders for a data disc; absolute
+    bool show = false; ///< in visible windows, which stay when the job is done
+};
+
+/// Answers alerts by printing their two texts to standard error and pressing the first button, and
+/// panels with what the command line named. With windows shown, a person answers the alerts.
+class BatchQuestions : public Questions {
+public:
+    explicit BatchQuestions(bool show) : m_show(show) {}
+
+    int ask(const Alert &alert, QWidget *over) override;
+    QList<QUrl> choose(const OpenPanel &panel, QWidget *over) override;
+
+    bool alerted() const { return m_alerted; }
+    void answerNextPanelWith(const QList<QUrl> &urls) { m_answer = urls; }
+
+private:
+    const bool m_show;
+    bool m_alerted = false;
+    QList<QUrl> m_answer;
+    WindowQuestions m_windows;
+};
+
+/// Drives the controller as a person would: chooses the type in the new-disc sheet, adds the files,
+/// presses the burn button, and takes the sheets away. Lives on the GUI thread.
+class BatchRun : public QObject {
+    Q_OBJECT
+public:
+    /// `finish` is called once with the exit status: 0 the operation-complete sheet was reached, 1 an
+    /// alert ended the job.
+    BatchRun(const BatchJob &job, AppDelegate *controller, BatchQuestions *questions, std::function<void(int)> finish);
+
+    void start();
+
+    /// Why the job cannot be what a person could have chosen in the panels; empty when it can.
+    static QString objection(const BatchJob &job);
+
+private:
+    void chooseType();
+    void add();
+    void burn();
+    void completed();
+    void showProgress();
+    void printLine(const QString &line);
+    void end(int status);
+
+    const BatchJob m_job;
+    AppDelegate *const m_controller;
+    BatchQuestions *const m_questions;
+    const std::function<void(int)> m_finish;
+    QTimer m_progress;
+    QString m_lastLine;
+};

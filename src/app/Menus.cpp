@@ -1,0 +1,70 @@
+// Quit, debug mode, help, and the activity log.
+#include "app/AppDelegate.h"
+#include "app/MainWindow.h"
+#include "app/Window_Activity_Log.h"
+#include "ui_MainWindow.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The pages that the Help menu opens.
+const QUrl homePage(u"https://corvalis.example/"_s);
+const QUrl makersHomePage(u"https://corvalis.example/makers/"_s);
+const QUrl supportTicket(u"https://corvalis.example/support/ticket/"_s);
+const QUrl privacyPolicy(u"https://corvalis.example/privacy/"_s);
+
+} // namespace
+
+void AppDelegate::OnMenuQuit()
+{
+    Terminate_App();
+}
+
+void AppDelegate::OnMenuDebugMode()
+{
+    m_b_Debug_Mode = !m_b_Debug_Mode;
+    ui->menuitemDebugMode->setChecked(m_b_Debug_Mode);
+}
+
+void AppDelegate::OnMenuHelpAppHomePage()
+{
+    QDesktopServices::openUrl(homePage);
+}
+
+void AppDelegate::OnMenuHelpCompanyHomePage()
+{
+    QDesktopServices::openUrl(makersHomePage);
+}
+
+void AppDelegate::OnMenuHelpSubmitTicket()
+{
+    QDesktopServices::openUrl(supportTicket);
+}
+
+void AppDelegate::OnMenuHelpPrivacyPolicy()
+{
+    QDesktopServices::openUrl(privacyPolicy);
+}
+
+void AppDelegate::OnMenuHelpAbout()
+{
+    around.questions->ask({tr("Corvalis %1").arg(QCoreApplication::applicationVersion()),
+                           tr("Prepares and writes optical discs.\n\nFree software under the GNU General Public "
+                              "License, version 2 or later.\nBuilt on Qt %1, libburn, libisofs, ffmpeg and mpv.")
+                               .arg(QString::fromLatin1(qVersion())),
+                           {u"Close"_s}},
+                          window);
+}
+
+void AppDelegate::OnMenuActivityLog()
+{
+    if (!windowActivityLog)
+        windowActivityLog = new Window_Activity_Log(activityLog, window);
+    windowActivityLog->show();
+    windowActivityLog->raise();
+    windowActivityLog->activateWindow();
+}

@@ -1,0 +1,244 @@
+// Project types, mode buttons, tabs, and what the burn button starts.
+#include "app/AppDelegate.h"
+#include "app/MainWindow.h"
+#include "app/Window_New_Disc.h"
+#include "ui_MainWindow.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What a project type has in the window and in the controller, in the order of its codes.
+struct ModeRow {
+    BarButton *Ui::MainWindow::*button;
+    void (AppDelegate::*pipeline)();
+};
+const std::array<ModeRow, 8> modes{{
+    {&Ui::MainWindow::btnAudioCD, &AppDelegate::Burn_Audio_CD},
+    {&Ui::MainWindow::btnMP3CD, &AppDelegate::Burn_Audio_MP3_CD},
+    {&Ui::MainWindow::btnMP3DVD, &AppDelegate::Burn_Audio_MP3_DVD},
+    {&Ui::MainWindow::btnVideoDVD, &AppDelegate::Burn_Video_DVD},
+    {&Ui::MainWindow::btnVideoBluray, &AppDelegate::Burn_Video_Bluray},
+    {&Ui::MainWindow::btnDataCD, &AppDelegate::Burn_Data_CD},
+    {&Ui::MainWindow::btnDataDVD, &AppDelegate::Burn_Data_DVD},
+    {&Ui::MainWindow::btnDataBluray, &AppDelegate::Burn_Data_Bluray},
+}};
+
+/// What a list tab has, by its index.
+struct ListTabRow {
+    qint64 AppDelegate::*variant;
+    void (AppDelegate::*refresh)();
+};
+const std::array<ListTabRow, 3> listTabs{{
+    {&AppDelegate::i_Audio_Type, &AppDelegate::refreshTableAudioFiles},
+    {&AppDelegate::i_Video_Type, &AppDelegate::refreshTableVideoFiles},
+    {&AppDelegate::i_Data_Type, &AppDelegate::refreshTableDataFolders},
+}};
+
+const ListTabRow &listTab(int index)
+{
+    return listTabs.at(static_cast<std::size_t>(index));
+}
+
+} // namespace
+
+void AppDelegate::setModeDefaults()
+{
+    i_Audio_Type = i_Video_Type = i_Data_Type = 0;
+    for (const int code : {1, 4, 6})
+        markVariant(code);
+    ui->tabviewMain->setCurrentIndex(0);
+    ui->btnBurn->setText(projects::byCode(1)->burnTitle);
+}
+
+void AppDelegate::ShowNewDiscWindow()
+{
+    Show_Window_New_Disc();
+}
+
+void AppDelegate::Show_Window_New_Disc()
+{
+    delete windowNewDisc;
+    windowNewDisc = new Window_New_Disc(this, window);
+    windowNewDisc->beginSheet();
+}
+
+void AppDelegate::Close_Window_New_Disc()
+{
+    if (windowNewDisc)
+        windowNewDisc->endSheet();
+    windowNewDisc = nullptr;
+    if (i_Type_of_New_Disc == projects::cancelled) {
+        i_Type_of_New_Disc = 1;
+        return;
+    }
+    const ProjectType *type = projects::byCode(i_Type_of_New_Disc);
+    if (type)
+        this->*listTab(type->tab).variant = type->variant;
+    emptyAllLists();
+    if (!type)
+        return;
+    ui->tabviewMain->setCurrentIndex(type->tab);
+    markVariant(type->code);
+    ui->btnBurn->setText(type->burnTitle);
+}
+
+void AppDelegate::emptyAllLists()
+{
+    arrayDataFolders.clear();
+    refreshTableDataFolders();
+    arrayMediaFiles.clear();
+    refreshTableVideoFiles();
+    refreshTableAudioFiles();
+}
+
+void AppDelegate::markVariant(int code)
+{
+    const ProjectType *chosen = projects::byCode(code);
+    for (const ProjectType &type : projects::all) {
+        if (type.tab == chosen->tab)
+            (ui->*modes.at(static_cast<std::size_t>(type.code - 1)).button)->setBordered(type.code == code);
+    }
+}
+
+void AppDelegate::chooseVariant(int code)
+{
+    const ProjectType *type = projects::byCode(code);
+    this->*listTab(type->tab).variant = type->variant;
+    markVariant(code);
+    ui->btnBurn->setText(type->burnTitle);
+    (this->*listTab(type->tab).refresh)();
+}
+
+void AppDelegate::OnActionAudioCD()
+{
+    chooseVariant(1);
+}
+
+void AppDelegate::OnActionMP3CD()
+{
+    chooseVariant(2);
+}
+
+void AppDelegate::OnActionMP3DVD()
+{
+    chooseVariant(3);
+}
+
+void AppDelegate::OnActionVideoDVD()
+{
+    chooseVariant(4);
+}
+
+void AppDelegate::OnActionVideoBluray()
+{
+    chooseVariant(5);
+}
+
+void AppDelegate::OnActionDataCD()
+{
+    chooseVariant(6);
+}
+
+void AppDelegate::OnActionDataDVD()
+{
+    chooseVariant(7);
+}
+
+void AppDelegate::OnActionDataBluray()
+{
+    chooseVariant(8);
+}
+
+QString AppDelegate::selectedPage() const
+{
+    return ui->tabviewMain->currentWidget()->property("identifier").toString();
+}
+
+void AppDelegate::tabView_didSelectTabViewItem(const QString &identifier)
+{
+    const QStringList identifiers{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s};
+    const qsizetype index = identifiers.indexOf(identifier);
+    if (index >= 0)
+        didSelectTab(static_cast<int>(index));
+}
+
+void AppDelegate::didSelectTab(int index)
+{
+    const bool isList = index < static_cast<int>(listTabs.size());
+    ui->customviewSpaceOccupied->setVisible(isList);
+    ui->customviewButtonBurn->setVisible(isList);
+    if (isList) {
+        emptyAllLists();
+        if (const ProjectType *type = projects::byVariant(index, this->*listTab(index).variant))
+            ui->btnBurn->setText(type->burnTitle);
+    }
+    QAction *const items[] = {ui->submenuItemTabAudio, ui->submenuItemTabVideo, ui->submenuItemTabData,
+                              ui->submenuItemTabISO, ui->submenuItemTabTools};
+    for (int i = 0; i < 5; ++i)
+        items[i]->setChecked(i == index);
+    offerListActions(index);
+}
+
+void AppDelegate::offerListActions(int tab)
+{
+    const bool media = tab <= 1;
+    const bool list = tab <= 2;
+    for (QAction *action : {ui->menuitemAddFolder, ui->menuitemCopyDisc, ui->menuitemBurn, ui->menuitemDelete,
+                            ui->menuitemClear, ui->menuitemSelectAll, ui->menuitemMoveUp, ui->menuitemMoveDown})
+        action->setEnabled(list);
+    for (QAction *action : {ui->menuitemPlay, ui->menuitemSort3, ui->menuitemSort4})
+        action->setEnabled(media);
+    for (QAction *action : {ui->menuitemAddFiles, ui->menuitemSort1, ui->menuitemSort2})
+        action->setEnabled(list);
+    ui->menuitemAddFiles->setText(media ? tr("&Add Files…") : tr("&Add Folder…"));
+    ui->menuitemAddFolder->setVisible(tab != 2);
+    ui->menuitemSort1->setText(media ? tr("&File") : tr("&Folder"));
+    ui->menuitemSort2->setText(media ? tr("&Duration") : tr("&Size"));
+    ui->menuitemSort3->setVisible(media);
+    ui->menuitemSort4->setVisible(media);
+}
+
+void AppDelegate::OnMenuTabAudio()
+{
+    showTab(0);
+}
+
+void AppDelegate::OnMenuTabVideo()
+{
+    showTab(1);
+}
+
+void AppDelegate::OnMenuTabData()
+{
+    showTab(2);
+}
+
+void AppDelegate::OnMenuTabISO()
+{
+    showTab(3);
+}
+
+void AppDelegate::OnMenuTabTools()
+{
+    showTab(4);
+}
+
+void AppDelegate::showTab(int index)
+{
+    // Selecting another tab has its consequences by itself; choosing the shown one from the menu has
+    // them too.
+    if (ui->tabviewMain->currentIndex() == index)
+        didSelectTab(index);
+    else
+        ui->tabviewMain->setCurrentIndex(index);
+}
+
+void AppDelegate::OnBtnBurn()
+{
+    const QString title = ui->btnBurn->text();
+    for (const ProjectType &type : projects::all) {
+        if (title == type.burnTitle)
+            return (this->*modes.at(static_cast<std::size_t>(type.code - 1)).pipeline)();
+    }
+}

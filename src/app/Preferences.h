@@ -1,0 +1,12 @@
+// The keys under which settings are kept.
+#pragma once
+
+#include <QLatin1StringView>
+
+namespace preferences {
+
+inline constexpr QLatin1StringView videoFormat("QuendralVideoFormat18"); ///< "0" NTSC, else PAL
+inline constexpr QLatin1StringView audioFormat("QuendralAudioFormat18"); ///< "0" Dolby Digital, else MPEG audio
+inline constexpr QLatin1StringView lastDrive("Quendral_Last_Selected_Drive_18"); ///< title of the chosen drive
+
+} // namespace preferences

@@ -1,0 +1,51 @@
+// The one door through which the program asks a person something: alerts and open panels. Windows
+// stand behind it in normal use, the command line in a batch run.
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+class QWidget;
+
+/// A modal alert: a message, a text below it, and buttons of which the first is the default.
+struct Alert {
+    QString message;
+    QString informative;
+    QStringList buttons;
+    bool fixedWidth = false; ///< the text below is a report whose columns matter
+};
+
+/// A panel in which existing files or folders are chosen.
+struct OpenPanel {
+    enum class Choose { Files, Folder };
+    Choose choose = Choose::Files;
+    bool several = false;
+    QStringList extensions; ///< accepted ones, in any case; none: every file
+    QString message; ///< what the person is asked for
+    QString startFolder; ///< where the panel opens; empty: where the last one was
+};
+
+/// Called on the GUI thread only.
+class Questions {
+public:
+    virtual ~Questions() = default;
+
+    /// Shows the alert over `over` and answers the position of the button pressed; closing it
+    /// without a button counts as the last one.
+    virtual int ask(const Alert &alert, QWidget *over) = 0;
+
+    /// The chosen files or folder; none when the person did not confirm.
+    virtual QList<QUrl> choose(const OpenPanel &panel, QWidget *over) = 0;
+};
+
+/// Alerts and panels as windows.
+class WindowQuestions : public Questions {
+public:
+    int ask(const Alert &alert, QWidget *over) override;
+    QList<QUrl> choose(const OpenPanel &panel, QWidget *over) override;
+
+private:
+    QString m_lastFolder;
+};

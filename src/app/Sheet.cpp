@@ -1,0 +1,81 @@
+#include "app/Sheet.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QPainter>
+
+Sheet::Sheet(QWidget *parent, Dismiss dismiss)
+    : QDialog(parent, Qt::Sheet | Qt::FramelessWindowHint), m_dismiss(dismiss)
+{
+    setWindowModality(Qt::WindowModal);
+    auto *quit = new QAction(this);
+    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    connect(quit, &QAction::triggered, this, &Sheet::quitRequested);
+    addAction(quit);
+}
+
+void Sheet::beginSheet()
+{
+    setWindowTitle(parentWidget()->windowTitle());
+    parentWidget()->window()->installEventFilter(this);
+    adjustSize();
+    show();
+}
+
+void Sheet::endSheet()
+{
+    hide();
+    deleteLater();
+}
+
+void Sheet::reject()
+{
+    if (m_dismiss == Dismiss::ByPerson)
+        cancelled();
+}
+
+void Sheet::closeEvent(QCloseEvent *event)
+{
+    // Closing asked for from outside means the whole window: the sheet has no close button of its own.
+    event->ignore();
+    Q_EMIT quitRequested();
+}
+
+void Sheet::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().color(QPalette::Window));
+    QColor border = palette().color(QPalette::WindowText);
+    border.setAlphaF(0.35F);
+    painter.setPen(border);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void Sheet::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    placeOverParent();
+}
+
+bool Sheet::eventFilter(QObject *watched, QEvent *event)
+{
+    if (isVisible() && (event->type() == QEvent::Resize || event->type() == QEvent::Move))
+        placeOverParent();
+    return QDialog::eventFilter(watched, event);
+}
+
+void Sheet::placeOverParent()
+{
+    const QWidget *owner = parentWidget()->window();
+    const QPoint corner = owner->mapToGlobal(QPoint((owner->width() - width()) / 2, owner->height() / 7));
+    move(corner);
+}
+
+SheetHeading::SheetHeading(QWidget *parent) : QLabel(parent)
+{
+    QFont heading = font();
+    heading.setBold(true);
+    heading.setPointSizeF(heading.pointSizeF() * 1.15);
+    setFont(heading);
+    setWordWrap(true);
+}

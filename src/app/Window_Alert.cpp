@@ -1,0 +1,81 @@
+#include "app/Window_Alert.h"
+
+#include "ui/SymbolIcon.h"
+#include "ui_Window_Alert.h"
+
+#include <QFontDatabase>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int textWidth = 380;
+
+/// A text that would make an alert taller than the window behind it.
+bool isLong(const QString &text)
+{
+    return text.count(u'\n') > 8 || text.size() > 600;
+}
+
+} // namespace
+
+Window_Alert::Window_Alert(const Alert &alert, QWidget *over)
+    : QDialog(over), m_ui(std::make_unique<Ui::Window_Alert>()), m_last(static_cast<int>(alert.buttons.size()) - 1)
+{
+    m_ui->setupUi(this);
+    setWindowTitle(over ? over->window()->windowTitle() : QString());
+    setWindowModality(Qt::ApplicationModal);
+    const bool question = alert.buttons.size() > 1;
+    const QIcon icon = symbolIcon(alert.fixedWidth ? u"info-emblem"_s : question ? u"warning"_s : u"info-emblem"_s,
+                                  palette().color(QPalette::WindowText));
+    m_ui->labelIcon->setPixmap(icon.pixmap(QSize(32, 32), devicePixelRatioF()));
+    showTexts(alert);
+    addButtons(alert.buttons);
+    layout()->setSizeConstraint(QLayout::SetMinAndMaxSize);
+}
+
+Window_Alert::~Window_Alert() = default;
+
+void Window_Alert::showTexts(const Alert &alert)
+{
+    QFont heading = font();
+    heading.setBold(true);
+    m_ui->labelMessage->setFont(heading);
+    const bool longMessage = isLong(alert.message);
+    const bool report = alert.fixedWidth || longMessage || isLong(alert.informative);
+    m_ui->labelMessage->setText(longMessage ? QString() : alert.message);
+    m_ui->labelMessage->setVisible(!longMessage);
+    m_ui->labelMessage->setMinimumWidth(textWidth);
+    const bool informativeInReport = report && !longMessage;
+    m_ui->labelInformative->setText(alert.informative);
+    m_ui->labelInformative->setMinimumWidth(textWidth);
+    m_ui->labelInformative->setVisible(!informativeInReport && !alert.informative.isEmpty());
+    m_ui->textReport->setVisible(report);
+    if (!report)
+        return;
+    QPlainTextEdit *const field = m_ui->textReport;
+    field->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    field->setPlainText(longMessage ? alert.message : alert.informative);
+    field->setAccessibleName(longMessage ? tr("Report") : alert.message);
+    field->setMinimumSize(field->fontMetrics().averageCharWidth() * 80, field->fontMetrics().lineSpacing() * 12);
+}
+
+void Window_Alert::addButtons(const QStringList &titles)
+{
+    for (int position = 0; position < titles.size(); ++position) {
+        QPushButton *button = m_ui->buttonBox->addButton(titles.at(position), position == 0 ? QDialogButtonBox::AcceptRole
+                                                                                            : QDialogButtonBox::RejectRole);
+        button->setAutoDefault(true);
+        connect(button, &QPushButton::clicked, this, [this, position] { done(position); });
+        if (position == 0) {
+            button->setDefault(true);
+            button->setFocus();
+        }
+    }
+}
+
+void Window_Alert::reject()
+{
+    done(m_last);
+}

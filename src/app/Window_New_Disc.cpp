@@ -1,0 +1,62 @@
+#include "app/Window_New_Disc.h"
+
+#include "app/AppDelegate.h"
+#include "ui_Window_New_Disc.h"
+
+#include <QPushButton>
+
+Window_New_Disc::Window_New_Disc(AppDelegate *controller, QWidget *parent)
+    : Sheet(parent, Dismiss::ByPerson), m_controller(controller), m_ui(std::make_unique<Ui::Window_New_Disc>())
+{
+    m_ui->setupUi(this);
+    m_radios = {m_ui->radio1, m_ui->radio2, m_ui->radio3, m_ui->radio4,
+                m_ui->radio5, m_ui->radio6, m_ui->radio7, m_ui->radio8};
+    connect(this, &Sheet::quitRequested, controller, &AppDelegate::OnMenuQuit);
+    connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &Window_New_Disc::OnOK);
+    connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &Window_New_Disc::OnCancel);
+    windowDidLoad();
+}
+
+Window_New_Disc::~Window_New_Disc() = default;
+
+void Window_New_Disc::windowDidLoad()
+{
+    // The buttons stand in three groups but exclude each other over all of them, so this class
+    // switches the others off, not the toolkit.
+    for (int number = 1; number <= 8; ++number) {
+        QRadioButton *radio = m_radios.at(static_cast<std::size_t>(number - 1));
+        radio->setAutoExclusive(false);
+        radio->setChecked(number == m_controller->i_Type_of_New_Disc);
+        connect(radio, &QRadioButton::clicked, radio, [radio] { radio->setChecked(true); });
+        connect(radio, &QRadioButton::clicked, this, [this, number] { OnRadio(number); });
+        if (radio->isChecked())
+            radio->setFocus();
+    }
+    m_ui->buttonBox->button(QDialogButtonBox::Ok)->setDefault(true);
+}
+
+void Window_New_Disc::OnRadio(int number)
+{
+    const QRadioButton *pressed = m_radios.at(static_cast<std::size_t>(number - 1));
+    if (!pressed->isChecked())
+        return;
+    for (QRadioButton *radio : m_radios) {
+        if (radio != pressed)
+            radio->setChecked(false);
+    }
+}
+
+void Window_New_Disc::OnOK()
+{
+    for (int number = 1; number <= 8; ++number) {
+        if (m_radios.at(static_cast<std::size_t>(number - 1))->isChecked())
+            m_controller->i_Type_of_New_Disc = number;
+    }
+    m_controller->Close_Window_New_Disc();
+}
+
+void Window_New_Disc::OnCancel()
+{
+    m_controller->i_Type_of_New_Disc = projects::cancelled;
+    m_controller->Close_Window_New_Disc();
+}

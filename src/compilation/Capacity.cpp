@@ -1,0 +1,32 @@
+#include "compilation/Capacity.h"
+
+#include <QHash>
+#include <QList>
+
+namespace compilation {
+
+qint32 capacity(Page page, qint64 kind)
+{
+    static const QHash<Page, QList<qint32>> kinds{
+        {Page::Audio,
+         {constAudioCDCDASpaceInSeconds, constAudioCDMP3SpaceInSeconds, constAudioDVDMP3SpaceInSeconds}},
+        {Page::Video, {constVideoDVDSpaceInSeconds, constVideoBRSpaceInSeconds}},
+        {Page::Data, {constDataCDSpaceInKBytes, constDataDVDSpaceInKBytes, constDataBRSpaceInKBytes}},
+    };
+    return kinds.value(page).value(kind, 0);
+}
+
+qint64 percentage(quint64 total, qint32 capacity)
+{
+    return capacity > 0 ? static_cast<qint64>(total * 100 / static_cast<quint64>(capacity)) : 0;
+}
+
+GaugeBars gaugeBars(qint64 percent, double width)
+{
+    const auto whole = [](double units) { return static_cast<qint32>(qBound(0.0, units, 1e9)); };
+    if (percent > 89)
+        return {whole(width * 90 / 100), whole(static_cast<double>(percent - 90) * width / 100)};
+    return {whole(static_cast<double>(percent) * width / 100), 0};
+}
+
+} // namespace compilation

@@ -1,0 +1,315 @@
+// Adding to the lists and taking from them.
+#include "app/AppDelegate.h"
+#include "app/MainWindow.h"
+#include "compilation/FolderTree.h"
+#include "compilation/ListTableView.h"
+#include "compilation/Measuring.h"
+#include "runner/StatusSheets.h"
+#include "runner/ToolRun.h"
+#include "ui/PreviewPlayer.h"
+#include "ui_MainWindow.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProgressBar>
+#include <QThreadPool>
+
+#include <dirent.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList audioExtensions{u"wma"_s, u"wav"_s, u"cda"_s, u"mp3"_s, u"mp2"_s, u"mpga"_s, u"m4a"_s};
+const QStringList videoExtensions{u"wmv"_s,  u"mov"_s, u"mpg"_s,    u"mpeg"_s, u"mpe"_s, u"avi"_s,
+                                  u"asf"_s,  u"asx"_s, u"qt"_s,     u"mp4"_s,  u"mpeg-4"_s, u"flv"_s,
+                                  u"ts"_s,   u"3gp"_s, u"fli"_s,    u"m1v"_s,  u"m2v"_s, u"mjpg"_s};
+
+/// The names directly in a folder, in the file system's order. Names that are not UTF-8 cannot be
+/// shown or handed on and are counted apart.
+struct FolderNames {
+    QStringList names;
+    int unreadable = 0;
+};
+
+FolderNames namesIn(const QString &folder)
+{
+    FolderNames found;
+    DIR *const stream = ::opendir(QFile::encodeName(folder).constData());
+    if (!stream)
+        return found;
+    while (const dirent *entry = ::readdir(stream)) {
+        const QByteArrayView name(entry->d_name);
+        if (name == "." || name == "..")
+            continue;
+        if (name.isValidUtf8())
+            found.names.append(QString::fromUtf8(name));
+        else
+            ++found.unreadable;
+    }
+    ::closedir(stream);
+    return found;
+}
+
+} // namespace
+
+QString AppDelegate::GetMediaFileDuration(const QString &path)
+{
+    // Without an output file to write, a report of the input is followed by an error and status 1.
+    runner::ToolRun report(sffmpegPath, {u"-i"_s, path}, activityLog);
+    report.setExpectedStatus(1);
+    return compilation::durationText(report.capture(around.probeLimit));
+}
+
+qint64 AppDelegate::Return_Seconds_From_Duration_Str(const QString &duration)
+{
+    return compilation::secondsFromDurationText(duration);
+}
+
+quint64 AppDelegate::folderSize(const QString &path)
+{
+    return compilation::treeSize(QFile::encodeName(path).toStdString());
+}
+
+const QStringList &AppDelegate::acceptedExtensions(ListKind kind)
+{
+    return kind == ListKind::Audio ? audioExtensions : videoExtensions;
+}
+
+void AppDelegate::pickMediaFiles(ListKind kind)
+{
+    OpenPanel panel;
+    panel.several = true;
+    panel.extensions = acceptedExtensions(kind);
+    panel.message = kind == ListKind::Audio ? tr("Add audio files to the list") : tr("Add video files to the list");
+    addMediaFiles(kind, around.questions->choose(panel, window));
+}
+
+void AppDelegate::pickMediaFolder(ListKind kind)
+{
+    OpenPanel panel;
+    panel.choose = OpenPanel::Choose::Folder;
+    panel.message = kind == ListKind::Audio ? tr("Add the audio files of a folder to the list")
+                                            : tr("Add the video files of a folder to the list");
+    const QList<QUrl> chosen = around.questions->choose(panel, window);
+    if (!chosen.isEmpty())
+        addMediaFolder(kind, chosen.first().toLocalFile());
+}
+
+void AppDelegate::addMediaFolder(ListKind kind, const QString &folder)
+{
+    const FolderNames found = namesIn(folder);
+    if (found.unreadable > 0) {
+        alert(tr("%n file(s) cannot be listed", nullptr, found.unreadable),
+              tr("Their names in the folder “%1” are not valid UTF-8 text. Rename them and add the folder again.").arg(folder));
+    }
+    // Unlike the panel's filter this distinguishes upper and lower case.
+    QList<QUrl> urls;
+    for (const QString &name : found.names) {
+        if (acceptedExtensions(kind).contains(compilation::pathExtension(name)))
+            urls.append(QUrl::fromLocalFile(u"%1/%2"_s.arg(folder, name)));
+    }
+    addMediaFiles(kind, urls);
+}
+
+void AppDelegate::addMediaFiles(ListKind kind, const QList<QUrl> &urls)
+{
+    if (urls.isEmpty())
+        return;
+    delete windowUniqueProgress;
+    windowUniqueProgress = new Window_Unique_Progress(this, window);
+    windowUniqueProgress->beginSheet();
+    windowUniqueProgress->progressBar()->setRange(0, static_cast<int>(urls.size()));
+    windowUniqueProgress->progressBar()->setValue(0);
+    // The task only measures. The records travel to the GUI thread one by one and go onto the list
+    // together, so the list is never touched from two threads.
+    auto records = std::make_shared<QList<NodeMediaFile>>();
+    QThreadPool::globalInstance()->start([this, kind, urls, records] {
+        for (const QUrl &url : urls) {
+            const QString path = url.toLocalFile();
+            NodeMediaFile record = compilation::mediaRecord(url, path);
+            record.s_Duration = GetMediaFileDuration(path);
+            record.i_Duration_in_Seconds = Return_Seconds_From_Duration_Str(record.s_Duration);
+            QMetaObject::invokeMethod(this, [this, kind, records, record, count = urls.size()] {
+                records->append(record);
+                mediaFileMeasured(kind, *records, count);
+            }, Qt::QueuedConnection);
+        }
+    });
+}
+
+void AppDelegate::mediaFileMeasured(ListKind kind, const QList<NodeMediaFile> &records, qsizetype count)
+{
+    if (windowUniqueProgress)
+        windowUniqueProgress->progressBar()->setValue(static_cast<int>(records.size()));
+    if (records.size() < count)
+        return;
+    arrayMediaFiles.append(records);
+    if (windowUniqueProgress)
+        windowUniqueProgress->endSheet();
+    windowUniqueProgress = nullptr;
+    if (kind == ListKind::Audio)
+        refreshTableAudioFiles();
+    else
+        refreshTableVideoFiles();
+    Q_EMIT addingEnded();
+}
+
+void AppDelegate::OnActionAudioAddFiles()
+{
+    pickMediaFiles(ListKind::Audio);
+}
+
+void AppDelegate::OnActionAudioAddFolder()
+{
+    pickMediaFolder(ListKind::Audio);
+}
+
+void AppDelegate::OnActionVideoAddFiles()
+{
+    pickMediaFiles(ListKind::Video);
+}
+
+void AppDelegate::OnActionVideoAddFolder()
+{
+    pickMediaFolder(ListKind::Video);
+}
+
+void AppDelegate::OnActionDataAddFolder()
+{
+    OpenPanel panel;
+    panel.choose = OpenPanel::Choose::Folder;
+    panel.message = tr("Add a folder to the list");
+    const QList<QUrl> chosen = around.questions->choose(panel, window);
+    if (!chosen.isEmpty())
+        addDataFolder(chosen.first().toLocalFile());
+}
+
+void AppDelegate::addDataFolder(const QString &path)
+{
+    arrayDataFolders.append(compilation::folderRecord(path, folderSize(path)));
+    refreshTableDataFolders();
+}
+
+void AppDelegate::addDroppedFiles(const QList<QUrl> &urls)
+{
+    const int tab = ui->tabviewMain->currentIndex();
+    const ListKind kind = tab == 0 ? ListKind::Audio : ListKind::Video;
+    QList<QUrl> files;
+    for (const QUrl &url : urls) {
+        const QString path = url.toLocalFile();
+        const QFileInfo info(path);
+        if (tab == 2 && info.isDir())
+            addDataFolder(QDir::cleanPath(path));
+        else if (tab < 2 && info.isFile() && acceptedExtensions(kind).contains(info.suffix(), Qt::CaseInsensitive))
+            files.append(url);
+    }
+    if (tab < 2)
+        addMediaFiles(kind, files);
+}
+
+template <class Record>
+void AppDelegate::deleteSelected(const ListTableView *table, QList<Record> &list)
+{
+    const QList<int> rows = table->selectedRows();
+    if (!rows.isEmpty()) {
+        QList<Record> kept;
+        kept.reserve(list.size());
+        qsizetype next = 0;
+        for (qsizetype row = 0; row < list.size(); ++row) {
+            if (next < rows.size() && rows.at(next) == row)
+                ++next;
+            else
+                kept.append(list.at(row));
+        }
+        list = kept;
+    }
+    refreshTable(table);
+}
+
+void AppDelegate::OnActionAudioDelete()
+{
+    deleteSelected(ui->tableviewAudioFiles, arrayMediaFiles);
+}
+
+void AppDelegate::OnActionVideoDelete()
+{
+    deleteSelected(ui->tableviewVideoFiles, arrayMediaFiles);
+}
+
+void AppDelegate::OnActionDataDelete()
+{
+    deleteSelected(ui->tableviewDataFolders, arrayDataFolders);
+}
+
+void AppDelegate::OnActionAudioClear()
+{
+    arrayMediaFiles.clear();
+    refreshTableAudioFiles();
+}
+
+void AppDelegate::OnActionVideoClear()
+{
+    arrayMediaFiles.clear();
+    refreshTableVideoFiles();
+}
+
+void AppDelegate::OnActionDataClear()
+{
+    arrayDataFolders.clear();
+    refreshTableDataFolders();
+}
+
+void AppDelegate::playSelected(const ListTableView *table)
+{
+    const int row = table->lastSelectedRow();
+    if (row < 0)
+        return alert(u"There is no file selected."_s, u"There is no file selected."_s);
+    playPreview(arrayMediaFiles.at(row).s_File_URL, window);
+}
+
+void AppDelegate::OnActionAudioPlay()
+{
+    playSelected(ui->tableviewAudioFiles);
+}
+
+void AppDelegate::OnActionVideoPlay()
+{
+    playSelected(ui->tableviewVideoFiles);
+}
+
+void AppDelegate::OnActionAudioNewDisc()
+{
+    ShowNewDiscWindow();
+}
+
+void AppDelegate::OnActionVideoNewDisc()
+{
+    ShowNewDiscWindow();
+}
+
+void AppDelegate::OnActionDataNewDisc()
+{
+    ShowNewDiscWindow();
+}
+
+void AppDelegate::OnActionAudioCopyDisc()
+{
+    DuplicateMedia();
+}
+
+void AppDelegate::OnActionVideoCopyDisc()
+{
+    DuplicateMedia();
+}
+
+void AppDelegate::OnActionDataCopyDisc()
+{
+    DuplicateMedia();
+}
+
+void AppDelegate::OnActionVideoSettings()
+{
+    Show_Window_Video_Settings();
+}

@@ -1,0 +1,113 @@
+#include "compilation/ListTableModel.h"
+
+#include "app/AppDelegate.h"
+
+ListTableModel::ListTableModel(Kind kind, const AppDelegate *controller, QObject *parent)
+    : QAbstractTableModel(parent), m_kind(kind), m_controller(controller)
+{
+}
+
+void ListTableModel::reload()
+{
+    beginResetModel();
+    endResetModel();
+}
+
+int ListTableModel::rowCount(const QModelIndex &parent) const
+{
+    if (parent.isValid())
+        return 0;
+    return static_cast<int>(m_kind == Kind::Media ? m_controller->arrayMediaFiles.size()
+                                                  : m_controller->arrayDataFolders.size());
+}
+
+int ListTableModel::columnCount(const QModelIndex &parent) const
+{
+    if (parent.isValid())
+        return 0;
+    return m_kind == Kind::Media ? int(MediaColumnCount) : int(DataColumnCount);
+}
+
+QString ListTableModel::text(int row, int column) const
+{
+    if (m_kind == Kind::Data) {
+        const NodeDataFolder &folder = m_controller->arrayDataFolders.at(row);
+        return column == DataFolder ? folder.s_Path : folder.s_Size;
+    }
+    const NodeMediaFile &file = m_controller->arrayMediaFiles.at(row);
+    switch (column) {
+    case MediaFile:
+        return file.s_File_Name_With_Extension;
+    case MediaDuration:
+        return file.s_Duration;
+    case MediaSize:
+        return file.s_File_Size;
+    default:
+        return file.s_Folder_Path;
+    }
+}
+
+QString ListTableModel::sortText(int row, int column) const
+{
+    const bool path = m_kind == Kind::Media && column == MediaPath;
+    return path ? m_controller->arrayMediaFiles.at(row).s_File_Path : text(row, column);
+}
+
+QStringList ListTableModel::sortTexts(int column) const
+{
+    QStringList texts;
+    const int rows = rowCount();
+    texts.reserve(rows);
+    for (int row = 0; row < rows; ++row)
+        texts.append(sortText(row, column));
+    return texts;
+}
+
+QString ListTableModel::toolTip(int row) const
+{
+    // A name may look like rich text; a tooltip must show it as it is.
+    const QString path = m_kind == Kind::Data ? m_controller->arrayDataFolders.at(row).s_Path
+                                              : m_controller->arrayMediaFiles.at(row).s_File_Path;
+    return path.toHtmlEscaped();
+}
+
+bool ListTableModel::isNumber(int column) const
+{
+    return m_kind == Kind::Data ? column == DataSize : column == MediaDuration || column == MediaSize;
+}
+
+QVariant ListTableModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        return text(index.row(), index.column());
+    case SortRole:
+        return sortText(index.row(), index.column());
+    case Qt::ForegroundRole: {
+        const QColor colour = m_controller->cellTextColour();
+        return colour.isValid() ? QVariant(colour) : QVariant();
+    }
+    case Qt::ToolTipRole:
+        return toolTip(index.row());
+    case Qt::TextAlignmentRole:
+        return QVariant::fromValue(Qt::AlignVCenter | (isNumber(index.column()) ? Qt::AlignRight : Qt::AlignLeft));
+    default:
+        return {};
+    }
+}
+
+QVariant ListTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+        return {};
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(Qt::AlignVCenter | (isNumber(section) ? Qt::AlignRight : Qt::AlignLeft));
+    if (role != Qt::DisplayRole)
+        return {};
+    if (m_kind == Kind::Data)
+        return section == DataFolder ? tr("Folder") : tr("Size");
+    const QStringList headings{tr("File"), tr("Duration"), tr("Size"), tr("Path")};
+    return headings.at(section);
+}

@@ -1,0 +1,41 @@
+// What the three list tables show.
+#pragma once
+
+#include <QAbstractTableModel>
+
+class AppDelegate;
+
+/// The media list or the data list of the controller as a table. Read-only; the controller calls
+/// reload() after it has changed a list.
+class ListTableModel : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    enum class Kind { Media, Data };
+    enum MediaColumn { MediaFile, MediaDuration, MediaSize, MediaPath, MediaColumnCount };
+    enum DataColumn { DataFolder, DataSize, DataColumnCount };
+    /// The text by which a column is sorted, where it differs from the one shown too.
+    static constexpr int SortRole = Qt::UserRole;
+
+    /// `controller` is not owned and outlives the model.
+    ListTableModel(Kind kind, const AppDelegate *controller, QObject *parent);
+
+    /// Tells the views that any row may have changed.
+    void reload();
+
+    /// The texts of a column that decide its order, of all rows.
+    QStringList sortTexts(int column) const;
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    QString text(int row, int column) const;
+    QString sortText(int row, int column) const;
+    QString toolTip(int row) const;
+    bool isNumber(int column) const;
+
+    const Kind m_kind;
+    const AppDelegate *const m_controller;
+};

@@ -1,0 +1,143 @@
+#include "compilation/ListTableView.h"
+
+#include <QDragEnterEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPainter>
+#include <QProxyStyle>
+
+#include <algorithm>
+
+namespace {
+
+/// The desktop's style with more room left and right of the texts.
+class RoomyStyle : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+
+    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
+    {
+        constexpr int room = 8;
+        const bool isMargin = metric == PM_HeaderMargin || metric == PM_FocusFrameHMargin;
+        return isMargin ? room : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
+
+} // namespace
+
+ListTableView::ListTableView(QWidget *parent) : QTableView(parent)
+{
+    auto *roomy = new RoomyStyle;
+    roomy->setParent(this);
+    setStyle(roomy);
+    horizontalHeader()->setStyle(roomy);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTextElideMode(Qt::ElideMiddle);
+    setTabKeyNavigation(false);
+    setAcceptDrops(true);
+    setDragDropMode(DropOnly);
+    setDropIndicatorShown(false);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 12);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setFixedHeight(fontMetrics().height() + 12);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    connect(this, &QTableView::doubleClicked, this, &ListTableView::rowOpened);
+}
+
+void ListTableView::setGround(const QColor &ground)
+{
+    if (!ground.isValid())
+        return setPalette({});
+    const bool isDark = ground.lightness() < 128;
+    QPalette colours = palette();
+    colours.setColor(QPalette::Base, ground);
+    // Lightening leaves black as it is, so the second ground is a mixture with the text.
+    const QColor text = isDark ? Qt::white : Qt::black;
+    const auto mixed = [](int a, int b) { return (a * 15 + b) / 16; };
+    colours.setColor(QPalette::AlternateBase, QColor(mixed(ground.red(), text.red()), mixed(ground.green(), text.green()),
+                                                     mixed(ground.blue(), text.blue())));
+    colours.setColor(QPalette::Text, text);
+    setPalette(colours);
+}
+
+QList<int> ListTableView::selectedRows() const
+{
+    QList<int> rows;
+    if (!selectionModel())
+        return rows;
+    for (const QItemSelectionRange &range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.append(row);
+    }
+    std::ranges::sort(rows);
+    rows.erase(std::ranges::unique(rows).begin(), rows.end());
+    return rows;
+}
+
+void ListTableView::selectRows(const QList<int> &rows)
+{
+    QItemSelection selection;
+    for (const int row : rows)
+        selection.select(model()->index(row, 0), model()->index(row, model()->columnCount() - 1));
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (!rows.isEmpty())
+        selectionModel()->setCurrentIndex(model()->index(rows.last(), 0), QItemSelectionModel::NoUpdate);
+}
+
+int ListTableView::lastSelectedRow() const
+{
+    const QList<int> rows = selectedRows();
+    const int current = currentIndex().row();
+    if (rows.contains(current))
+        return current;
+    return rows.isEmpty() ? -1 : rows.last();
+}
+
+void ListTableView::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (!model() || model()->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    QColor hint = palette().color(QPalette::Text);
+    hint.setAlphaF(0.7F);
+    painter.setPen(hint);
+    painter.drawText(viewport()->rect().adjusted(16, 16, -16, -16), Qt::AlignCenter | Qt::TextWordWrap, m_emptyHint);
+}
+
+void ListTableView::keyPressEvent(QKeyEvent *event)
+{
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && currentIndex().isValid())
+        Q_EMIT rowOpened();
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void ListTableView::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void ListTableView::dragMoveEvent(QDragMoveEvent *event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void ListTableView::dropEvent(QDropEvent *event)
+{
+    if (!event->mimeData()->hasUrls())
+        return;
+    event->acceptProposedAction();
+    Q_EMIT filesDropped(event->mimeData()->urls());
+}

@@ -1,0 +1,171 @@
+// The tables' contents, their order, and the totals behind the gauge.
+#include "app/AppDelegate.h"
+#include "app/MainWindow.h"
+#include "compilation/ListTableModel.h"
+#include "compilation/Sorting.h"
+#include "compilation/SpaceOccupiedView.h"
+#include "ui/SystemAppearance.h"
+#include "ui_MainWindow.h"
+
+#include <QHeaderView>
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// hours:minutes:seconds, as many fields as the time needs.
+QString timeText(qint64 seconds)
+{
+    const QString rest = u"%1:%2"_s.arg(seconds / 60 % 60, 2, 10, QChar(u'0')).arg(seconds % 60, 2, 10, QChar(u'0'));
+    return seconds < 3600 ? rest : u"%1:%2"_s.arg(seconds / 3600).arg(rest);
+}
+
+QString sizeInWords(qint64 kilobytes)
+{
+    return QLocale().formattedDataSize(kilobytes * 1024, 1, QLocale::DataSizeTraditionalFormat);
+}
+
+} // namespace
+
+qsizetype AppDelegate::numberOfRowsInTableView(const ListTableView *table) const
+{
+    return table == ui->tableviewDataFolders ? arrayDataFolders.size() : arrayMediaFiles.size();
+}
+
+ListTableView *AppDelegate::selectedTable() const
+{
+    const std::array tables{ui->tableviewAudioFiles, ui->tableviewVideoFiles, ui->tableviewDataFolders};
+    const auto tab = static_cast<std::size_t>(ui->tabviewMain->currentIndex());
+    return tab < tables.size() ? tables[tab] : nullptr;
+}
+
+void AppDelegate::refreshTable(const ListTableView *table)
+{
+    if (table == ui->tableviewAudioFiles)
+        refreshTableAudioFiles();
+    else if (table == ui->tableviewVideoFiles)
+        refreshTableVideoFiles();
+    else
+        refreshTableDataFolders();
+}
+
+QColor AppDelegate::cellTextColour() const
+{
+    if (b_List_Alternating_Rows != 0)
+        return isDarkAppearance() ? Qt::white : Qt::black;
+    return colorTableForeground;
+}
+
+void AppDelegate::reloadTable(ListTableView *table)
+{
+    static_cast<ListTableModel *>(table->model())->reload();
+}
+
+void AppDelegate::refreshTableAudioFiles()
+{
+    reloadTable(ui->tableviewAudioFiles);
+    i_Audio_Total_Duration_in_Seconds = 0;
+    for (const NodeMediaFile &file : std::as_const(arrayMediaFiles))
+        i_Audio_Total_Duration_in_Seconds += file.i_Duration_in_Seconds;
+    PaintSpaceOccupiedControl();
+}
+
+void AppDelegate::refreshTableVideoFiles()
+{
+    reloadTable(ui->tableviewVideoFiles);
+    i_Video_Total_Duration_in_Seconds = 0;
+    for (const NodeMediaFile &file : std::as_const(arrayMediaFiles))
+        i_Video_Total_Duration_in_Seconds += file.i_Duration_in_Seconds;
+    PaintSpaceOccupiedControl();
+}
+
+void AppDelegate::refreshTableDataFolders()
+{
+    reloadTable(ui->tableviewDataFolders);
+    i_Data_Total_Size_in_KBytes = 0;
+    for (const NodeDataFolder &folder : std::as_const(arrayDataFolders))
+        i_Data_Total_Size_in_KBytes += folder.i_Size_in_KBytes;
+    PaintSpaceOccupiedControl();
+}
+
+void AppDelegate::PaintSpaceOccupiedControl()
+{
+    using compilation::Page;
+    struct Measure {
+        Page page;
+        qint64 total;
+        qint64 kind;
+    };
+    const QString page = selectedPage();
+    const Measure measure = page == "1"_L1 ? Measure{Page::Audio, i_Audio_Total_Duration_in_Seconds, i_Audio_Type}
+        : page == "2"_L1                   ? Measure{Page::Video, i_Video_Total_Duration_in_Seconds, i_Video_Type}
+        : page == "3"_L1                   ? Measure{Page::Data, i_Data_Total_Size_in_KBytes, i_Data_Type}
+                                           : Measure{Page::Audio, 0, -1};
+    const qint32 capacity = compilation::capacity(measure.page, measure.kind);
+    const qint64 percent = compilation::percentage(static_cast<quint64>(measure.total), capacity);
+    ui->spaceoccupiedviewControl->setI_Percentage(percent);
+    const auto inWords = measure.page == Page::Data ? sizeInWords : timeText;
+    ui->label_BottomBar_SpaceOcuupied->setText(
+        tr("Space occupied: %1 of %2 (%3 %)").arg(inWords(measure.total), inWords(capacity)).arg(percent));
+}
+
+void AppDelegate::tableView_sortDescriptorsDidChange(ListTableView *table)
+{
+    const std::array flags{&AppDelegate::m_b_Col1_Ascenging, &AppDelegate::m_b_Col2_Ascenging,
+                           &AppDelegate::m_b_Col3_Ascenging, &AppDelegate::m_b_Col4_Ascenging};
+    const auto *model = static_cast<const ListTableModel *>(table->model());
+    const int column = table->selectedColumn();
+    QList<int> selected = table->selectedRows();
+    if (column >= 0 && column < model->columnCount()) {
+        const bool ascending = this->*flags.at(static_cast<std::size_t>(column));
+        const QList<qsizetype> order = compilation::sortedOrder(model->sortTexts(column), ascending);
+        reorderList(table, order, selected);
+        for (int other = 0; other < model->columnCount(); ++other)
+            this->*flags.at(static_cast<std::size_t>(other)) = other == column && !ascending;
+        table->horizontalHeader()->setSortIndicatorShown(true);
+        table->horizontalHeader()->setSortIndicator(column, ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
+    }
+    refreshTable(table);
+    table->selectRows(selected);
+}
+
+void AppDelegate::reorderList(const ListTableView *table, const QList<qsizetype> &order, QList<int> &selected)
+{
+    if (table == ui->tableviewDataFolders)
+        arrayDataFolders = compilation::reordered(arrayDataFolders, order);
+    else
+        arrayMediaFiles = compilation::reordered(arrayMediaFiles, order);
+    if (selected.isEmpty())
+        return;
+    QList<int> newPlace(order.size());
+    for (qsizetype place = 0; place < order.size(); ++place)
+        newPlace[order.at(place)] = static_cast<int>(place);
+    for (int &row : selected)
+        row = newPlace.at(row);
+    std::ranges::sort(selected);
+}
+
+void AppDelegate::moveSelectedEntries(int by)
+{
+    ListTableView *const table = selectedTable();
+    if (!table)
+        return;
+    QList<int> selected = table->selectedRows();
+    const int rows = table->model()->rowCount();
+    if (selected.isEmpty() || selected.first() + by < 0 || selected.last() + by >= rows)
+        return;
+    QList<qsizetype> order(rows);
+    std::iota(order.begin(), order.end(), qsizetype(0));
+    if (by > 0)
+        std::ranges::reverse(selected);
+    for (const int row : std::as_const(selected))
+        order.swapItemsAt(row, row + by);
+    std::ranges::sort(selected);
+    reorderList(table, order, selected);
+    refreshTable(table);
+    table->selectRows(selected);
+}

@@ -1,0 +1,24 @@
+// The order in which a file browser lists names: by locale, without regard to case, digit runs by value.
+#pragma once
+
+#include <QList>
+#include <QStringList>
+
+namespace compilation {
+
+/// The order of the positions of `texts` that sorts them, equal ones in their present order.
+/// Descending compares the second with the first.
+QList<qsizetype> sortedOrder(const QStringList &texts, bool ascending);
+
+/// `list` in the given order of its positions.
+template <class T>
+QList<T> reordered(const QList<T> &list, const QList<qsizetype> &order)
+{
+    QList<T> result;
+    result.reserve(list.size());
+    for (const qsizetype position : order)
+        result.append(list.at(position));
+    return result;
+}
+
+} // namespace compilation

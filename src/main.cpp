@@ -1,0 +1,156 @@
+// Corvalis: options, application, controller, event loop.
+#include "app/AppDelegate.h"
+#include "app/BatchRun.h"
+#include "app/MainWindow.h"
+#include "ui/SymbolIcon.h"
+
+#include <QApplication>
+#include <QByteArrayView>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QTimer>
+
+#include <csignal>
+#include <cstdio>
+#include <optional>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int wrongArguments = 2;
+
+[[noreturn]] void refuse(const QString &sentence)
+{
+    std::fprintf(stderr, "corvalis: %s\nTry 'corvalis --help'.\n", qUtf8Printable(sentence));
+    std::exit(wrongArguments);
+}
+
+/// Asked to end, the program ends at once and with success, as it does from its menu.
+void endOnSignals()
+{
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+        std::signal(signal, [](int) { ::_exit(0); });
+}
+
+/// Folder trees are walked with a descriptor for each level.
+void allowDeepTrees()
+{
+    rlimit limit;
+    if (::getrlimit(RLIMIT_NOFILE, &limit) == 0) {
+        limit.rlim_cur = limit.rlim_max;
+        ::setrlimit(RLIMIT_NOFILE, &limit);
+    }
+}
+
+/// A batch run needs no display, and neither does asking for help.
+void chooseDisplay(int argc, char **argv)
+{
+    bool windowless = false;
+    for (int i = 1; i < argc; ++i) {
+        const QByteArrayView argument(argv[i]);
+        if (argument == "--show")
+            return;
+        windowless = windowless || argument.startsWith("--burn") || argument == "--help" || argument == "-h"
+            || argument == "--version" || argument == "-v";
+    }
+    if (windowless)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+void refuseUnreadableNames(int argc, char **argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        if (!QByteArrayView(argv[i]).isValidUtf8())
+            refuse(u"argument %1 is not valid UTF-8 text; rename the file and try again."_s.arg(i));
+    }
+}
+
+const ProjectType *projectNamed(const QString &name)
+{
+    for (const ProjectType &type : projects::all) {
+        if (name == type.name)
+            return &type;
+    }
+    QStringList names;
+    for (const ProjectType &type : projects::all)
+        names.append(u'"' + QString(type.name) + u'"');
+    refuse(u"there is no project \"%1\"; it is one of %2."_s.arg(name, names.join(u", "_s)));
+}
+
+/// What the command line asks for; nothing for the ordinary window.
+std::optional<BatchJob> readCommandLine(const QCoreApplication &application)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"Prepares and writes optical discs."_s);
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption burn(u"burn"_s, u"Make a disc of kind <project> from the files and end."_s, u"project"_s);
+    const QCommandLineOption show(u"show"_s, u"Do so in the window, which stays."_s);
+    parser.addOptions({burn, show});
+    parser.addPositionalArgument(u"FILE"_s, u"Files, or folders for a data disc, in the order of the disc."_s, u"[FILE...]"_s);
+    if (!parser.parse(application.arguments()))
+        refuse(parser.errorText());
+    if (parser.isSet(u"help"_s))
+        parser.showHelp(0);
+    if (parser.isSet(u"version"_s))
+        parser.showVersion();
+    if (!parser.isSet(burn)) {
+        if (parser.isSet(show) || !parser.positionalArguments().isEmpty())
+            refuse(u"files and --show go with --burn."_s);
+        return std::nullopt;
+    }
+    BatchJob job{projectNamed(parser.value(burn)), {}, parser.isSet(show)};
+    for (const QString &path : parser.positionalArguments())
+        job.paths.append(QDir::cleanPath(QDir::current().absoluteFilePath(path)));
+    if (const QString objection = BatchRun::objection(job); !objection.isEmpty())
+        refuse(objection);
+    return job;
+}
+
+int runWindow()
+{
+    WindowQuestions questions;
+    MainWindow window;
+    AppDelegate controller(&window, Surroundings::ofThisMachine(&questions));
+    controller.awakeFromNib();
+    controller.applicationDidFinishLaunching();
+    return QApplication::exec();
+}
+
+int runBatch(const BatchJob &job)
+{
+    BatchQuestions questions(job.show);
+    MainWindow window;
+    Surroundings around = Surroundings::ofThisMachine(&questions);
+    const auto exitProcess = around.exitProcess;
+    // The only way to an exit in a batch run but its own end is an alert of the start-up.
+    around.exitProcess = [exitProcess, &questions](int status) { exitProcess(questions.alerted() ? 1 : status); };
+    AppDelegate controller(&window, around);
+    BatchRun batch(job, &controller, &questions, exitProcess);
+    controller.awakeFromNib();
+    controller.applicationDidFinishLaunching();
+    QTimer::singleShot(0, &batch, &BatchRun::start);
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    allowDeepTrees();
+    refuseUnreadableNames(argc, argv);
+    chooseDisplay(argc, argv);
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(u"corvalis"_s);
+    QGuiApplication::setApplicationDisplayName(u"Corvalis"_s);
+    QGuiApplication::setDesktopFileName(u"corvalis"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(CORVALIS_VERSION));
+    QApplication::setWindowIcon(applicationIcon());
+    endOnSignals();
+    const std::optional<BatchJob> job = readCommandLine(application);
+    return job ? runBatch(*job) : runWindow();
+}

@@ -1,0 +1,123 @@
+#include "runner/ActivityLog.h"
+
+#include <QFileInfo>
+#include <QMutexLocker>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString shellWord(const QString &word)
+{
+    static const QRegularExpression plain(u"^[A-Za-z0-9_@%+=:,./-]+$"_s);
+    if (plain.match(word).hasMatch() && !word.endsWith(u'\n'))
+        return word;
+    QString quoted = word;
+    return u'\'' + quoted.replace(u'\'', u"'\\''"_s) + u'\'';
+}
+
+QString lastLine(const QByteArray &output)
+{
+    const QByteArray lines = output.trimmed();
+    return QString::fromUtf8(lines.mid(qMax(lines.lastIndexOf('\n'), lines.lastIndexOf('\r')) + 1)).left(300);
+}
+
+} // namespace
+
+QString Activity::commandLine() const
+{
+    QStringList words;
+    for (const QString &word : command)
+        words.append(shellWord(word));
+    return words.join(u' ');
+}
+
+qsizetype ActivityLog::begin(const QString &program, const QStringList &arguments)
+{
+    qsizetype position = 0;
+    {
+        const QMutexLocker lock(&m_mutex);
+        position = m_activities.size();
+        m_activities.append({QDateTime::currentDateTime(), QStringList(program) + arguments, {}, false, {}, 0});
+    }
+    Q_EMIT changed();
+    return position;
+}
+
+void ActivityLog::append(qsizetype position, const QByteArray &output)
+{
+    const QMutexLocker lock(&m_mutex);
+    Activity &activity = m_activities[position];
+    const qsizetype room = qMin(keptOutput - activity.output.size(), output.size());
+    activity.output.append(output.constData(), room);
+    activity.leftOut += output.size() - room;
+}
+
+void ActivityLog::end(qsizetype position, const QString &outcome, bool troubled)
+{
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_activities[position].outcome = outcome;
+        m_activities[position].troubled = troubled;
+    }
+    Q_EMIT changed();
+}
+
+void ActivityLog::note(const QString &text, const QString &detail)
+{
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_activities.append({QDateTime::currentDateTime(), {}, text, true, detail.toUtf8(), 0});
+    }
+    Q_EMIT changed();
+}
+
+qsizetype ActivityLog::size() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_activities.size();
+}
+
+Activity ActivityLog::at(qsizetype position) const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_activities.at(position);
+}
+
+QStringList ActivityLog::troublesSince(qsizetype position) const
+{
+    QStringList troubles;
+    const QMutexLocker lock(&m_mutex);
+    for (const Activity &activity : m_activities.mid(position)) {
+        if (!activity.troubled)
+            continue;
+        const QString said = lastLine(activity.output);
+        if (activity.command.isEmpty())
+            troubles.append(activity.outcome + u": "_s + said);
+        else
+            troubles.append(QFileInfo(activity.command.first()).fileName() + u": "_s
+                            + (said.isEmpty() ? activity.outcome : said));
+    }
+    return troubles;
+}
+
+QString ActivityLog::text(const Activity &activity)
+{
+    QString text = activity.started.toString(u"yyyy-MM-dd HH:mm:ss"_s) + u"  "_s;
+    if (!activity.command.isEmpty())
+        text += activity.commandLine() + u"\n    "_s;
+    text += (activity.outcome.isEmpty() ? tr("is running") : activity.outcome) + u'\n';
+    text += QString::fromUtf8(activity.output);
+    if (activity.leftOut > 0)
+        text += tr("\n(%n more bytes of output are not kept)\n", nullptr, static_cast<int>(qMin<qint64>(activity.leftOut, INT_MAX)));
+    return text.endsWith(u'\n') ? text : text + u'\n';
+}
+
+QString ActivityLog::text() const
+{
+    QString all;
+    for (qsizetype position = 0; position < size(); ++position)
+        all += text(at(position)) + u'\n';
+    return all;
+}

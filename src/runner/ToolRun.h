@@ -1,0 +1,75 @@
+// One wrapper for every child process: what to run goes in, how it ended comes out.
+#pragma once
+
+#include <QByteArray>
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+
+class ActivityLog;
+
+namespace runner {
+
+/// How a child process came to its end.
+struct ToolEnd {
+    enum class How {
+        Ended, ///< by itself, with `code`
+        CouldNotStart,
+        Crashed, ///< by a signal that we did not send
+        EndedByUs, ///< because its time was up
+    };
+    How how = How::Ended;
+    int code = 0;
+    QString reason; ///< why it could not start, in the system's words
+
+    /// One sentence for the log.
+    QString text() const;
+    /// Whether this is not how a run that should end with `expected` ends.
+    bool troubled(int expected = 0) const { return how != How::Ended || code != expected; }
+};
+
+/// A child process that writes itself into the activity log. Its standard input is the null device.
+/// Lives in the thread that made it; that thread needs an event loop unless only capture() is used.
+/// Destroying it ends the child.
+class ToolRun : public QProcess {
+    Q_OBJECT
+public:
+    ToolRun(const QString &program, const QStringList &arguments, ActivityLog *log, QObject *parent = nullptr);
+    ~ToolRun() override;
+
+    /// The status with which this tool ends when all is well; 0 unless set.
+    void setExpectedStatus(int status) { m_expectedStatus = status; }
+
+    /// Starts the child. ended() follows exactly once, also when it cannot be started, and never
+    /// before control is back in the event loop.
+    void launch();
+
+    /// Runs to its end and answers all that it printed, both channels in the order of writing. Blocks
+    /// the calling thread, at most `limit` milliseconds: then the child is ended, and what it printed
+    /// so far is the answer. Of more than 64 MiB the rest is dropped.
+    QByteArray capture(int limit);
+
+    /// How the child ended; meaningful after ended() or capture().
+    const ToolEnd &end() const { return m_end; }
+    bool hasEnded() const { return m_finished; }
+    /// All output so far, as far as the log keeps it.
+    QByteArray output() const;
+
+    /// Takes what has arrived on a channel, into the log as well.
+    QByteArray take(ProcessChannel channel);
+
+Q_SIGNALS:
+    void ended(const runner::ToolEnd &end);
+
+private:
+    void finish(const ToolEnd &end);
+    ToolEnd endOfChild() const;
+
+    ActivityLog *m_log;
+    qsizetype m_position = -1;
+    ToolEnd m_end;
+    int m_expectedStatus = 0;
+    bool m_finished = false;
+};
+
+} // namespace runner

@@ -1,0 +1,56 @@
+// Erase, eject, load, and what the drive says of its disc.
+#include "app/AppDelegate.h"
+#include "app/MainWindow.h"
+#include "ui_MainWindow.h"
+
+#include <QCursor>
+
+using namespace Qt::StringLiterals;
+
+void AppDelegate::OnToolsFormatRWMedia()
+{
+    ui->popupmenuErase->popup(QCursor::pos());
+}
+
+void AppDelegate::OnToolsFormatFull()
+{
+    eraseDisc(u"full"_s);
+}
+
+void AppDelegate::OnToolsFormatQuick()
+{
+    eraseDisc(u"quick"_s);
+}
+
+void AppDelegate::eraseDisc(const QString &extent)
+{
+    if (IsDriveEmpty()) {
+        return alert(u"No disc"_s,
+                     u"There is no disc on the drive. insert a rewritable media on the drive and try again."_s);
+    }
+    if (!IsMediaReWritable()) {
+        return alert(u"Media not rewritable"_s,
+                     u"The media on the drive is not rewritable. insert a rewritable media on the drive and try again."_s);
+    }
+    beginJob();
+    runInBackground(around.drutil, {u"erase"_s, extent, u"-drive"_s, s_Current_Drive_Number},
+                    &AppDelegate::taskTerminated, Output::Observed);
+    Show_Window_Performing_Operation();
+}
+
+void AppDelegate::OnToolsEjectDisc()
+{
+    captureTool(around.drutil, {u"tray"_s, u"eject"_s, u"-drive"_s, s_Current_Drive_Number});
+}
+
+void AppDelegate::OnToolsLoadDisc()
+{
+    captureTool(around.drutil, {u"tray"_s, u"close"_s, u"-drive"_s, s_Current_Drive_Number});
+}
+
+void AppDelegate::OnToolsDiscInfo()
+{
+    if (IsDriveEmpty())
+        return alert(u"No disc"_s, u"There is no disc on the drive. Insert a media on the drive and try again."_s);
+    around.questions->ask({u"Disc Information"_s, driveStatus(), {u"OK"_s}, true}, window);
+}

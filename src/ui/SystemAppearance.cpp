@@ -1,0 +1,158 @@
+#include "ui/SystemAppearance.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QEvent>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QPalette>
+#include <QPointer>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto portalService = u"org.freedesktop.portal.Desktop"_s;
+const auto portalPath = u"/org/freedesktop/portal/desktop"_s;
+const auto portalInterface = u"org.freedesktop.portal.Settings"_s;
+const auto appearanceNamespace = u"org.freedesktop.appearance"_s;
+const auto colourSchemeKey = u"color-scheme"_s;
+
+/// Without this test libdbus would try to start a bus of its own, which takes long and leaves a process
+/// behind.
+bool hasSessionBus()
+{
+    return !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")
+        || QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus"_L1);
+}
+
+bool isPaletteDark()
+{
+    const auto palette = QGuiApplication::palette();
+    return palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
+}
+
+} // namespace
+
+SystemAppearance &SystemAppearance::instance()
+{
+    static QPointer<SystemAppearance> only;
+    if (!only)
+        only = new SystemAppearance(QCoreApplication::instance());
+    return *only;
+}
+
+SystemAppearance::SystemAppearance(QObject *parent)
+    : QObject(parent)
+{
+    m_lastAnswer = isDark();
+    QCoreApplication::instance()->installEventFilter(this);
+    if (hasSessionBus())
+        connectToPortal();
+}
+
+bool SystemAppearance::isDark() const
+{
+    if (const auto &style = interfaceStyle())
+        return *style == "Dark"_L1;
+    return m_portal.value_or(isPaletteDark());
+}
+
+QString SystemAppearance::globalPreferencesFile()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+        + "/GlobalPreferences.conf"_L1;
+}
+
+/// Asked for every cell of a table, so the file is read again only when it changed.
+const std::optional<QString> &SystemAppearance::interfaceStyle() const
+{
+    const QFileInfo file(globalPreferencesFile());
+    if (file.lastModified() != m_file.modified || file.size() != m_file.size) {
+        m_file = { file.lastModified(), file.size(), {} };
+        const auto style = QSettings(file.filePath(), QSettings::IniFormat).value("AppleInterfaceStyle"_L1);
+        if (style.isValid())
+            m_file.interfaceStyle = style.toString();
+    }
+    return m_file.interfaceStyle;
+}
+
+void SystemAppearance::connectToPortal()
+{
+    // Opening the connection waits for the bus to greet, and a bus can hang.
+    auto *thread = QThread::create([] { QDBusConnection::sessionBus(); });
+    connect(thread, &QThread::finished, this, &SystemAppearance::askPortal);
+    connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+    thread->start();
+}
+
+void SystemAppearance::askPortal()
+{
+    auto bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        return;
+    qRegisterMetaType<QDBusVariant>(); // the slot's parameters are looked up by name
+    // With a service name this call would wait for the bus to tell who owns it.
+    bus.connect({}, portalPath, portalInterface, u"SettingChanged"_s, this,
+        SLOT(onPortalSettingChanged(QString, QString, QDBusVariant)));
+    auto question = QDBusMessage::createMethodCall(portalService, portalPath, portalInterface, u"Read"_s);
+    question << appearanceNamespace << colourSchemeKey;
+    auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        const QDBusPendingReply<QDBusVariant> reply = *watcher;
+        watcher->deleteLater();
+        if (reply.isValid())
+            setPortalAnswer(reply.value().variant());
+    });
+}
+
+void SystemAppearance::onPortalSettingChanged(
+    const QString &nameSpace, const QString &key, const QDBusVariant &value)
+{
+    if (nameSpace == appearanceNamespace && key == colourSchemeKey)
+        setPortalAnswer(value.variant());
+}
+
+void SystemAppearance::setPortalAnswer(QVariant value)
+{
+    // Read answers with a variant in a variant, the signal with a single one.
+    while (value.metaType() == QMetaType::fromType<QDBusVariant>())
+        value = value.value<QDBusVariant>().variant();
+    switch (value.toUInt()) {
+    case 1:
+        m_portal = true;
+        break;
+    case 2:
+        m_portal = false;
+        break;
+    default:
+        m_portal.reset();
+    }
+    signalIfChanged();
+}
+
+bool SystemAppearance::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        signalIfChanged();
+    return QObject::eventFilter(watched, event);
+}
+
+void SystemAppearance::signalIfChanged()
+{
+    if (isDark() == m_lastAnswer)
+        return;
+    m_lastAnswer = !m_lastAnswer;
+    Q_EMIT changed();
+}
+
+bool isDarkAppearance()
+{
+    return SystemAppearance::instance().isDark();
+}

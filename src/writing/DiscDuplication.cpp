@@ -1,0 +1,62 @@
+// Copying a disc with one drive: an image of the mounted disc, the eject, a blank, the image onto it.
+#include "app/MainWindow.h"
+#include "writing/DiscForms.h"
+
+using namespace Qt::StringLiterals;
+
+void AppDelegate::DuplicateMedia()
+{
+    if (IsDriveEmpty()) {
+        return alert(writing::noDisc,
+                     u"There is no disc on the drive. insert a media on the drive to copy and try again."_s);
+    }
+    OpenPanel panel;
+    panel.choose = OpenPanel::Choose::Folder;
+    panel.message = u"Select a volume to duplicate."_s;
+    const QList<QUrl> chosen = around.questions->choose(panel, window);
+    if (chosen.isEmpty())
+        return;
+    beginJob();
+    RemoveAllContentInFolder(s_Data_Folder);
+    runInBackground(around.hdiutil,
+                    {u"makehybrid"_s, u"-o"_s, duplicationImage(), chosen.first().toLocalFile(), u"-iso"_s, u"-joliet"_s},
+                    &AppDelegate::CreateISOfromDriveTerminated, Output::Ignored);
+    Show_Window_Performing_Operation();
+}
+
+QString AppDelegate::duplicationImage() const
+{
+    return u"%1/image.iso"_s.arg(s_Data_Folder);
+}
+
+void AppDelegate::CreateISOfromDriveTerminated()
+{
+    Close_Window_Performing_Operation();
+    OnToolsEjectDisc();
+    schedule(timerDuplicateMediaCopy, &AppDelegate::TimerDuplicateMediaCopy);
+}
+
+bool AppDelegate::promptForBlank()
+{
+    const QString prompt
+        = u"Insert a writable media and click OK or click Cancel to stop the media duplication."_s;
+    for (;;) {
+        if (around.questions->ask({prompt, prompt, {u"OK"_s, u"Cancel"_s}}, window) != 0)
+            return false;
+        if (IsDriveEmpty())
+            alert(writing::noDisc, writing::noDiscText);
+        else if (IsMediaOneTimeWritable() || IsMediaReWritable())
+            return true;
+        else
+            alert(writing::notWritable, writing::notWritableText);
+    }
+}
+
+void AppDelegate::TimerDuplicateMediaCopy()
+{
+    if (!promptForBlank())
+        return RemoveAllContentInFolder(s_Data_Folder);
+    runInBackground(around.hdiutil, {u"burn"_s, duplicationImage()}, &AppDelegate::MediaDuplicationTerminated,
+                    Output::Observed);
+    Show_Window_Performing_Operation();
+}

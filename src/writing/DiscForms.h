@@ -1,0 +1,57 @@
+// What differs between the kinds of disc that are written: texts, media types, argument vectors.
+#pragma once
+
+#include "app/AppDelegate.h"
+
+/// The checks before a disc is written, in their order, and what each failure says.
+struct AppDelegate::DiscForm {
+    QLatin1StringView nothingListed; ///< message when the list is empty
+    QLatin1StringView nothingListedText;
+    QLatin1StringView mediaType; ///< what the probe must answer
+    QLatin1StringView wrongMedium; ///< message when it answers something else
+    QLatin1StringView wrongMediumText;
+    QLatin1StringView warning; ///< the code of the second alert of debug mode
+};
+
+/// One of the forms of an audio disc.
+struct AppDelegate::AudioForm {
+    DiscForm checks;
+    qint64 burnAudioType; ///< 1 CD-DA, 2 MP3
+    QStringList (*transcoderArguments)(const QString &source, const QString &output);
+    QLatin1StringView extension;
+    QPointer<QTimer> AppDelegate::*timer;
+    TimerRoutine write;
+};
+
+namespace writing {
+
+inline constexpr QLatin1StringView notCD("Media not CD");
+inline constexpr QLatin1StringView notCDText(
+    "The media on the drive is not a CD. insert a writable CD on the drive and try again.");
+inline constexpr QLatin1StringView notDVD("Media not DVD");
+inline constexpr QLatin1StringView notDVDText(
+    "The media on the drive is not a DVD. insert a writable DVD on the drive and try again.");
+inline constexpr QLatin1StringView notBluray("Media not Blu-ray");
+inline constexpr QLatin1StringView notBlurayText(
+    "The media on the drive is not a Blu-ray. insert a writable Blu-ray on the drive and try again.");
+inline constexpr QLatin1StringView noDisc("No disc");
+inline constexpr QLatin1StringView noDiscText(
+    "There is no disc on the drive. insert a writable media on the drive and try again.");
+inline constexpr QLatin1StringView notWritable("Media not writable");
+inline constexpr QLatin1StringView notWritableText(
+    "The media on the drive is not writable. insert a writable media on the drive and try again.");
+
+/// ffmpeg's arguments for one track of an audio CD: 16-bit PCM, 44100 Hz, two channels.
+QStringList wavArguments(const QString &source, const QString &output);
+/// For one file of an MP3 disc: 192 kbit/s, 44100 Hz, two channels, without pictures.
+QStringList mp3Arguments(const QString &source, const QString &output);
+/// For one clip of a video disc: an MPEG-2 program stream, NTSC and Dolby Digital where the format
+/// code is "0", PAL and MPEG audio for anything else.
+QStringList mpegArguments(const QString &source, const QString &output, const QString &videoFormat,
+                          const QString &audioFormat);
+
+/// folder/base.extension, base being the source's name without its extension, shortened where the
+/// new name would pass the 255 bytes that a file system takes.
+QString convertedPath(const QString &folder, const QString &source, QLatin1StringView extension);
+
+} // namespace writing

@@ -1,0 +1,75 @@
+// Making an ISO image of a folder, in stages 0.1 seconds apart so that each panel has closed before
+// the next thing shows; and writing an image to the disc in the drive.
+#include "app/MainWindow.h"
+#include "writing/DiscForms.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+void AppDelegate::OnActionISOCreate()
+{
+    SourcePath = DestPath = DestPathISO = QString();
+    OpenPanel panel;
+    panel.choose = OpenPanel::Choose::Folder;
+    panel.message = u"Select a folder to export to ISO format."_s;
+    const QList<QUrl> chosen = around.questions->choose(panel, window);
+    if (chosen.isEmpty())
+        return;
+    SourcePath = chosen.first().toLocalFile();
+    schedule(timerCreateISOStep1, &AppDelegate::TimerCreateISOStep1Routine);
+}
+
+void AppDelegate::TimerCreateISOStep1Routine()
+{
+    OpenPanel panel;
+    panel.choose = OpenPanel::Choose::Folder;
+    panel.message = u"Select a folder to save the Image.iso file."_s;
+    panel.startFolder = QDir::home().filePath(u"Documents"_s);
+    const QList<QUrl> chosen = around.questions->choose(panel, window);
+    if (chosen.isEmpty())
+        return;
+    DestPath = chosen.first().toLocalFile();
+    DestPathISO = DestPath + u"/image.iso"_s;
+    QFile::remove(DestPathISO);
+    schedule(timerCreateISOStep2, &AppDelegate::TimerCreateISOStep2Routine);
+}
+
+void AppDelegate::TimerCreateISOStep2Routine()
+{
+    beginJob();
+    runInBackground(around.hdiutil, {u"makehybrid"_s, u"-o"_s, DestPathISO, SourcePath, u"-iso"_s, u"-joliet"_s},
+                    &AppDelegate::isoMakingTerminated, Output::Ignored);
+    schedule(timerCreateISOStep3, &AppDelegate::TimerCreateISOStep3Routine);
+}
+
+void AppDelegate::isoMakingTerminated()
+{
+    // A tool that ended before its working sheet was up must not leave that sheet behind.
+    delete timerCreateISOStep3;
+    taskTerminated();
+}
+
+void AppDelegate::TimerCreateISOStep3Routine()
+{
+    Show_Window_Performing_Operation();
+}
+
+void AppDelegate::OnActionISOBurn()
+{
+    OpenPanel panel;
+    panel.extensions = {u"iso"_s, u"img"_s, u"dmg"_s};
+    panel.message = u"Select a ISO image to burn to media."_s;
+    const QList<QUrl> chosen = around.questions->choose(panel, window);
+    if (chosen.isEmpty())
+        return;
+    if (IsDriveEmpty())
+        return alert(writing::noDisc, writing::noDiscText);
+    if (!IsMediaOneTimeWritable() && !IsMediaReWritable())
+        return alert(writing::notWritable, writing::notWritableText);
+    beginJob();
+    runInBackground(around.hdiutil, {u"burn"_s, chosen.first().toLocalFile()}, &AppDelegate::taskTerminated,
+                    Output::Ignored);
+    Show_Window_Performing_Operation();
+}

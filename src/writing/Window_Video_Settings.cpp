@@ -1,0 +1,87 @@
+#include "writing/Window_Video_Settings.h"
+
+#include "app/AppDelegate.h"
+#include "app/Preferences.h"
+#include "ui_Window_Video_Settings.h"
+
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void switchOffIfOn(const QRadioButton *pressed, QRadioButton *other)
+{
+    if (pressed->isChecked())
+        other->setChecked(false);
+}
+
+} // namespace
+
+Window_Video_Settings::Window_Video_Settings(AppDelegate *controller, QWidget *parent)
+    : Sheet(parent, Dismiss::ByPerson), m_controller(controller), m_ui(std::make_unique<Ui::Window_Video_Settings>())
+{
+    m_ui->setupUi(this);
+    connect(this, &Sheet::quitRequested, controller, &AppDelegate::OnMenuQuit);
+    using Handler = void (Window_Video_Settings::*)();
+    const std::pair<QRadioButton *, Handler> radios[] = {
+        {m_ui->radioVideoNTSC, &Window_Video_Settings::OnVideoNTSC},
+        {m_ui->radioVideoPal, &Window_Video_Settings::OnVideoPal},
+        {m_ui->radioAudioDolbyDigital, &Window_Video_Settings::OnAudioDolbyDigital},
+        {m_ui->radioAudioMPEG2, &Window_Video_Settings::OnAudioMPEG2},
+    };
+    for (const auto &[radio, handler] : radios) {
+        connect(radio, &QRadioButton::clicked, radio, [radio] { radio->setChecked(true); });
+        connect(radio, &QRadioButton::clicked, this, handler);
+    }
+    connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &Window_Video_Settings::OnOK);
+    connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &Window_Video_Settings::OnCancel);
+    m_ui->buttonBox->button(QDialogButtonBox::Ok)->setDefault(true);
+    windowDidLoad();
+}
+
+Window_Video_Settings::~Window_Video_Settings() = default;
+
+void Window_Video_Settings::windowDidLoad()
+{
+    const bool ntsc = m_controller->s_Video_Output_Format == u"0";
+    m_ui->radioVideoNTSC->setChecked(ntsc);
+    m_ui->radioVideoPal->setChecked(!ntsc);
+    const bool dolby = m_controller->s_Audio_Output_Format == u"0";
+    m_ui->radioAudioDolbyDigital->setChecked(dolby);
+    m_ui->radioAudioMPEG2->setChecked(!dolby);
+}
+
+void Window_Video_Settings::OnVideoNTSC()
+{
+    switchOffIfOn(m_ui->radioVideoNTSC, m_ui->radioVideoPal);
+}
+
+void Window_Video_Settings::OnVideoPal()
+{
+    switchOffIfOn(m_ui->radioVideoPal, m_ui->radioVideoNTSC);
+}
+
+void Window_Video_Settings::OnAudioDolbyDigital()
+{
+    switchOffIfOn(m_ui->radioAudioDolbyDigital, m_ui->radioAudioMPEG2);
+}
+
+void Window_Video_Settings::OnAudioMPEG2()
+{
+    switchOffIfOn(m_ui->radioAudioMPEG2, m_ui->radioAudioDolbyDigital);
+}
+
+void Window_Video_Settings::OnOK()
+{
+    m_controller->s_Video_Output_Format = m_ui->radioVideoNTSC->isChecked() ? u"0"_s : u"1"_s;
+    m_controller->s_Audio_Output_Format = m_ui->radioAudioDolbyDigital->isChecked() ? u"0"_s : u"1"_s;
+    m_controller->setPreference(preferences::videoFormat, m_controller->s_Video_Output_Format);
+    m_controller->setPreference(preferences::audioFormat, m_controller->s_Audio_Output_Format);
+    m_controller->Close_Window_Video_Settings();
+}
+
+void Window_Video_Settings::OnCancel()
+{
+    m_controller->Close_Window_Video_Settings();
+}

@@ -1,0 +1,189 @@
+// Photographs of every window for the documentation: the real program with real tools, on the X display
+// that scripts/screenshots makes. Usage: corvalis_screenshots light|dark FOLDER-OF-MEDIA OUTPUT-FOLDER
+#include "app/AppDelegate.h"
+#include "app/MainWindow.h"
+#include "runner/StatusSheets.h"
+#include "ui_MainWindow.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyleFactory>
+#include <QTest>
+
+#include <cstdlib>
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Confirms panels with what was laid ready, and shows alerts as they are.
+class Panels : public WindowQuestions {
+public:
+    QList<QUrl> answer;
+    QList<QUrl> choose(const OpenPanel &, QWidget *) override { return std::exchange(answer, {}); }
+};
+
+QPalette darkPalette()
+{
+    QPalette dark(QColor(53, 53, 53), QColor(42, 42, 42));
+    dark.setColor(QPalette::Highlight, QColor(61, 122, 190));
+    return dark;
+}
+
+/// Waits until `reached` answers true; without it there is nothing to photograph.
+void waitFor(const std::function<bool()> &reached, int limit)
+{
+    if (!QTest::qWaitFor(reached, limit))
+        qFatal("The program did not come this far in %d ms.", limit);
+}
+
+class Photographer {
+public:
+    Photographer(const QString &suffix, const QString &media, const QString &output)
+        : m_suffix(suffix), m_media(media), m_output(output), m_around(Surroundings::ofThisMachine(&m_panels)),
+          m_controller(&m_window, m_around)
+    {
+        m_controller.awakeFromNib();
+        m_controller.applicationDidFinishLaunching();
+        m_window.move(0, 0);
+        QTest::qWait(400);
+    }
+
+    void photographAll()
+    {
+        takeAudio();
+        takeJob();
+        takeTabs();
+        takeSheets();
+        takeAlerts();
+    }
+
+private:
+    void shoot(const QString &name)
+    {
+        QTest::qWait(250);
+        QRect area(m_window.mapToGlobal(QPoint(0, 0)), m_window.size());
+        const QPixmap picture = m_window.screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height());
+        picture.save(u"%1/%2-%3.png"_s.arg(m_output, name, m_suffix));
+    }
+
+    QList<QUrl> media(const QStringList &patterns) const
+    {
+        QList<QUrl> urls;
+        for (const QFileInfo &file : QDir(m_media).entryInfoList(patterns, QDir::Files, QDir::Name))
+            urls.append(QUrl::fromLocalFile(file.filePath()));
+        return urls;
+    }
+
+    void takeAudio()
+    {
+        shoot(u"audio-empty"_s);
+        m_panels.answer = media({u"*.mp3"_s, u"*.m4a"_s, u"*.wav"_s, u"*.wma"_s});
+        m_controller.OnActionAudioAddFiles();
+        waitFor([this] { return !m_controller.windowUniqueProgress; }, 30'000);
+        ui()->tableviewAudioFiles->selectRow(2);
+        shoot(u"audio"_s);
+    }
+
+    void takeJob()
+    {
+        QTimer progress;
+        QObject::connect(&progress, &QTimer::timeout, qApp, [this] {
+            if (m_controller.windowProgress && m_controller.windowProgress->progressOverall()->value() == 3
+                && m_controller.windowProgress->progressBar()->value() > 20 && !m_progressTaken) {
+                m_progressTaken = true;
+                shoot(u"progress"_s);
+            }
+        });
+        progress.start(20);
+        ui()->btnBurn->click();
+        waitFor([this] { return !m_controller.windowPerformingOperation.isNull(); }, 60'000);
+        shoot(u"working"_s);
+        waitFor([this] { return !m_controller.windowOperationCompleted.isNull(); }, 60'000);
+        shoot(u"complete"_s);
+        m_controller.Close_Window_Operation_Complete();
+        QTest::qWait(100);
+        m_controller.OnMenuActivityLog();
+        QTest::qWait(300);
+        shoot(u"activity-log"_s);
+        QWidget *log = QApplication::activeWindow();
+        if (log && log != &m_window)
+            log->close();
+    }
+
+    void takeTabs()
+    {
+        ui()->submenuItemTabVideo->trigger();
+        m_panels.answer = media({u"*.mp4"_s, u"*.avi"_s, u"*.mov"_s});
+        m_controller.OnActionVideoAddFiles();
+        waitFor([this] { return !m_controller.windowUniqueProgress; }, 30'000);
+        shoot(u"video"_s);
+        ui()->submenuItemTabData->trigger();
+        m_panels.answer = {QUrl::fromLocalFile(m_media)};
+        m_controller.OnActionDataAddFolder();
+        shoot(u"data"_s);
+        ui()->submenuItemTabISO->trigger();
+        shoot(u"iso"_s);
+        ui()->submenuItemTabTools->trigger();
+        shoot(u"tools"_s);
+        ui()->submenuItemTabAudio->trigger();
+    }
+
+    void takeSheets()
+    {
+        const std::pair<QString, void (AppDelegate::*)()> sheets[] = {
+            {u"new-disc"_s, &AppDelegate::ShowNewDiscWindow},
+            {u"video-settings"_s, &AppDelegate::OnActionVideoSettings},
+        };
+        for (const auto &[name, open] : sheets) {
+            (m_controller.*open)();
+            shoot(name);
+            QTest::keyClick(QApplication::activeWindow(), Qt::Key_Escape);
+            QTest::qWait(100);
+        }
+    }
+
+    void takeAlerts()
+    {
+        const std::pair<QString, void (AppDelegate::*)()> alerts[] = {
+            {u"alert"_s, &AppDelegate::OnBtnBurn},
+            {u"disc-information"_s, &AppDelegate::OnToolsDiscInfo},
+        };
+        for (const auto &[name, open] : alerts) {
+            QTimer::singleShot(500, qApp, [this, picture = name] {
+                shoot(picture);
+                QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+            });
+            (m_controller.*open)();
+        }
+    }
+
+    Ui::MainWindow *ui() const { return m_window.ui(); }
+
+    const QString m_suffix, m_media, m_output;
+    Panels m_panels;
+    MainWindow m_window;
+    Surroundings m_around;
+    AppDelegate m_controller;
+    bool m_progressTaken = false;
+};
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    if (argc != 4)
+        return 2;
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    const QString suffix = QString::fromLocal8Bit(argv[1]);
+    if (suffix == u"dark")
+        QApplication::setPalette(darkPalette());
+    Photographer photographer(suffix, QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]));
+    photographer.photographAll();
+    std::_Exit(0);
+}

@@ -21,11 +21,12 @@ class Watcher:
 
     def __init__(self, display):
         self.connection = socket.socket(socket.AF_UNIX)
+        self.events = []
         self.connection.connect(f"/tmp/.X11-unix/X{display}")
         self.root = self._set_up()
         attributes = struct.pack("<BxHIII", 2, 4, self.root, 0x800, SUBSTRUCTURE_NOTIFY)
         self.connection.sendall(attributes)
-        self._geometry(self.root)  # its answer tells that the wish above is in force
+        self.protocols, self.delete = self._atom(b"WM_PROTOCOLS"), self._atom(b"WM_DELETE_WINDOW")
 
     def _set_up(self):
         self.connection.sendall(struct.pack("<BxHHHHxx", ord("l"), 11, 0, 0, 0))
@@ -45,30 +46,50 @@ class Watcher:
             data += piece
         return data
 
-    def _geometry(self, window):
-        """Width and height, None when the window is gone already. Events that come first are dropped: none is
-        awaited while this is asked."""
-        self.connection.sendall(struct.pack("<BxHI", 14, 2, window))
+    def _ask(self, request):
+        """The answer to a request, None when it is an error. Events that come first wait in self.events."""
+        self.connection.sendall(request)
         while True:
             answer = self._read(32)
-            if answer[0] == 1:
-                return struct.unpack_from("<HH", answer, 16)
-            if answer[0] == 0:
-                return None
+            if answer[0] <= 1:
+                return answer if answer[0] == 1 else None
+            self.events.append((time.perf_counter(), answer))
+
+    def _atom(self, name):
+        padded = name + b"\0" * (-len(name) % 4)
+        return struct.unpack_from("<I", self._ask(struct.pack("<BxHHxx", 16, 2 + len(padded) // 4, len(name)) + padded), 8)[0]
+
+    def _next_event(self, timeout):
+        if self.events:
+            return self.events.pop(0)
+        if not select.select([self.connection], [], [], max(0, timeout))[0]:
+            return None
+        event = self._read(32)
+        return time.perf_counter(), event
+
+    def _close_window(self, window):
+        """Asks a window to close, as its frame's button would (ICCCM 4.2.8.1)."""
+        message = struct.pack("<BBHIIII12x", 33, 32, 0, window, self.protocols, self.delete, 0)
+        self.connection.sendall(struct.pack("<BxHII", 25, 11, window, 0) + message)
 
     def wait_for_window(self, width, height, timeout):
-        """The time.perf_counter() at which a window of at least this size was mapped; None after `timeout` seconds."""
+        """The time.perf_counter() at which a window of at least this size was mapped; None after `timeout` seconds.
+
+        A smaller window, such as a dialog with a message, is asked to close the moment it appears.
+        """
         end = time.perf_counter() + timeout
-        while (left := end - time.perf_counter()) > 0:
-            if not select.select([self.connection], [], [], left)[0]:
-                break
-            event = self._read(32)
-            now = time.perf_counter()
+        while (found := self._next_event(end - time.perf_counter())) is not None:
+            now, event = found
             if event[0] & 0x7F != MAP_NOTIFY or event[12]:  # of a menu or tooltip: override-redirect
                 continue
-            size = self._geometry(struct.unpack_from("<I", event, 8)[0])
-            if size and size[0] >= width and size[1] >= height:
+            window = struct.unpack_from("<I", event, 8)[0]
+            size = self._ask(struct.pack("<BxHI", 14, 2, window))
+            if size is None:
+                continue
+            has_width, has_height = struct.unpack_from("<HH", size, 16)
+            if has_width >= width and has_height >= height:
                 return now
+            self._close_window(window)
         return None
 
     def close(self):
@@ -80,7 +101,7 @@ def virtual_display():
     """A new X server; gives its number, and ends it afterwards."""
     reader, writer = os.pipe()
     server = subprocess.Popen(
-        ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1280x800x24", "-nolisten", "tcp"],
+        ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1280x800x24", "-nolisten", "tcp", "-noreset"],
         pass_fds=[writer], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     os.close(writer)
     try:

@@ -614,7 +614,7 @@ void FolderStagingTest::stopsFromAnotherThread()
     for (int i = 0; i < 200; ++i)
         writeFile(scratch / "source/" + std::to_string(i), content);
     writing::CopyState state;
-    std::thread copying([&] {
+    std::jthread copying([&] {
         writing::copyFolder(
             scratch / "source", scratch / "disc", "/nowhere", state, [](const std::string &) {});
     });

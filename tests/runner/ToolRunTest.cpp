@@ -52,6 +52,7 @@ private Q_SLOTS:
     void couldNotStart();
     void endsWhatGivesNoAnswer_data();
     void endsWhatGivesNoAnswer();
+    void hearsTheLastWords();
     void passesArgumentsAsTheyAre();
     void capturesBothChannelsInOrder();
     void keepsChannelsApart();
@@ -243,6 +244,16 @@ void ToolRunTest::endsWhatGivesNoAnswer()
     QVERIFY(isGone(process));
     QVERIFY(log.at(0).troubled);
     QCOMPARE(log.at(0).outcome, run.end().text());
+}
+
+void ToolRunTest::hearsTheLastWords()
+{
+    ActivityLog log;
+    ToolRun run(u"/bin/sh"_s,
+        { u"-c"_s, u"trap 'echo cleaned up; exit 0' TERM; echo one; while :; do sleep 0.05; done"_s }, &log);
+    QCOMPARE(run.capture(1500), QByteArray("one\ncleaned up\n"));
+    QCOMPARE(run.end().how, How::EndedByUs);
+    QCOMPARE(run.output(), QByteArray("one\ncleaned up\n"));
 }
 
 void ToolRunTest::passesArgumentsAsTheyAre()

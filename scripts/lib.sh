@@ -23,5 +23,5 @@ sanitizer_options() {
     export ASAN_OPTIONS="abort_on_error=1:detect_stack_use_after_return=1:strict_string_checks=1:check_initialization_order=1${ASAN_OPTIONS:+:$ASAN_OPTIONS}"
     export UBSAN_OPTIONS="halt_on_error=1:abort_on_error=1:print_stacktrace=1:suppressions=$lists/ubsan.supp${UBSAN_OPTIONS:+:$UBSAN_OPTIONS}"
     export LSAN_OPTIONS="suppressions=$lists/lsan.supp:print_suppressions=0${LSAN_OPTIONS:+:$LSAN_OPTIONS}"
-    export TSAN_OPTIONS="halt_on_error=1:second_deadlock_stack=1:suppressions=$lists/tsan.supp${TSAN_OPTIONS:+:$TSAN_OPTIONS}"
+    export TSAN_OPTIONS="halt_on_error=1:die_after_fork=0:second_deadlock_stack=1:suppressions=$lists/tsan.supp${TSAN_OPTIONS:+:$TSAN_OPTIONS}"
 }

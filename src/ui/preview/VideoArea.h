@@ -1,0 +1,29 @@
+// The black area in which a film is drawn.
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+
+#include <functional>
+
+/// Black, with the picture in it once it may be shown. The picture keeps its proportions.
+class VideoArea : public QWidget {
+    Q_OBJECT
+public:
+    explicit VideoArea(QWidget *parent = nullptr);
+
+    /// What draws the present picture over a whole image of Format_RGB32. An empty one hides the picture.
+    void setPainter(std::function<bool(QImage &)> painter);
+    /// The picture has changed.
+    void redraw();
+
+    QSize sizeHint() const override { return { 640, 360 }; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    std::function<bool(QImage &)> m_painter;
+    QImage m_picture;
+};

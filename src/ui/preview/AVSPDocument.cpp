@@ -91,6 +91,8 @@ void AVSPDocument::windowDidLoad()
     connect(player, &MediaPlayer::unplayable, this, &AVSPDocument::assetIsUnplayable);
     connect(player, &MediaPlayer::durationChanged, this, &AVSPDocument::observeDuration);
     connect(player, &MediaPlayer::volumeChanged, this, &AVSPDocument::volumeChanged);
+    m_ui->playerView->setPainter([this](QImage &image) { return player->draw(image); });
+    connect(player, &MediaPlayer::frameReady, m_ui->playerView, &VideoArea::redraw);
     player->open(localPath(s_File_URL));
 }
 
@@ -112,7 +114,7 @@ void AVSPDocument::setUpPlaybackOfAsset(bool hasVideo)
 void AVSPDocument::showNoVideo()
 {
     stopLoadingAnimationAndHandleError();
-    m_ui->playerView->setPainter({});
+    m_ui->playerView->showPicture(false);
     m_ui->noVideoLabel->show();
 }
 
@@ -152,11 +154,9 @@ void AVSPDocument::observeStatus()
 
 void AVSPDocument::readyForDisplay()
 {
-    if (m_ui->loadingSpinner->isSpinning()) {
-        stopLoadingAnimationAndHandleError();
-        m_ui->playerView->setPainter([this](QImage &image) { return player->draw(image); });
-    }
-    m_ui->playerView->redraw();
+    disconnect(player, &MediaPlayer::frameReady, this, nullptr);
+    stopLoadingAnimationAndHandleError();
+    m_ui->playerView->showPicture(true);
 }
 
 void AVSPDocument::observeRate(double rate)
@@ -268,7 +268,8 @@ void AVSPDocument::windowWillClose()
         return;
     delete std::exchange(timeObserverToken, nullptr);
     m_ui->playerView->setPainter({});
-    disconnect(player, nullptr, this, nullptr);
+    m_ui->playerView->showPicture(false);
+    player->disconnect();
     delete std::exchange(player, nullptr);
     enableControls(false);
 }

@@ -11,8 +11,12 @@ VideoArea::VideoArea(QWidget *parent)
 void VideoArea::setPainter(std::function<bool(QImage &)> painter)
 {
     m_painter = std::move(painter);
-    m_picture = {};
-    redraw();
+}
+
+void VideoArea::showPicture(bool shown)
+{
+    m_isShown = shown;
+    update();
 }
 
 void VideoArea::redraw()
@@ -25,14 +29,15 @@ void VideoArea::redraw()
             m_picture = {};
         m_picture.setDevicePixelRatio(devicePixelRatioF());
     }
-    update();
+    if (m_isShown)
+        update();
 }
 
 void VideoArea::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::black);
-    if (!m_picture.isNull())
+    if (m_isShown && !m_picture.isNull())
         painter.drawImage(QPoint(0, 0), m_picture);
 }
 

@@ -6,16 +6,18 @@
 
 #include <functional>
 
-/// Black, with the picture in it once it may be shown. The picture keeps its proportions.
+/// Black, with the picture in it once it may be seen. The picture keeps its proportions.
 class VideoArea : public QWidget {
     Q_OBJECT
 public:
     explicit VideoArea(QWidget *parent = nullptr);
 
-    /// What draws the present picture over a whole image of Format_RGB32. An empty one hides the picture.
+    /// What draws the present picture over a whole image of Format_RGB32; none at first.
     void setPainter(std::function<bool(QImage &)> painter);
-    /// The picture has changed.
+    /// The picture has changed. It is drawn also while it is not shown, because the library waits for that.
     void redraw();
+    /// Not at first.
+    void showPicture(bool shown);
 
     QSize sizeHint() const override { return { 640, 360 }; }
 
@@ -26,4 +28,5 @@ protected:
 private:
     std::function<bool(QImage &)> m_painter;
     QImage m_picture;
+    bool m_isShown = false;
 };

@@ -266,7 +266,8 @@ void AppDelegate::playSelected(const ListTableView *table)
     const int row = table->lastSelectedRow();
     if (row < 0)
         return alert(u"There is no file selected."_s, u"There is no file selected."_s);
-    playPreview(arrayMediaFiles.at(row).s_File_URL, window);
+    if (const QString whyNot = playPreview(arrayMediaFiles.at(row).s_File_URL, window); !whyNot.isEmpty())
+        alert(tr("The file cannot be played."), whyNot);
 }
 
 void AppDelegate::OnActionAudioPlay()

@@ -1,0 +1,181 @@
+// What a person does with the window: presses, types, chooses from menus and answers dialogs.
+#pragma once
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QListView>
+#include <QPointer>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTimer>
+#include <QtTest>
+
+#include <functional>
+#include <memory>
+
+namespace person {
+
+/// Presses a button in its middle. A button that nobody could press is left alone, and the test told.
+inline void click(QAbstractButton *button)
+{
+    if (!button || !button->isVisible() || !button->isEnabled()) {
+        qWarning() << "nobody can press" << button;
+        return;
+    }
+    QTest::mouseClick(button, Qt::LeftButton, {}, button->rect().center());
+}
+
+/// Presses the button with this name.
+inline void click(const QWidget *window, const char *name)
+{
+    click(window->findChild<QAbstractButton *>(QLatin1String(name)));
+}
+
+/// Chooses the menu item with this name.
+inline void choose(const QWidget *window, const char *item)
+{
+    auto *action = window->findChild<QAction *>(QLatin1String(item));
+    if (!action || !action->isVisible() || !action->isEnabled()) {
+        qWarning() << "nobody can choose" << item;
+        return;
+    }
+    action->trigger();
+}
+
+inline void clickTab(QTabWidget *tabs, int index)
+{
+    QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(index).center());
+}
+
+inline void clickHeading(const QTableView *table, int column)
+{
+    const QHeaderView *header = table->horizontalHeader();
+    const int middle = header->sectionViewportPosition(column) + header->sectionSize(column) / 2;
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, { middle, header->height() / 2 });
+}
+
+inline void clickRow(QAbstractItemView *view, const QModelIndex &index, Qt::KeyboardModifiers with = {})
+{
+    view->scrollTo(index);
+    const QRect place = view->visualRect(index);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, with, { place.left() + 8, place.center().y() });
+}
+
+/// Presses keys in whatever has the keyboard.
+inline void press(QWidget *window, const QKeySequence &keys)
+{
+    QWidget *focus = QApplication::focusWidget();
+    QTest::keySequence(focus ? focus : window, keys);
+}
+
+/// A dialog that is expected, and what is done with it. It is waited for from now on; `happened()` tells
+/// whether it came. A dialog of another kind is refused after a while, so that the test goes on and fails.
+template <class Dialog>
+class Expect {
+public:
+    explicit Expect(std::function<void(Dialog *)> act) : m_act(std::move(act))
+    {
+        m_timer.setInterval(20);
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { look(); });
+        m_timer.start();
+    }
+    Expect(const Expect &) = delete;
+    Expect &operator=(const Expect &) = delete;
+
+    bool happened() const { return m_happened; }
+
+private:
+    void look()
+    {
+        QWidget *modal = QApplication::activeModalWidget();
+        if (!modal || !modal->isVisible())
+            return;
+        if (auto *dialog = dynamic_cast<Dialog *>(modal)) {
+            m_timer.stop();
+            m_happened = true;
+            m_act(dialog);
+        } else if (++m_wrong > 250) {
+            qWarning() << "another dialog than expected is up:" << modal;
+            modal->close();
+        }
+    }
+
+    std::function<void(Dialog *)> m_act;
+    QTimer m_timer;
+    int m_wrong = 0;
+    bool m_happened = false;
+};
+
+/// Presses the button with this title in a dialog.
+inline void pressTitled(const QWidget *dialog, const QString &title)
+{
+    for (QAbstractButton *button : dialog->findChildren<QAbstractButton *>()) {
+        if (button->isVisible() && button->text().remove(QLatin1Char('&')) == title)
+            return click(button);
+    }
+    qWarning() << "there is no button" << title;
+}
+
+/// Goes to `folder` in a file dialog by typing its path, then marks the files with these names in the list, in
+/// this order, and presses Open.
+inline void openFiles(QFileDialog *dialog, const QString &folder, const QStringList &names)
+{
+    auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    auto *list = dialog->findChild<QListView *>(QStringLiteral("listView"));
+    name->setFocus();
+    name->selectAll();
+    QTest::keyClicks(name, folder);
+    QTest::keyClick(name, Qt::Key_Return);
+    const auto row = [list](const QString &file) {
+        const QAbstractItemModel *model = list->model();
+        const QModelIndex root = list->rootIndex();
+        for (int i = 0; i < model->rowCount(root); ++i) {
+            const QModelIndex index = model->index(i, 0, root);
+            if (index.data().toString() == file)
+                return index;
+        }
+        return QModelIndex();
+    };
+    Qt::KeyboardModifiers with;
+    for (const QString &file : names) {
+        if (!QTest::qWaitFor([&] { return row(file).isValid(); }, 10'000))
+            qWarning() << "the file dialog does not show" << file;
+        clickRow(list, row(file), with);
+        with = Qt::ControlModifier;
+    }
+    pressTitled(dialog, QStringLiteral("Open"));
+}
+
+/// The names that a file dialog shows of a folder, once `expected` of them are there.
+inline QStringList shownFiles(QFileDialog *dialog, const QString &folder, const QString &expected)
+{
+    dialog->setDirectory(folder);
+    const auto *list = dialog->findChild<QListView *>(QStringLiteral("listView"));
+    const auto names = [list] {
+        QStringList shown;
+        for (int i = 0; i < list->model()->rowCount(list->rootIndex()); ++i)
+            shown.append(list->model()->index(i, 0, list->rootIndex()).data().toString());
+        return shown;
+    };
+    if (!QTest::qWaitFor([&] { return names().contains(expected); }, 10'000))
+        qWarning() << "the file dialog does not show" << expected;
+    return names();
+}
+
+/// Types a folder's path into a dialog that asks for a folder, and confirms.
+inline void openFolder(QFileDialog *dialog, const QString &folder)
+{
+    auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    name->setFocus();
+    name->selectAll();
+    QTest::keyClicks(name, folder);
+    pressTitled(dialog, QStringLiteral("Choose"));
+}
+
+} // namespace person

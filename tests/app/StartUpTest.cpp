@@ -334,9 +334,12 @@ void StartUpTest::smallestSize()
     for (int tab = 0; tab < 5; ++tab) {
         app.element<QTabWidget>("tabviewMain")->setCurrentIndex(tab);
         QCoreApplication::processEvents();
-        const QSize needed = app.window->minimumSizeHint();
-        QVERIFY2(needed.width() <= 700 && needed.height() <= 400,
-            qPrintable(u"tab %1 needs %2 x %3"_s.arg(tab).arg(needed.width()).arg(needed.height())));
+        for (const BarButton *button : app.window->findChildren<BarButton *>()) {
+            const QSize least = button->minimumSizeHint();
+            if (button->isVisible())
+                QVERIFY2(button->width() >= least.width() && button->height() >= least.height(),
+                    qPrintable(button->objectName()));
+        }
     }
     QCOMPARE(AppDelegate::windowWillResize_toSize({ 699, 401 }), QSize(700, 401));
     QCOMPARE(AppDelegate::windowWillResize_toSize({ 5000, 0 }), QSize(5000, 400));
@@ -357,7 +360,7 @@ void StartUpTest::quitEnds()
     QTRY_VERIFY(app.window->isActiveWindow());
     person::choose(app.window.get(), "menuitemQuit");
     QCOMPARE(app.exits, QList<int>(1, 0));
-    person::press(app.window.get(), QKeySequence(u"Ctrl+Q"_s));
+    person::press(QKeySequence(u"Ctrl+Q"_s));
     QTRY_COMPARE(app.exits, QList<int>(2, 0));
 }
 

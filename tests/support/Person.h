@@ -21,6 +21,14 @@
 
 namespace person {
 
+/// Presses the mouse over a widget. The press goes to the window, so that what covers or blocks the widget
+/// gets or hinders it as it would a person.
+inline void clickAt(const QWidget *widget, const QPoint &place, Qt::KeyboardModifiers with = {})
+{
+    const QWidget *window = widget->window();
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, with, widget->mapTo(window, place));
+}
+
 /// Presses a button in its middle. A button that nobody could press is left alone, and the test told.
 inline void click(QAbstractButton *button)
 {
@@ -28,7 +36,7 @@ inline void click(QAbstractButton *button)
         qWarning() << "nobody can press" << button;
         return;
     }
-    QTest::mouseClick(button, Qt::LeftButton, {}, button->rect().center());
+    clickAt(button, button->rect().center());
 }
 
 /// Presses the button with this name.
@@ -50,28 +58,28 @@ inline void choose(const QWidget *window, const char *item)
 
 inline void clickTab(QTabWidget *tabs, int index)
 {
-    QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(index).center());
+    clickAt(tabs->tabBar(), tabs->tabBar()->tabRect(index).center());
 }
 
 inline void clickHeading(const QTableView *table, int column)
 {
     const QHeaderView *header = table->horizontalHeader();
     const int middle = header->sectionViewportPosition(column) + header->sectionSize(column) / 2;
-    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, { middle, header->height() / 2 });
+    clickAt(header->viewport(), { middle, header->height() / 2 });
 }
 
 inline void clickRow(QAbstractItemView *view, const QModelIndex &index, Qt::KeyboardModifiers with = {})
 {
     view->scrollTo(index);
     const QRect place = view->visualRect(index);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, with, { place.left() + 8, place.center().y() });
+    clickAt(view->viewport(), { place.left() + 8, place.center().y() }, with);
 }
 
-/// Presses keys in whatever has the keyboard.
-inline void press(QWidget *window, const QKeySequence &keys)
+/// Types on the keyboard, into whatever window has it.
+inline void press(const QKeySequence &keys)
 {
-    QWidget *focus = QApplication::focusWidget();
-    QTest::keySequence(focus ? focus : window, keys);
+    if (QTest::qWaitFor([] { return QGuiApplication::focusWindow() != nullptr; }))
+        QTest::keySequence(QGuiApplication::focusWindow(), keys);
 }
 
 /// A dialog that is expected, and what is done with it. It is waited for from now on; `happened()` tells

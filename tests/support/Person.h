@@ -7,13 +7,16 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QDropEvent>
 #include <QLineEdit>
-#include <QListView>
+#include <QMimeData>
 #include <QPointer>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTimer>
+#include <QTreeView>
+#include <QWindow>
 #include <QtTest>
 
 #include <functional>
@@ -75,9 +78,34 @@ inline void clickRow(QAbstractItemView *view, const QModelIndex &index, Qt::Keyb
     clickAt(view->viewport(), { place.left() + 8, place.center().y() }, with);
 }
 
-/// Types on the keyboard, into whatever window has it.
+/// Drags files from a file manager and lets them go over the middle of a widget.
+inline void drop(const QWidget *widget, const QList<QUrl> &urls)
+{
+    auto *data = new QMimeData;
+    data->setUrls(urls);
+    const QWidget *window = widget->window();
+    const QPoint place = widget->mapTo(window, widget->rect().center());
+    const auto action = Qt::CopyAction;
+    QWindow *target = window->windowHandle();
+    const std::unique_ptr<QMimeData> owner(data);
+    QDragEnterEvent enter(place, action, data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(target, &enter);
+    QDragMoveEvent move(place, action, data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(target, &move);
+    if (!move.isAccepted())
+        return;
+    QDropEvent drop(place, action, data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(target, &drop);
+}
+
+/// Types on the keyboard, into whatever window has it. Where no window manager hands the keyboard back after a
+/// dialog, the window below is taken.
 inline void press(const QKeySequence &keys)
 {
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (!QGuiApplication::focusWindow() && window->isVisible() && !window->parent())
+            window->activateWindow();
+    }
     if (QTest::qWaitFor([] { return QGuiApplication::focusWindow() != nullptr; }))
         QTest::keySequence(QGuiApplication::focusWindow(), keys);
 }
@@ -107,7 +135,12 @@ private:
         if (auto *dialog = dynamic_cast<Dialog *>(modal)) {
             m_timer.stop();
             m_happened = true;
+            const QPointer<QWidget> up(modal);
             m_act(dialog);
+            if (up && QApplication::activeModalWidget() == up) {
+                qWarning() << "the dialog was not answered:" << modal;
+                modal->close();
+            }
         } else if (++m_wrong > 250) {
             qWarning() << "another dialog than expected is up:" << modal;
             modal->close();
@@ -130,16 +163,14 @@ inline void pressTitled(const QWidget *dialog, const QString &title)
     qWarning() << "there is no button" << title;
 }
 
-/// Goes to `folder` in a file dialog by typing its path, then marks the files with these names in the list, in
+/// Goes to `folder` in a file dialog by pasting its path, then marks the files with these names in the list, in
 /// this order, and presses Open.
 inline void openFiles(QFileDialog *dialog, const QString &folder, const QStringList &names)
 {
     auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-    auto *list = dialog->findChild<QListView *>(QStringLiteral("listView"));
-    name->setFocus();
-    name->selectAll();
-    QTest::keyClicks(name, folder);
-    QTest::keyClick(name, Qt::Key_Return);
+    auto *list = dialog->findChild<QTreeView *>(QStringLiteral("treeView"));
+    name->setText(folder);
+    pressTitled(dialog, QStringLiteral("Open"));
     const auto row = [list](const QString &file) {
         const QAbstractItemModel *model = list->model();
         const QModelIndex root = list->rootIndex();
@@ -152,9 +183,16 @@ inline void openFiles(QFileDialog *dialog, const QString &folder, const QStringL
     };
     Qt::KeyboardModifiers with;
     for (const QString &file : names) {
-        if (!QTest::qWaitFor([&] { return row(file).isValid(); }, 10'000))
-            qWarning() << "the file dialog does not show" << file;
-        clickRow(list, row(file), with);
+        // The list is filled from another thread and may still move under the pointer.
+        const bool marked = QTest::qWaitFor(
+            [&] {
+                if (row(file).isValid() && !list->selectionModel()->isSelected(row(file)))
+                    clickRow(list, row(file), with);
+                return row(file).isValid() && list->selectionModel()->isSelected(row(file));
+            },
+            10'000);
+        if (!marked)
+            qWarning() << "the file dialog does not let mark" << file;
         with = Qt::ControlModifier;
     }
     pressTitled(dialog, QStringLiteral("Open"));
@@ -164,7 +202,7 @@ inline void openFiles(QFileDialog *dialog, const QString &folder, const QStringL
 inline QStringList shownFiles(QFileDialog *dialog, const QString &folder, const QString &expected)
 {
     dialog->setDirectory(folder);
-    const auto *list = dialog->findChild<QListView *>(QStringLiteral("listView"));
+    const auto *list = dialog->findChild<QTreeView *>(QStringLiteral("treeView"));
     const auto names = [list] {
         QStringList shown;
         for (int i = 0; i < list->model()->rowCount(list->rootIndex()); ++i)
@@ -176,13 +214,11 @@ inline QStringList shownFiles(QFileDialog *dialog, const QString &folder, const 
     return names();
 }
 
-/// Types a folder's path into a dialog that asks for a folder, and confirms.
+/// Pastes a folder's path into a dialog that asks for a folder, and confirms.
 inline void openFolder(QFileDialog *dialog, const QString &folder)
 {
     auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-    name->setFocus();
-    name->selectAll();
-    QTest::keyClicks(name, folder);
+    name->setText(folder);
     pressTitled(dialog, QStringLiteral("Choose"));
 }
 

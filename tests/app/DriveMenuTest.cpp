@@ -143,7 +143,7 @@ void DriveMenuTest::menu()
     QCOMPARE(m_app->drutil.runs(), QList<QStringList>({ { u"list"_s } }));
     QCOMPARE(controller.array_Optical_Media_Drives.size(), drives);
     QCOMPARE(controller.s_Current_Drive_Number, u"1"_s);
-    QList<int> visible { 1 };
+    QList<int> visible{ 1 };
     for (int number = 2; number <= qMin(drives, 6); ++number)
         visible.append(number);
     QCOMPARE(slotsVisible(), visible);
@@ -166,10 +166,10 @@ void DriveMenuTest::remembering_data()
     const QString first = u"VENDOR1 - MODEL 1"_s;
     const QString second = u"VENDOR2 - MODEL 2"_s;
     const QString seventh = u"VENDOR7 - MODEL 7"_s;
-    QTest::newRow("nothing") << 2 << QString() << u"1"_s << QList<int> { 1 } << first;
-    QTest::newRow("second of two") << 2 << second << u"2"_s << QList<int> { 2 } << second;
-    QTest::newRow("absent") << 2 << u"OTHER - DRIVE"_s << u"1"_s << QList<int> { 1 } << first;
-    QTest::newRow("other case") << 2 << second.toLower() << u"1"_s << QList<int> { 1 } << first;
+    QTest::newRow("nothing") << 2 << QString() << u"1"_s << QList<int>{ 1 } << first;
+    QTest::newRow("second of two") << 2 << second << u"2"_s << QList<int>{ 2 } << second;
+    QTest::newRow("absent") << 2 << u"OTHER - DRIVE"_s << u"1"_s << QList<int>{ 1 } << first;
+    QTest::newRow("other case") << 2 << second.toLower() << u"1"_s << QList<int>{ 1 } << first;
     QTest::newRow("seventh") << 7 << seventh << u"7"_s << QList<int>() << seventh;
     QTest::newRow("no drive") << 0 << second << u"1"_s << QList<int>() << second;
 }
@@ -221,8 +221,8 @@ void DriveMenuTest::choosingIsRememberedOnDisk()
 {
     launchWith(listing(3));
     person::choose(m_app->window.get(), "submenuItemDriveSlot2");
-    const QString file
-        = QStandardPaths::writableLocation(QStandardPaths::ConfigLocation) + u"/Corvalis/Corvalis.conf"_s;
+    const QString file =
+        QStandardPaths::writableLocation(QStandardPaths::ConfigLocation) + u"/Corvalis/Corvalis.conf"_s;
     QVERIFY(contentOf(file).contains("Quendral_Last_Selected_Drive_18=VENDOR2 - MODEL 2\n"));
     TestApplication next;
     next.drutil.print(u"list"_s, listing(3));
@@ -247,11 +247,11 @@ void DriveMenuTest::titleWithAmpersand()
 
 void DriveMenuTest::shortNumberColumn()
 {
-    const AppDelegate &controller
-        = launchWith(QByteArray(header) + "12 VENDOR   MODEL             1.0\n2  A\n");
+    const AppDelegate &controller =
+        launchWith(QByteArray(header) + "12 VENDOR   MODEL             1.0\n2  A\n");
     QCOMPARE(controller.array_Optical_Media_Drives.at(0).s_Drive_Number, u"1"_s);
-    QCOMPARE(controller.array_Optical_Media_Drives.at(1),
-        Object_Optical_Drive({ u"2"_s, u"A"_s, QString() }));
+    QCOMPARE(
+        controller.array_Optical_Media_Drives.at(1), Object_Optical_Drive({ u"2"_s, u"A"_s, QString() }));
     QCOMPARE(slot(2)->text(), u"A - "_s);
 }
 
@@ -267,7 +267,7 @@ void DriveMenuTest::virtualRecorderItems()
 {
     launchWith(header + driveLine("1", "CORVALIS", "Virtual Recorder") + driveLine("2", "ACME", "BURNER"));
     const auto offered = [this] {
-        return QList<bool> { m_app->element<QMenu>("submenuInsertBlank")->menuAction()->isVisible(),
+        return QList<bool>{ m_app->element<QMenu>("submenuInsertBlank")->menuAction()->isVisible(),
             m_app->element<QAction>("menuitemRemoveDisc")->isVisible(),
             m_app->element<QAction>("menuitemShowWrittenDiscs")->isVisible() };
     };
@@ -299,8 +299,8 @@ void DriveMenuTest::insertingBlanks()
     QFETCH(QString, kind);
     launchWith(TestApplication::oneDrive);
     person::choose(m_app->window.get(), item.constData());
-    QCOMPARE(m_app->drutil.runs(u"insert"_s),
-        QList<QStringList>({ { u"insert"_s, kind, u"-drive"_s, u"1"_s } }));
+    QCOMPARE(
+        m_app->drutil.runs(u"insert"_s), QList<QStringList>({ { u"insert"_s, kind, u"-drive"_s, u"1"_s } }));
     QVERIFY(m_app->questions.alerts.isEmpty());
 }
 
@@ -329,8 +329,7 @@ void DriveMenuTest::showWrittenDiscs()
     launchWith(TestApplication::oneDrive);
     m_app->drutil.print(u"folder"_s, "/discs/written here\n");
     person::choose(m_app->window.get(), "menuitemShowWrittenDiscs");
-    QCOMPARE(m_app->drutil.runs(u"folder"_s),
-        QList<QStringList>({ { u"folder"_s, u"-drive"_s, u"1"_s } }));
+    QCOMPARE(m_app->drutil.runs(u"folder"_s), QList<QStringList>({ { u"folder"_s, u"-drive"_s, u"1"_s } }));
     QCOMPARE(manager.folders, QStringList(u"/discs/written here"_s));
 }
 
@@ -342,7 +341,8 @@ void DriveMenuTest::probes_data()
     QTest::addColumn<bool>("erasable");
     QTest::addColumn<QString>("type");
     QTest::newRow("nothing printed") << QByteArray() << false << false << false << u"Other"_s;
-    QTest::newRow("no disc") << QByteArray("  Type: No Media Inserted\n") << true << false << false << u"Other"_s;
+    QTest::newRow("no disc") << QByteArray("  Type: No Media Inserted\n") << true << false << false
+                             << u"Other"_s;
     QTest::newRow("empty and writable")
         << QByteArray("No Media Inserted\noverwritable\n") << true << true << false << u"Other"_s;
     QTest::newRow("CD-R in a drive called DVD")
@@ -354,7 +354,8 @@ void DriveMenuTest::probes_data()
     QTest::newRow("other case") << QByteArray("no media inserted cd OVERWRITABLE Erasable") << false << false
                                 << false << u"Other"_s;
     QTest::newRow("error") << QByteArray("there is no drive 1\n") << false << false << false << u"Other"_s;
-    QTest::newRow("not UTF-8") << QByteArray("\xff\xfe CD \x80 overwritable") << false << true << false << u"CD"_s;
+    QTest::newRow("not UTF-8") << QByteArray("\xff\xfe CD \x80 overwritable") << false << true << false
+                               << u"CD"_s;
 }
 
 void DriveMenuTest::probes()
@@ -369,8 +370,7 @@ void DriveMenuTest::probes()
     QTEST(controller.IsMediaReWritable(), "erasable");
     QTEST(controller.TypeOfMediaInTheDrive(), "type");
     // Each asks anew.
-    QCOMPARE(m_app->drutil.runs(u"status"_s),
-        QList<QStringList>(4, { u"status"_s, u"-drive"_s, u"1"_s }));
+    QCOMPARE(m_app->drutil.runs(u"status"_s), QList<QStringList>(4, { u"status"_s, u"-drive"_s, u"1"_s }));
     QVERIFY(m_app->questions.alerts.isEmpty());
 }
 
@@ -402,8 +402,7 @@ void DriveMenuTest::probesUseTheChosenDrive()
     AppDelegate &controller = launchWith(listing(3));
     person::choose(m_app->window.get(), "submenuItemDriveSlot3");
     controller.IsDriveEmpty();
-    QCOMPARE(m_app->drutil.runs(u"status"_s),
-        QList<QStringList>({ { u"status"_s, u"-drive"_s, u"3"_s } }));
+    QCOMPARE(m_app->drutil.runs(u"status"_s), QList<QStringList>({ { u"status"_s, u"-drive"_s, u"3"_s } }));
 }
 
 void DriveMenuTest::hangingUtility()

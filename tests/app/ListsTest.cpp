@@ -107,7 +107,8 @@ private:
     void showTab(int tab) const { person::clickTab(m_app->element<QTabWidget>("tabviewMain"), tab); }
     static QStringList column(const QTableView *view, int column);
     QString media(const QString &below = {}) const { return m_media->filePath(below); }
-    /// Adds files of the media folder through the file dialog of the shown tab, and waits until they are listed.
+    /// Adds files of the media folder through the file dialog of the shown tab, and waits until they are
+    /// listed.
     void addFiles(const char *button, const QStringList &names);
     void addNumbered(int count);
     bool awaitAdded() const
@@ -129,7 +130,7 @@ void ListsTest::init()
     for (QTableView *view : m_app->window->findChildren<QTableView *>())
         new QAbstractItemModelTester(
             view->model(), QAbstractItemModelTester::FailureReportingMode::QtTest, view);
-    QVERIFY(QTest::qWaitForWindowActive(m_app->window.get()));
+    QVERIFY(person::awaitKeyboard(m_app->window.get()));
 }
 
 void ListsTest::cleanup()
@@ -175,10 +176,10 @@ void ListsTest::fileDialog_data()
     QTest::addColumn<QStringList>("names");
     QTest::newRow("audio") << 0 << QByteArray("toolbar_btn_Audio_Add_Files")
                            << QByteArray("tableviewAudioFiles")
-                           << QStringList { u"a.mp3"_s, u"b.m4a"_s, u"c.wav"_s };
+                           << QStringList{ u"a.mp3"_s, u"b.m4a"_s, u"c.wav"_s };
     QTest::newRow("video") << 1 << QByteArray("toolbar_btn_Video_Add_Files")
                            << QByteArray("tableviewVideoFiles")
-                           << QStringList { u"a.mpeg-4"_s, u"b.mkv.avi"_s, u"c.mp4"_s };
+                           << QStringList{ u"a.mpeg-4"_s, u"b.mkv.avi"_s, u"c.mp4"_s };
 }
 
 void ListsTest::fileDialog()
@@ -243,9 +244,8 @@ void ListsTest::panelCancelled()
 void ListsTest::recordsOfAddedFiles()
 {
     makeFile(media(u"Songs/One.Two.M4A"_s), QByteArray(1025, 'x'));
-    person::Expect<QFileDialog> dialog([&](QFileDialog *panel) {
-        person::openFiles(panel, media(u"Songs"_s), { u"One.Two.M4A"_s });
-    });
+    person::Expect<QFileDialog> dialog(
+        [&](QFileDialog *panel) { person::openFiles(panel, media(u"Songs"_s), { u"One.Two.M4A"_s }); });
     person::press(QKeySequence(u"Ctrl+O"_s));
     QTRY_VERIFY(dialog.happened());
     QTRY_COMPARE(m_app->controller->arrayMediaFiles.size(), 1);
@@ -268,9 +268,9 @@ void ListsTest::recordsOfAddedFiles()
 
 void ListsTest::oddNames()
 {
-    const QStringList names { u"-i.mp3"_s, u"a 'b' \"c\" $(d) `e`;.mp3"_s, u"line\nbreak.mp3"_s,
-        u"<b>bold<b>.mp3"_s, u"100%1 %s.mp3"_s, u"Ünïcødé 漢字 שלום 🎵.mp3"_s,
-        QString(251, u'x') + u".mp3"_s, u"back\\slash.mp3"_s, u" blanks .mp3"_s };
+    const QStringList names{ u"-i.mp3"_s, u"a 'b' \"c\" $(d) `e`;.mp3"_s, u"line\nbreak.mp3"_s,
+        u"<b>bold<b>.mp3"_s, u"100%1 %s.mp3"_s, u"Ünïcødé 漢字 שלום 🎵.mp3"_s, QString(251, u'x') + u".mp3"_s,
+        u"back\\slash.mp3"_s, u" blanks .mp3"_s };
     for (const QString &name : names)
         makeFile(media(name));
     person::Expect<QFileDialog> dialog(
@@ -312,7 +312,7 @@ void ListsTest::stepsAndRowsAtTheEnd()
     QCOMPARE(sheet->progressBar()->maximum(), 3);
     QCOMPARE(sheet->progressBar()->value(), 0);
     // In the order in which they were marked.
-    const QStringList order { u"2.mp3"_s, u"0.mp3"_s, u"1.mp3"_s };
+    const QStringList order{ u"2.mp3"_s, u"0.mp3"_s, u"1.mp3"_s };
     for (int done = 1; done <= 2; ++done) {
         makeFile(media(order.at(done - 1) + u".go"_s));
         QTRY_COMPARE(sheet->progressBar()->value(), done);
@@ -336,7 +336,7 @@ void ListsTest::windowAnswersWhileMeasuring()
     m_app->controller->addMediaFiles(
         AppDelegate::ListKind::Audio, { QUrl::fromLocalFile(media(u"a.mp3"_s)) });
     // The window lives, but the sheet is in front of it and cannot be put away.
-    QVERIFY(QTest::qWaitForWindowActive(m_app->controller->windowUniqueProgress));
+    QVERIFY(person::awaitKeyboard(m_app->controller->windowUniqueProgress));
     person::press(QKeySequence(u"Ctrl+2"_s));
     person::press(QKeySequence(Qt::Key_Escape));
     person::clickTab(m_app->element<QTabWidget>("tabviewMain"), 1);
@@ -355,7 +355,7 @@ void ListsTest::quitWhileMeasuring()
     m_app->ffmpeg.run("while [ ! -e \"$2.go\" ]; do sleep 0.02; done");
     m_app->controller->addMediaFiles(
         AppDelegate::ListKind::Audio, { QUrl::fromLocalFile(media(u"a.mp3"_s)) });
-    QVERIFY(QTest::qWaitForWindowActive(m_app->controller->windowUniqueProgress));
+    QVERIFY(person::awaitKeyboard(m_app->controller->windowUniqueProgress));
     person::press(QKeySequence(u"Ctrl+Q"_s));
     QTRY_COMPARE(m_app->exits, QList<int>(1, 0));
     makeFile(media(u"a.mp3.go"_s));
@@ -400,12 +400,13 @@ void ListsTest::mediaFolder_data()
     QTest::addColumn<QStringList>("accepted");
     QTest::newRow("audio") << 0 << QByteArray("toolbar_btn_Audio_Add_Folder")
                            << QByteArray("tableviewAudioFiles")
-                           << QStringList { u"wma"_s, u"wav"_s, u"cda"_s, u"mp3"_s, u"mp2"_s, u"mpga"_s, u"m4a"_s };
+                           << QStringList{ u"wma"_s, u"wav"_s, u"cda"_s, u"mp3"_s, u"mp2"_s, u"mpga"_s,
+                                  u"m4a"_s };
     QTest::newRow("video") << 1 << QByteArray("toolbar_btn_Video_Add_Folder")
                            << QByteArray("tableviewVideoFiles")
-                           << QStringList { u"wmv"_s, u"mov"_s, u"mpg"_s, u"mpeg"_s, u"mpe"_s, u"avi"_s, u"asf"_s,
-                                  u"asx"_s, u"qt"_s, u"mp4"_s, u"mpeg-4"_s, u"flv"_s, u"ts"_s, u"3gp"_s, u"fli"_s,
-                                  u"m1v"_s, u"m2v"_s, u"mjpg"_s };
+                           << QStringList{ u"wmv"_s, u"mov"_s, u"mpg"_s, u"mpeg"_s, u"mpe"_s, u"avi"_s,
+                                  u"asf"_s, u"asx"_s, u"qt"_s, u"mp4"_s, u"mpeg-4"_s, u"flv"_s, u"ts"_s,
+                                  u"3gp"_s, u"fli"_s, u"m1v"_s, u"m2v"_s, u"mjpg"_s };
 }
 
 void ListsTest::mediaFolder()
@@ -556,10 +557,10 @@ void ListsTest::deleting_data()
 {
     QTest::addColumn<QList<int>>("rows");
     QTest::addColumn<QStringList>("left");
-    QTest::newRow("1 and 3") << QList<int> { 1, 3 } << QStringList { u"0.mp3"_s, u"2.mp3"_s, u"4.mp3"_s };
-    QTest::newRow("last to first") << QList<int> { 4, 0 } << QStringList { u"1.mp3"_s, u"2.mp3"_s, u"3.mp3"_s };
-    QTest::newRow("one") << QList<int> { 2 } << QStringList { u"0.mp3"_s, u"1.mp3"_s, u"3.mp3"_s, u"4.mp3"_s };
-    QTest::newRow("all") << QList<int> { 0, 1, 2, 3, 4 } << QStringList();
+    QTest::newRow("1 and 3") << QList<int>{ 1, 3 } << QStringList{ u"0.mp3"_s, u"2.mp3"_s, u"4.mp3"_s };
+    QTest::newRow("last to first") << QList<int>{ 4, 0 } << QStringList{ u"1.mp3"_s, u"2.mp3"_s, u"3.mp3"_s };
+    QTest::newRow("one") << QList<int>{ 2 } << QStringList{ u"0.mp3"_s, u"1.mp3"_s, u"3.mp3"_s, u"4.mp3"_s };
+    QTest::newRow("all") << QList<int>{ 0, 1, 2, 3, 4 } << QStringList();
 }
 
 void ListsTest::deleting()
@@ -636,7 +637,8 @@ void ListsTest::clearing()
         QTRY_VERIFY(controller.arrayMediaFiles.isEmpty());
         QCOMPARE(controller.arrayDataFolders.size(), 3);
         QCOMPARE(tab == 0 ? controller.i_Audio_Total_Duration_in_Seconds
-                          : controller.i_Video_Total_Duration_in_Seconds, 0);
+                          : controller.i_Video_Total_Duration_in_Seconds,
+            0);
     }
     QVERIFY(!QApplication::activeModalWidget());
 }
@@ -676,8 +678,8 @@ void ListsTest::playNothing()
         person::press(QKeySequence(u"Ctrl+P"_s));
     else
         click(button.constData());
-    QTRY_COMPARE(m_app->questions.texts(),
-        QStringList(u"There is no file selected. | There is no file selected."_s));
+    QTRY_COMPARE(
+        m_app->questions.texts(), QStringList(u"There is no file selected. | There is no file selected."_s));
     QCOMPARE(m_app->questions.alerts.first().buttons, QStringList(u"Close"_s));
 }
 

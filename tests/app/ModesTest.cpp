@@ -118,7 +118,7 @@ void ModesTest::init()
     emptyHome();
     m_app = std::make_unique<TestApplication>();
     m_app->launch();
-    QVERIFY(QTest::qWaitForWindowActive(m_app->window.get()));
+    QVERIFY(person::awaitKeyboard(m_app->window.get()));
 }
 
 QList<int> ModesTest::radiosOn()
@@ -211,7 +211,7 @@ void ModesTest::sheetConfirmed()
     QCOMPARE(controller().i_Audio_Type, mode.tab == 0 ? mode.variant : 0);
     QCOMPARE(controller().i_Video_Type, mode.tab == 1 ? mode.variant : 0);
     QCOMPARE(controller().i_Data_Type, mode.tab == 2 ? mode.variant : 0);
-    QStringList bordered { u"btnAudioCD"_s, u"btnVideoDVD"_s, u"btnDataCD"_s };
+    QStringList bordered{ u"btnAudioCD"_s, u"btnVideoDVD"_s, u"btnDataCD"_s };
     bordered[mode.tab] = text(mode.button);
     QCOMPARE(borderedButtons(), bordered);
     // The next sheet begins with this type.
@@ -313,7 +313,7 @@ void ModesTest::sheetBlocksTheWindow()
 {
     fillLists();
     person::choose(m_app->window.get(), "menuitemNewDisc");
-    QVERIFY(QTest::qWaitForWindowActive(controller().windowNewDisc));
+    QVERIFY(person::awaitKeyboard(controller().windowNewDisc));
     person::press(QKeySequence(u"Ctrl+2"_s));
     click("btnMP3CD");
     QTest::qWait(50);
@@ -325,7 +325,7 @@ void ModesTest::sheetBlocksTheWindow()
 void ModesTest::quitFromTheSheet()
 {
     person::choose(m_app->window.get(), "menuitemNewDisc");
-    QVERIFY(QTest::qWaitForWindowActive(controller().windowNewDisc));
+    QVERIFY(person::awaitKeyboard(controller().windowNewDisc));
     person::press(QKeySequence(u"Ctrl+Q"_s));
     QTRY_COMPARE(m_app->exits, QList<int>(1, 0));
 }
@@ -343,11 +343,11 @@ void ModesTest::modeButton()
     click(mode.button);
     QCOMPARE(title(), text(mode.title));
     QCOMPARE(m_app->element<QTabWidget>("tabviewMain")->currentIndex(), mode.tab);
-    const qint64 variants[]
-        = { controller().i_Audio_Type, controller().i_Video_Type, controller().i_Data_Type };
+    const qint64 variants[] = { controller().i_Audio_Type, controller().i_Video_Type,
+        controller().i_Data_Type };
     for (int i = 0; i < 3; ++i)
         QCOMPARE(variants[i], i == mode.tab ? mode.variant : 0);
-    QStringList bordered { u"btnAudioCD"_s, u"btnVideoDVD"_s, u"btnDataCD"_s };
+    QStringList bordered{ u"btnAudioCD"_s, u"btnVideoDVD"_s, u"btnDataCD"_s };
     bordered[mode.tab] = text(mode.button);
     QCOMPARE(borderedButtons(), bordered);
     QCOMPARE(controller().i_Type_of_New_Disc, 1);

@@ -5,9 +5,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QDropEvent>
 #include <QFileDialog>
 #include <QHeaderView>
-#include <QDropEvent>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPointer>
@@ -98,8 +98,14 @@ inline void drop(const QWidget *widget, const QList<QUrl> &urls)
     QCoreApplication::sendEvent(target, &drop);
 }
 
-/// Types on the keyboard, into whatever window has it. Where no window manager hands the keyboard back after a
-/// dialog, the window below is taken.
+/// Waits until a window has the keyboard; a sheet gets it only after its parent has had it.
+[[nodiscard]] inline bool awaitKeyboard(const QWidget *window)
+{
+    return QTest::qWaitFor([window] { return QGuiApplication::focusWindow() == window->windowHandle(); });
+}
+
+/// Types on the keyboard, into whatever window has it. Where no window manager hands the keyboard back after
+/// a dialog, the window below is taken.
 inline void press(const QKeySequence &keys)
 {
     for (QWidget *window : QApplication::topLevelWidgets()) {
@@ -115,7 +121,8 @@ inline void press(const QKeySequence &keys)
 template <class Dialog>
 class Expect {
 public:
-    explicit Expect(std::function<void(Dialog *)> act) : m_act(std::move(act))
+    explicit Expect(std::function<void(Dialog *)> act)
+        : m_act(std::move(act))
     {
         m_timer.setInterval(20);
         QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { look(); });
@@ -163,8 +170,8 @@ inline void pressTitled(const QWidget *dialog, const QString &title)
     qWarning() << "there is no button" << title;
 }
 
-/// Goes to `folder` in a file dialog by pasting its path, then marks the files with these names in the list, in
-/// this order, and presses Open.
+/// Goes to `folder` in a file dialog by pasting its path, then marks the files with these names in the list,
+/// in this order, and presses Open.
 inline void openFiles(QFileDialog *dialog, const QString &folder, const QStringList &names)
 {
     auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));

@@ -14,8 +14,9 @@ struct Handled {
 };
 
 // Whoever closes the terminal or the reader of our output does not want to lose the disc.
+// A limit on the size of files has to become an error of the write, not the end of the program.
 constexpr std::array handled{ Handled{ SIGINT, true }, Handled{ SIGTERM, true }, Handled{ SIGHUP, false },
-    Handled{ SIGPIPE, false } };
+    Handled{ SIGPIPE, false }, Handled{ SIGXFSZ, false } };
 
 std::array<struct sigaction, handled.size()> previous;
 std::atomic<int> firstSignal = 0;
@@ -37,7 +38,8 @@ StopSignals::StopSignals()
         action.sa_handler = handled[i].stops ? note : SIG_IGN;
         // A write to a file or a drive that a signal broke off would count as failed.
         action.sa_flags = SA_RESTART;
-        sigemptyset(&action.sa_mask);
+        // Of two at once the first is the one that counts.
+        sigfillset(&action.sa_mask);
         ::sigaction(handled[i].signal, &action, &previous[i]);
     }
 }

@@ -72,6 +72,11 @@ Result<report::Medium> VirtualLease::medium()
     if (!state)
         return state.error();
     report::Medium medium = mediumOf(*state);
+    // A killed write could not note how far it had come.
+    if (state->disc == DiscState::writing && medium.kind != report::MediumKind::none)
+        for (const char *file : { dataDiscFile, audioDiscFile })
+            if (const auto disc = m_folder.openDisc(file))
+                medium.used = sizeOf(*disc) / blockBytes;
     medium.deviceName = "virtual";
     return medium;
 }
@@ -158,12 +163,12 @@ Result<void> VirtualLease::write(Content content, const std::shared_ptr<TapState
         return state.error();
     Result<Fd> file = m_folder.createDisc(content.file);
     if (!file)
-        return file.error();
+        return abandon(*state, Fd(), {}, file.error());
     LibburnDrive::Outcome outcome;
     {
         auto drive = LibburnDrive::grab(addressOf(*file), m_name, true, false);
         if (!drive)
-            return drive.error();
+            return abandon(*state, *file, {}, drive.error());
         const auto family = report::factsOf(state->kind).family;
         std::vector<Track> tracks;
         tracks.push_back(std::move(content.track));

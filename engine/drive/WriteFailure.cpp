@@ -1,5 +1,7 @@
 #include "drive/WriteFailure.h"
 
+#include "base/Words.h"
+
 #include <cerrno>
 #include <csignal>
 
@@ -47,8 +49,10 @@ Error writeFailure(
         return { source.error().exit, withoutFullStop(source.error().message) + "." + state };
     if (outcome.sourceFailed)
         return { Exit::failed, "The data for the disc ended too early." + state };
-    if (outcome.message.failure == ENOSPC || outcome.message.failure == EDQUOT)
-        return { Exit::failed, "The file system that holds " + driveName + " is full." + state };
+    const int failure = outcome.message.failure;
+    if (failure == ENOSPC || failure == EDQUOT || failure == EFBIG)
+        return { Exit::failed,
+            "The file system that holds " + driveName + " takes no more: " + reason(failure) + "." + state };
     if (outcome.message.text.empty())
         return { Exit::failed, "The write to " + driveName + " failed." + state };
     return { Exit::failed,

@@ -64,7 +64,7 @@ constexpr int layerJump = 0x16; // DVD-R DL that libburn reads but does not writ
 
 MediumState stateFromAnswers(const DriveAnswers &a, Rewriting rewriting)
 {
-    if (rewriting == Rewriting::pressed)
+    if (rewriting == Rewriting::pressed || !a.suitable)
         return MediumState::closed;
     // A track that broke off cannot be written on, and what is left behind it is no room for a new start.
     if (a.damagedTrack && rewriting == Rewriting::once)
@@ -132,7 +132,10 @@ Medium mediumFromAnswers(const DriveAnswers &a)
 {
     Medium medium;
     medium.kind = kindOfProfile(a.profile);
-    medium.rewriting = a.suitable ? rewritingOfProfile(a.profile) : Rewriting::pressed;
+    medium.rewriting = rewritingOfProfile(a.profile);
+    // What an erase can mend stays erasable, as after a write that was killed.
+    if (!a.suitable && medium.rewriting != Rewriting::erase)
+        medium.rewriting = Rewriting::pressed;
     if (medium.kind == MediumKind::none)
         return medium;
     medium.state = stateFromAnswers(a, medium.rewriting);

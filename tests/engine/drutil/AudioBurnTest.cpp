@@ -1,0 +1,220 @@
+// Audio discs: every sample in its place, and the rules of an audio CD.
+#include "Drutil.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype sector = 2352;
+
+/// Samples that differ from place to place, so that a shift is seen.
+QByteArray samples(qsizetype bytes, quint32 seed)
+{
+    QByteArray data(bytes, '\0');
+    quint32 state = seed * 2654435761U + 1;
+    for (char &c : data) {
+        state = state * 1664525U + 1013904223U;
+        c = char(state >> 24);
+    }
+    return data;
+}
+
+QByteArray chunk(const char *name, const QByteArray &content)
+{
+    QByteArray text(name, 4);
+    const auto size = quint32(content.size());
+    for (int shift : { 0, 8, 16, 24 })
+        text += char((size >> shift) & 0xff);
+    return text + content + (content.size() % 2 ? QByteArray(1, '\0') : QByteArray());
+}
+
+QByteArray wave(const QByteArray &data, const QByteArray &before = {}, quint32 rate = 44100)
+{
+    QByteArray format;
+    QDataStream out(&format, QIODevice::WriteOnly);
+    out.setByteOrder(QDataStream::LittleEndian);
+    out << quint16(1) << quint16(2) << rate << quint32(rate * 4) << quint16(4) << quint16(16);
+    return chunk("RIFF", "WAVE" + chunk("fmt ", format) + before + chunk("data", data));
+}
+
+QByteArray padded(QByteArray data)
+{
+    const qsizetype least = 4 * 75 * sector;
+    const qsizetype whole = (data.size() + sector - 1) / sector * sector;
+    data.resize(qMax(whole, least), '\0');
+    return data;
+}
+
+} // namespace
+
+class AudioBurnTest : public QObject {
+    Q_OBJECT
+
+    QString source() const { return m_drutil->path(u"music"_s); }
+    QString bin() const { return m_drutil->recorder() + u"/disc.bin"_s; }
+    QString cue() const { return m_drutil->recorder() + u"/disc.cue"_s; }
+
+    void addTrack(const QString &name, const QByteArray &content, int second)
+    {
+        QVERIFY(writeFile(source() + u'/' + name, content));
+        QFile file(source() + u'/' + name);
+        QVERIFY(file.open(QFile::ReadWrite));
+        QVERIFY(file.setFileTime(
+            QDateTime::fromSecsSinceEpoch(1700000000 + second), QFileDevice::FileModificationTime));
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_drutil = std::make_unique<Drutil>();
+        QVERIFY(QDir().mkpath(source()));
+    }
+
+    void everySampleIsInItsPlace()
+    {
+        const QByteArray one = samples(sector * 311 + 40, 1);
+        const QByteArray two = samples(sector * 300, 2);
+        const QByteArray three = samples(4, 3);
+        // Times against the alphabet: the list's order is the order in which the files were made.
+        addTrack(u"z.wav"_s, wave(one), 1);
+        addTrack(u"m.WAV"_s, wave(two, chunk("LIST", "INFOodd")), 2);
+        addTrack(u"a.wav"_s, wave(three), 3);
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        const Ran ran = (*m_drutil)({ u"burn"_s, u"-audio"_s, source() });
+        QVERIFY2(ran.exit == 0, qPrintable(ran.err));
+        const QByteArray expected =
+            QByteArray(150 * sector, '\0') + padded(one) + padded(two) + padded(three);
+        QCOMPARE(readFile(bin()).size(), expected.size());
+        QVERIFY(readFile(bin()) == expected);
+        QCOMPARE(QString::fromUtf8(readFile(cue())),
+            u"FILE \"disc.bin\" BINARY\n"
+            "  TRACK 01 AUDIO\n    INDEX 00 00:00:00\n    INDEX 01 00:02:00\n"
+            "  TRACK 02 AUDIO\n    INDEX 01 00:06:12\n"
+            "  TRACK 03 AUDIO\n    INDEX 01 00:10:12\n"_s);
+        QCOMPARE(m_drutil->fact(u"Space Used:"_s).section(u"blocks:"_s, 1).trimmed().section(u' ', 0, 0),
+            u"912"_s);
+        QCOMPARE(m_drutil->fact(u"Writability:"_s), u"not writable"_s);
+    }
+
+    void otherProgramsReadTheSheet()
+    {
+        addTrack(u"1.wav"_s, wave(samples(sector * 375, 1)), 1);
+        addTrack(u"2.wav"_s, wave(samples(sector * 450, 2)), 2);
+        QVERIFY(m_drutil->insert(u"cd-rw"_s));
+        QCOMPARE((*m_drutil)({ u"burn"_s, u"-audio"_s, source() }).exit, 0);
+        // cd-info counts from the start of the pause: 00:02:00 is the start of track 1.
+        const Ran info =
+            runProgram(u"cd-info"_s, { u"--no-header"_s, u"--no-device-info"_s, u"--no-cddb"_s, cue() });
+        QVERIFY2(QRegularExpression(u"1: 00:0[24]:00\\s+\\d+\\s+audio"_s).match(info.out).hasMatch(),
+            qPrintable(info.out));
+        QCOMPARE(info.out.count(u" audio "_s), 2);
+        const Ran toc = runProgram(
+            u"/bin/sh"_s, { u"-c"_s, u"cd \"$0\" && cdrdao toc-info disc.cue"_s, m_drutil->recorder() });
+        QVERIFY2(toc.exit == 0, qPrintable(toc.err));
+        // The pause and both tracks: 150 + 375 + 450.
+        QVERIFY2(toc.out.contains(u"2 tracks, length 00:13:00, 975 blocks"_s), qPrintable(toc.out));
+    }
+
+    void anArchivedDiscKeepsItsSheet()
+    {
+        addTrack(u"1.wav"_s, wave(samples(sector * 300, 1)), 1);
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        QCOMPARE((*m_drutil)({ u"burn"_s, u"-audio"_s, source() }).exit, 0);
+        QCOMPARE((*m_drutil)({ u"tray"_s, u"eject"_s }).exit, 0);
+        const QDir discs(m_drutil->recorder() + u"/discs"_s);
+        const QStringList files = discs.entryList(QDir::Files);
+        QCOMPARE(files.size(), 2);
+        QVERIFY(readFile(discs.filePath(files.at(1)))
+                    .startsWith("FILE \"" + files.at(0).toUtf8() + "\" BINARY\n"));
+    }
+
+    void refusals_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("48 kHz") << u"fast.wav"_s << wave(samples(4000, 1), {}, 48000);
+        QTest::newRow("no WAVE file") << u"text.wav"_s << QByteArray("hello");
+        QTest::newRow("empty") << u"nothing.wav"_s << QByteArray();
+    }
+
+    void refusals()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, content);
+        addTrack(u"good.wav"_s, wave(samples(sector * 300, 1)), 1);
+        addTrack(name, content, 2);
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        const Ran ran = (*m_drutil)({ u"burn"_s, u"-audio"_s, source() });
+        QCOMPARE(ran.exit, 1);
+        QVERIFY2(ran.err.contains(name), qPrintable(ran.err));
+        QVERIFY(m_drutil->state().contains("state=blank"));
+    }
+
+    void aFolderWithoutTracks()
+    {
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        QCOMPARE((*m_drutil)({ u"burn"_s, u"-audio"_s, source() }).exit, 1);
+        QVERIFY(m_drutil->state().contains("state=blank"));
+    }
+
+    void ninetyNineTracksAndNoMore()
+    {
+        for (int i = 1; i <= 99; ++i)
+            addTrack(u"%1.wav"_s.arg(i), wave(samples(400, quint32(i))), 0);
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        QCOMPARE((*m_drutil)({ u"burn"_s, u"-audio"_s, source() }).exit, 0);
+        QCOMPARE(readFile(cue()).count("TRACK"), 99);
+        // Of one time, they are in the order of their numbers.
+        QVERIFY(readFile(bin()).mid((150 + 9 * 300) * sector, 400) == samples(400, 10));
+        addTrack(u"100.wav"_s, wave(samples(400, 100)), 0);
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        QCOMPARE((*m_drutil)({ u"burn"_s, u"-audio"_s, source() }).exit, 1);
+    }
+
+    void audioNeedsACd()
+    {
+        addTrack(u"1.wav"_s, wave(samples(sector * 300, 1)), 1);
+        for (const auto &kind : { u"dvd-r"_s, u"dvd+rw"_s, u"bd-r"_s }) {
+            QVERIFY(m_drutil->insert(kind));
+            const Ran ran = (*m_drutil)({ u"burn"_s, u"-audio"_s, source() });
+            QCOMPARE(ran.exit, 1);
+            QVERIFY(ran.err.contains(u"An audio disc needs a CD"_s));
+            QVERIFY(m_drutil->state().contains("state=blank"));
+        }
+    }
+
+    void moreThanADiscIsRefused()
+    {
+        // 80 minutes and a little: a sparse file behind a right header.
+        const qint64 bytes = 359845LL * sector;
+        QByteArray header = wave({});
+        for (int i = 0; i < 4; ++i)
+            header[header.size() - 4 + i] = char((bytes >> (8 * i)) & 0xff);
+        addTrack(u"long.wav"_s, header, 1);
+        QFile file(source() + u"/long.wav"_s);
+        QVERIFY(file.open(QFile::ReadWrite) && file.resize(header.size() + bytes));
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        const Ran ran = (*m_drutil)({ u"burn"_s, u"-audio"_s, source() });
+        QCOMPARE(ran.exit, 1);
+        QVERIFY2(ran.err.contains(u"359845"_s) && ran.err.contains(u"359844"_s), qPrintable(ran.err));
+        QVERIFY(m_drutil->state().contains("state=blank"));
+    }
+
+    void aRewritableDataDiscBecomesAnAudioDisc()
+    {
+        addTrack(u"1.wav"_s, wave(samples(sector * 300, 1)), 1);
+        QVERIFY(m_drutil->insert(u"cd-rw"_s));
+        QCOMPARE((*m_drutil)({ u"burn"_s, source() }).exit, 0);
+        QCOMPARE((*m_drutil)({ u"burn"_s, u"-audio"_s, source() }).exit, 0);
+        QVERIFY(QFile::exists(bin()));
+        QVERIFY(!QFile::exists(m_drutil->recorder() + u"/disc.iso"_s));
+        QCOMPARE((*m_drutil)({ u"burn"_s, source() }).exit, 0);
+        QVERIFY(!QFile::exists(bin()) && !QFile::exists(cue()));
+    }
+
+private:
+    std::unique_ptr<Drutil> m_drutil;
+};
+
+QTEST_GUILESS_MAIN(AudioBurnTest)
+#include "AudioBurnTest.moc"

@@ -1,0 +1,246 @@
+// Data discs: what is written is read by xorriso, and the rules of each kind of medium are kept.
+#include "Drutil.h"
+
+#include <filesystem>
+#include <fstream>
+
+using namespace Qt::StringLiterals;
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Every file and folder below `root`, by its bytes, with the content of files.
+QMap<QByteArray, QByteArray> treeOf(const fs::path &root)
+{
+    QMap<QByteArray, QByteArray> tree;
+    for (const auto &entry : fs::recursive_directory_iterator(root)) {
+        const QByteArray name = QByteArray::fromStdString(entry.path().lexically_relative(root).native());
+        if (entry.is_directory()) {
+            tree.insert(name, "folder");
+            continue;
+        }
+        std::ifstream file(entry.path(), std::ios::binary);
+        const std::string content{ std::istreambuf_iterator<char>(file), {} };
+        tree.insert(name, QByteArray::fromStdString(content));
+    }
+    return tree;
+}
+
+void put(const fs::path &path, const std::string &content)
+{
+    fs::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << content;
+}
+
+} // namespace
+
+class BurnTest : public QObject {
+    Q_OBJECT
+
+    QString source() const { return m_drutil->path(u"source"_s); }
+    QString disc() const { return m_drutil->recorder() + u"/disc.iso"_s; }
+
+    QMap<QByteArray, QByteArray> readBack(const QString &image) const
+    {
+        const QString target = m_drutil->path(u"extracted"_s);
+        const Ran ran = runProgram(u"xorriso"_s,
+            { u"-osirrox"_s, u"on"_s, u"-indev"_s, u"stdio:"_s + image, u"-extract"_s, u"/"_s, target });
+        if (ran.exit != 0)
+            qWarning("%s", qPrintable(ran.err));
+        return treeOf(target.toStdString());
+    }
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        // Qt's own removal gives up at names that are no text.
+        if (m_drutil)
+            fs::remove_all(m_drutil->path({}).toStdString());
+    }
+
+    void init()
+    {
+        m_drutil = std::make_unique<Drutil>();
+        QVERIFY(QDir().mkpath(source()));
+    }
+
+    void anyNameIsWrittenAndReadBack()
+    {
+        const fs::path root = source().toStdString();
+        const std::string big(5000000, '\x5a');
+        put(root / "big.bin", big);
+        put(root / "empty", "");
+        put(root / "-drive", "dash");
+        put(root / "quote's \"here\"", "quotes");
+        put(root / "line\nbreak", "line");
+        put(root / "back\\slash*?:;", "signs");
+        put(root / "not utf-8 \xff\xfe", "bytes");
+        put(root / std::string(255, 'n'), "long");
+        put(root / "Straße ☃ 𝄞", "words");
+        put(root / "deep/er/and/deeper/still/and/on/below/the/ninth/level", "deep");
+        put(root / "hidden/.dot", "dot");
+        fs::create_directories(root / "no files");
+        QVERIFY(m_drutil->insert(u"dvd-r"_s));
+        const Ran ran = (*m_drutil)({ u"burn"_s, source() });
+        QVERIFY2(ran.exit == 0, qPrintable(ran.err));
+        QVERIFY(ran.out.endsWith(u" is written and was compared.\n"_s));
+        QVERIFY(ran.out.contains(u"Verifying: "_s));
+        QCOMPARE(readBack(disc()), treeOf(root));
+    }
+
+    void aFolderOfAnyNameIsWritten()
+    {
+        for (const std::string &name : { std::string("-drive"), std::string("it's \"a\"\nname \xff") }) {
+            const fs::path folder = fs::path(m_drutil->path(u"in"_s).toStdString()) / name;
+            put(folder / "file", name);
+            QVERIFY(m_drutil->insert(u"cd-r"_s));
+            // QProcess passes text, which cannot hold these bytes; the shell finds the folder by itself.
+            const Ran ran = runProgram(u"/bin/sh"_s,
+                { u"-c"_s, u"cd \"$1\" && for f in *; do \"$0\" burn \"./$f\" || exit; done"_s,
+                    Drutil::program(), m_drutil->path(u"in"_s) },
+                m_drutil->environment());
+            QVERIFY2(ran.exit == 0, qPrintable(ran.err));
+            fs::remove_all(folder);
+        }
+        QCOMPARE(QDir(m_drutil->recorder() + u"/discs"_s).entryList(QDir::Files).size(), 1);
+    }
+
+    void theStatusFollowsAWrite()
+    {
+        put((source() + u"/file"_s).toStdString(), "content");
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        QCOMPARE((*m_drutil)({ u"burn"_s, source() }).exit, 0);
+        QCOMPARE(m_drutil->fact(u"Writability:"_s), u"not writable"_s);
+        const qint64 blocks = QFileInfo(disc()).size() / 2048;
+        QCOMPARE(m_drutil->fact(u"Space Used:"_s)
+                     .section(u"blocks:"_s, 1)
+                     .trimmed()
+                     .section(u' ', 0, 0)
+                     .toLongLong(),
+            blocks);
+        QCOMPARE(m_drutil->fact(u"Space Free:"_s).section(u' ', 0, 0), u"00:00:00"_s);
+    }
+
+    void aWrittenDiscIsWrittenOnce()
+    {
+        put((source() + u"/file"_s).toStdString(), "content");
+        for (const auto &kind : { u"cd-r"_s, u"dvd-r"_s, u"dvd+r"_s, u"bd-r"_s }) {
+            QVERIFY(m_drutil->insert(kind));
+            QCOMPARE((*m_drutil)({ u"burn"_s, source() }).exit, 0);
+            const QByteArray before = readFile(disc());
+            const Ran again = (*m_drutil)({ u"burn"_s, source() });
+            QCOMPARE(again.exit, 1);
+            QVERIFY(again.err.contains(u"cannot be written any more"_s));
+            QCOMPARE(readFile(disc()), before);
+        }
+    }
+
+    void aRewritableDiscIsErasedFirst()
+    {
+        const fs::path root = source().toStdString();
+        qsizetype aside = 0;
+        for (const auto &kind : { u"cd-rw"_s, u"dvd-rw"_s, u"dvd+rw"_s, u"bd-re"_s }) {
+            QVERIFY(m_drutil->insert(kind));
+            put(root / "file", std::string(3000000, 'a'));
+            QCOMPARE((*m_drutil)({ u"burn"_s, source() }).exit, 0);
+            const qint64 before = QFileInfo(disc()).size();
+            put(root / "file", "small");
+            const Ran again = (*m_drutil)({ u"burn"_s, source() });
+            QCOMPARE(again.exit, 0);
+            QVERIFY(again.out.contains(u"erased first"_s));
+            QVERIFY(QFileInfo(disc()).size() < before);
+            // What was erased is gone; only the disc of the kind before was put aside.
+            QCOMPARE(QDir(m_drutil->recorder() + u"/discs"_s).entryList(QDir::Files).size(), aside++);
+        }
+    }
+
+    void eraseMakesBlank()
+    {
+        put((source() + u"/file"_s).toStdString(), "content");
+        for (const auto &mode : { u"quick"_s, u"full"_s }) {
+            QVERIFY(m_drutil->insert(u"cd-rw"_s));
+            QCOMPARE((*m_drutil)({ u"burn"_s, source() }).exit, 0);
+            QCOMPARE(m_drutil->fact(u"Writability:"_s), u"erasable"_s);
+            QCOMPARE((*m_drutil)({ u"erase"_s, mode }).exit, 0);
+            QCOMPARE(m_drutil->fact(u"Writability:"_s), u"appendable, blank, erasable, overwritable"_s);
+            QVERIFY(!QFile::exists(disc()));
+        }
+    }
+
+    void whatIsTooLargeIsRefusedAndTheDiscStaysBlank()
+    {
+        QVERIFY(sparseFile(source() + u"/large"_s, 800LL * 1000 * 1000));
+        for (const auto &kind : { u"cd-r"_s, u"cd-rw"_s }) {
+            QVERIFY(m_drutil->insert(kind));
+            const Ran ran = (*m_drutil)({ u"burn"_s, source() });
+            QCOMPARE(ran.exit, 1);
+            QVERIFY2(QRegularExpression(
+                         u"The data need 39\\d{4} blocks, and the disc in drive . has room for 359844"_s)
+                         .match(ran.err)
+                         .hasMatch(),
+                qPrintable(ran.err));
+            QVERIFY(m_drutil->state().contains("state=blank"));
+            QVERIFY(!QFile::exists(disc()));
+        }
+    }
+
+    void theLastBlockFits()
+    {
+        // The image of one file grows block by block with the file.
+        const auto blocks = [this](qint64 fileBlocks) {
+            QFile::remove(source() + u"/file"_s);
+            if (!sparseFile(source() + u"/file"_s, fileBlocks * 2048) || !m_drutil->insert(u"cd-r"_s))
+                return qint64(-1);
+            const Ran ran = (*m_drutil)({ u"burn"_s, u"-noverify"_s, source() });
+            return ran.exit == 0 ? QFileInfo(disc()).size() / 2048 : qint64(0);
+        };
+        const qint64 overhead = blocks(1000) - 1000;
+        QVERIFY(overhead > 0);
+        QCOMPARE(blocks(359844 - overhead), qint64(359844));
+        QCOMPARE(blocks(359844 - overhead + 1), qint64(0));
+        QVERIFY(m_drutil->state().contains("state=blank"));
+    }
+
+    void comparingCanBeLeftOut()
+    {
+        put((source() + u"/file"_s).toStdString(), "content");
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        const Ran ran = (*m_drutil)({ u"burn"_s, source(), u"-noverify"_s });
+        QCOMPARE(ran.exit, 0);
+        QVERIFY(!ran.out.contains(u"Verifying"_s));
+        QVERIFY(ran.out.endsWith(u" is written.\n"_s));
+    }
+
+    void anEjectedDiscIsKept()
+    {
+        put((source() + u"/file"_s).toStdString(), "content");
+        QVERIFY(m_drutil->insert(u"dvd+rw"_s));
+        QCOMPARE((*m_drutil)({ u"burn"_s, source() }).exit, 0);
+        const QByteArray written = readFile(disc());
+        QCOMPARE((*m_drutil)({ u"tray"_s, u"eject"_s }).exit, 0);
+        QVERIFY(m_drutil->state().contains("kind=dvd+rw"));
+        QVERIFY(m_drutil->state().contains("state=blank"));
+        const QDir discs(m_drutil->recorder() + u"/discs"_s);
+        QCOMPARE(discs.entryList(QDir::Files).size(), 1);
+        QCOMPARE(readFile(discs.filePath(discs.entryList(QDir::Files).first())), written);
+    }
+
+    void recordersDeepInTheFileSystemAreWritten()
+    {
+        QString deep = m_drutil->path(u"deep"_s);
+        while (deep.size() < 2000)
+            deep += u'/' + QString(200, u'd');
+        m_drutil->environment().insert(u"CORVALIS_RECORDERS"_s, deep);
+        QCOMPARE((*m_drutil)({ u"list"_s }).exit, 0);
+        put((source() + u"/file"_s).toStdString(), "content");
+        const Ran ran = (*m_drutil)({ u"burn"_s, source() });
+        QVERIFY2(ran.exit == 0, qPrintable(ran.err));
+        QVERIFY(QFileInfo(deep + u"/1/disc.iso"_s).size() > 0);
+    }
+
+private:
+    std::unique_ptr<Drutil> m_drutil;
+};
+
+QTEST_GUILESS_MAIN(BurnTest)
+#include "BurnTest.moc"

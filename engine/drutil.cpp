@@ -29,6 +29,7 @@ constexpr const char *helpText = R"(Usage: drutil VERB [ARGUMENT...] [-drive N]
   burn -audio FOLDER            write the WAVE files in FOLDER as an audio disc
   erase full|quick              erase a rewritable medium
   tray eject|close              open or close the tray
+  folder                        tell where the discs of a virtual recorder lie
   insert KIND                   put a blank into a virtual recorder; KIND is one of
                                 %s, none
   --help, --version
@@ -166,6 +167,17 @@ Result<void> tray(const Arguments &arguments)
     return motion == "eject" ? (*drive)->eject() : (*drive)->close();
 }
 
+Result<void> folder(const Arguments &arguments)
+{
+    const auto drive = drive::driveNumbered(arguments.driveNumber);
+    if (!drive)
+        return drive.error();
+    const Result<std::string> path = (*drive)->folder();
+    if (!path)
+        return path.error();
+    return printReport(*path + '\n');
+}
+
 Result<void> insert(const Arguments &arguments)
 {
     const std::string &name = arguments.operands.front();
@@ -184,6 +196,7 @@ constexpr std::array verbs{
     Verb{ "burn", "burn [-audio] [-noverify] FOLDER [-drive N]", 1, burnDisc },
     Verb{ "erase", "erase full|quick [-drive N]", 1, erase },
     Verb{ "tray", "tray eject|close [-drive N]", 1, tray },
+    Verb{ "folder", "folder [-drive N]", 0, folder },
     Verb{ "insert", "insert KIND [-drive N]", 1, insert },
 };
 

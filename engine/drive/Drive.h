@@ -127,6 +127,9 @@ public:
     /// Puts a blank of `kind` in, or none; virtual recorders only.
     virtual Result<void> insert(report::MediumKind kind) = 0;
 
+    /// The folder in which the discs of a virtual recorder lie; virtual recorders only.
+    virtual Result<std::string> folder() const = 0;
+
 private:
     std::string m_name = "the drive";
 };

@@ -293,4 +293,9 @@ Result<void> PhysicalDrive::insert(report::MediumKind)
         "Discs are put into " + name() + " by hand; insert is for virtual recorders." };
 }
 
+Result<std::string> PhysicalDrive::folder() const
+{
+    return Error{ Exit::failed, "The discs of " + name() + " lie in no folder: only those of a virtual recorder do." };
+}
+
 } // namespace engine::drive

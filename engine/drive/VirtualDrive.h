@@ -18,6 +18,7 @@ public:
     Result<void> eject() override;
     Result<void> close() override;
     Result<void> insert(report::MediumKind kind) override;
+    Result<std::string> folder() const override { return m_folder; }
 
 private:
     std::string m_folder;

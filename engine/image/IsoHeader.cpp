@@ -27,6 +27,9 @@ namespace {
 // Blocks of zeros after the image: a drive reads ahead over the end of a track written at once.
 constexpr std::uint32_t paddingBlocks = 150;
 
+// How much of the data area is looked at to prove that libisofs put the files where we put their data.
+constexpr std::uint64_t mostProvedBlocks = 64;
+
 // Any number that libisofs does not use for streams of its own.
 constexpr unsigned int streamFileSystem = 0xc0;
 
@@ -86,7 +89,7 @@ int isRepeatable(IsoStream *)
     return 1;
 }
 
-// Files are laid out in the order of these numbers, and names of equal numbers share their data.
+// Names of equal numbers share their data.
 void identify(IsoStream *stream, unsigned int *fileSystem, dev_t *device, ino_t *inode)
 {
     *fileSystem = streamFileSystem;
@@ -215,6 +218,8 @@ private:
             const int code = stream ? iso_image_add_new_file(m_image, parent, name, stream, &file)
                                     : static_cast<int>(ISO_OUT_OF_MEM);
             node = reinterpret_cast<IsoNode *>(file);
+            if (code >= 0) // the heavier, the nearer to the start of the image
+                iso_node_set_sort_weight(node, -static_cast<int>(entry.first));
             return code;
         }
         if (S_ISLNK(entry.mode)) {
@@ -262,17 +267,22 @@ WriteOptions writeOptions(bool rockRidge)
     iso_write_opts_set_relaxed_vol_atts(made, 1);
     iso_write_opts_set_dir_rec_mtime(made, 7);
     iso_write_opts_set_always_gmt(made, 1);
-    iso_write_opts_set_sort_files(made, 0);
+    iso_write_opts_set_sort_files(made, 1);
     iso_write_opts_set_output_charset(made, "UTF-8");
     iso_write_opts_set_tail_blocks(made, paddingBlocks);
     return options;
+}
+
+std::uint64_t blocksFor(std::uint64_t bytes)
+{
+    return (bytes + blockSize - 1) / blockSize;
 }
 
 std::uint64_t dataBlocks(const FolderTree &tree)
 {
     std::uint64_t blocks = 0;
     for (const Content &content : tree.contents())
-        blocks += (content.size + blockSize - 1) / blockSize;
+        blocks += blocksFor(content.size);
     return blocks;
 }
 
@@ -313,6 +323,7 @@ Result<IsoHeader> IsoHeader::make(const FolderTree &tree, const std::string &vol
         return Error{ Exit::failed,
             std::string("The image cannot be begun: ") + iso_error_to_msg(code) + "." };
     IsoHeader header;
+    header.m_tree = &tree;
     header.m_image.reset(made);
     if (auto ok = Builder(tree, made).run(); !ok)
         return ok.error();
@@ -333,13 +344,8 @@ Result<void> IsoHeader::layOut(const FolderTree &tree, bool rockRidge)
     m_source.reset(reinterpret_cast<burn::burn_source *>(source));
     const auto bytes = static_cast<std::uint64_t>(m_source->get_size(m_source.get()));
     m_imageBlocks = static_cast<std::uint32_t>(bytes / blockSize);
-    m_left = bytes - (dataBlocks(tree) + image::paddingBlocks) * blockSize;
-    const auto first = std::find_if(tree.contents().begin(), tree.contents().end(),
-        [](const Content &content) { return content.size > 0; });
-    m_firstContent = static_cast<std::uint32_t>(first - tree.contents().begin());
-    m_firstMarker = 0;
-    if (first != tree.contents().end())
-        m_firstMarker = static_cast<std::size_t>(std::min<std::uint64_t>(first->size, sizeof(Marker)));
+    m_dataBlocks = dataBlocks(tree);
+    m_left = bytes - (m_dataBlocks + image::paddingBlocks) * blockSize;
     return {};
 }
 
@@ -372,17 +378,23 @@ Result<void> IsoHeader::readSource(std::span<std::byte> buffer)
     return {};
 }
 
-/// Makes sure that the data of the files begins here, and lets libisofs go.
+/// Makes sure that the data of the files follows in the order of their numbers, and lets libisofs go.
 Result<void> IsoHeader::finish()
 {
-    std::array<std::byte, blockSize> block;
-    if (auto ok = readSource(block); !ok)
+    std::vector<std::byte> blocks(std::min<std::uint64_t>(m_dataBlocks, mostProvedBlocks) * blockSize);
+    if (auto ok = readSource(blocks); !ok)
         return ok;
-    const Marker marker = markerOf(m_firstContent);
-    if (std::memcmp(block.data(), marker.data(), m_firstMarker) != 0)
-        return Error{ Exit::failed,
-            "The image cannot be produced: libisofs laid the files out in an unknown way; "
-            "please report this with its version." };
+    std::size_t start = 0;
+    for (std::uint32_t content = 0; start < blocks.size(); ++content) {
+        const std::uint64_t size = m_tree->contents()[content].size;
+        const Marker marker = markerOf(content);
+        const auto compared = static_cast<std::size_t>(std::min<std::uint64_t>(size, marker.size()));
+        if (std::memcmp(&blocks[start], marker.data(), compared) != 0)
+            return Error { Exit::failed,
+                           "The image cannot be produced: libisofs laid the files out in an unknown way; "
+                           "please report this with its version." };
+        start += static_cast<std::size_t>(blocksFor(std::min<std::uint64_t>(size, blocks.size()))) * blockSize;
+    }
     m_source.reset();
     m_image.reset();
     return {};

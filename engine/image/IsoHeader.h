@@ -54,8 +54,8 @@ private:
     std::unique_ptr<burn::burn_source, SourceRelease> m_source;
     std::uint32_t m_imageBlocks = 0;
     std::uint64_t m_left = 0; ///< bytes before the data of the files still to come
-    std::uint32_t m_firstContent = 0; ///< number of the first that has data
-    std::size_t m_firstMarker = 0; ///< bytes of its marker that fit into it, 0 when nothing has data
+    std::uint64_t m_dataBlocks = 0;
+    const FolderTree *m_tree = nullptr;
 };
 
 } // namespace engine::image

@@ -1,17 +1,19 @@
 #include "compilation/Capacity.h"
 
+#include <QHash>
 #include <QList>
 
 namespace compilation {
 
 qint32 capacity(Page page, qint64 kind)
 {
-    static const QList<qint32> audio{constAudioCDCDASpaceInSeconds, constAudioCDMP3SpaceInSeconds,
-                                     constAudioDVDMP3SpaceInSeconds};
-    static const QList<qint32> video{constVideoDVDSpaceInSeconds, constVideoBRSpaceInSeconds};
-    static const QList<qint32> data{constDataCDSpaceInKBytes, constDataDVDSpaceInKBytes, constDataBRSpaceInKBytes};
-    const QList<qint32> &kinds = page == Page::Audio ? audio : page == Page::Video ? video : data;
-    return kinds.value(kind, 0);
+    static const QHash<Page, QList<qint32>> kinds{
+        {Page::Audio,
+         {constAudioCDCDASpaceInSeconds, constAudioCDMP3SpaceInSeconds, constAudioDVDMP3SpaceInSeconds}},
+        {Page::Video, {constVideoDVDSpaceInSeconds, constVideoBRSpaceInSeconds}},
+        {Page::Data, {constDataCDSpaceInKBytes, constDataDVDSpaceInKBytes, constDataBRSpaceInKBytes}},
+    };
+    return kinds.value(page).value(kind, 0);
 }
 
 qint64 percentage(quint64 total, qint32 capacity)

@@ -18,7 +18,7 @@ inline constexpr qint32 constDataBRSpaceInKBytes = 26214400;
 enum class Page { Audio = 1, Video = 2, Data = 3 };
 
 /// Capacity of the page's disc kind (0, 1, 2 as in i_Audio_Type, i_Video_Type, i_Data_Type), in
-/// seconds for audio and video and in units of 1024 bytes for data; 0 for a kind that is none.
+/// seconds for audio and video and in units of 1024 bytes for data; 0 for a kind or a page that is none.
 qint32 capacity(Page page, qint64 kind);
 
 /// Whole per cent, cut off, not limited to 100; 0 without a capacity.

@@ -78,7 +78,7 @@ NodeMediaFile mediaRecord(const QUrl &url, const QString &path)
     const qsizetype slash = path.lastIndexOf(u'/');
     record.s_File_URL = url;
     record.s_File_Path = path;
-    record.s_Folder_Path = path.left(qMax(slash, qsizetype(0)));
+    record.s_Folder_Path = slash == 0 ? u"/"_s : path.left(qMax(slash, qsizetype(0)));
     record.s_File_Name_With_Extension = path.mid(slash + 1);
     record.s_File_Extension = pathExtension(record.s_File_Name_With_Extension);
     record.s_File_Size = sizeText(fileSize(path));

@@ -8,7 +8,7 @@
 struct NodeMediaFile {
     QUrl s_File_URL; ///< what the preview player opens
     QString s_File_Path; ///< full path
-    QString s_Folder_Path; ///< the folder that holds the file, without a trailing slash
+    QString s_Folder_Path; ///< the folder that holds the file, without a trailing slash but for the root
     QString s_File_Name_With_Extension; ///< last path component
     QString s_File_Extension; ///< without the dot, in the case in which it stands in the name
     QString s_File_Size; ///< size text

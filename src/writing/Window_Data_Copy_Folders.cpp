@@ -43,7 +43,7 @@ QString Window_Data_Copy_Folders::copyDestination(const QString &dataFolder, con
     if (!taken(target))
         return dataFolder;
     for (qint64 n = 1;; ++n) {
-        const QString numbered = u"%1 %2"_s.arg(target).arg(n);
+        const QString numbered = u"%1 %2"_s.arg(target, QString::number(n));
         if (!taken(numbered))
             return numbered;
     }
@@ -78,7 +78,9 @@ void Window_Data_Copy_Folders::copyNextFolder()
     m_target = u"%1/%2"_s.arg(m_controller->s_Data_Folder, name);
     const QString destination = copyDestination(m_controller->s_Data_Folder, name);
     QDir().mkpath(destination);
-    m_ui->labelDescription->setText(tr("%1 (%2 of %3)").arg(name).arg(m_index + 1).arg(m_controller->arrayDataFolders.size()));
+    m_ui->labelDescription->setText(
+        tr("%1 (%2 of %3)")
+            .arg(name, QString::number(m_index + 1), QString::number(m_controller->arrayDataFolders.size())));
     startCopy(source, destination);
     timerCloseWindow.start(m_controller->around.stagingPoll);
 }

@@ -21,7 +21,8 @@ public:
     NotingTool(const QString &folder, const QString &name) : m_path(folder + QLatin1Char('/') + name)
     {
         QFile script(m_path);
-        Q_ASSERT(script.open(QIODevice::WriteOnly) || !"script");
+        if (!script.open(QIODevice::WriteOnly))
+            qFatal("%s cannot be written", qUtf8Printable(m_path));
         // Arguments end with a unit separator, runs with a record separator, so that any name can be noted.
         script.write("#!/bin/sh\n"
                      "{ for argument; do printf '%s\\037' \"$argument\"; done; printf '\\036'; } >> \"$0.log\"\n"
@@ -72,7 +73,8 @@ private:
     static void write(const QString &path, const QByteArray &content)
     {
         QFile file(path);
-        Q_ASSERT(file.open(QIODevice::WriteOnly) || !"write");
+        if (!file.open(QIODevice::WriteOnly))
+            qFatal("%s cannot be written", qUtf8Printable(path));
         file.write(content);
     }
 

@@ -185,6 +185,13 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(m_drutil->recorder() + u"/discs"_s));
     }
 
+    void aRecorderTellsItsFolder()
+    {
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        QCOMPARE((*m_drutil)({ u"folder"_s, u"-drive"_s, u"1"_s }).out, m_drutil->recorder() + u'\n');
+        QCOMPARE((*m_drutil)({ u"folder"_s, u"-drive"_s, u"7"_s }).exit, 3);
+    }
+
     void writeOnceMediaAreNotErased()
     {
         for (const auto &kind : { u"cd-r"_s, u"dvd-r"_s, u"dvd+r"_s, u"bd-r"_s }) {

@@ -1,0 +1,62 @@
+# What is shipped and where it goes, and the Debian package (`cpack -G DEB` in a release build).
+# The main CMakeLists.txt includes this last, when every target is known.
+set(CORVALIS_LIBEXEC ${CMAKE_INSTALL_LIBEXECDIR}/corvalis)
+set(packaging ${PROJECT_SOURCE_DIR}/packaging)
+
+# The target "programs" is everything that a running Corvalis needs, without tests and benchmarks.
+add_custom_target(programs)
+foreach(program corvalis drutil hdiutil corvalis_preview)
+  if(TARGET ${program})
+    add_dependencies(programs ${program})
+  endif()
+endforeach()
+
+# The engine's programs lie beside Corvalis and not among the user's commands: another package may own
+# /usr/bin/drutil, and Corvalis uses that one when it is there.
+install(TARGETS corvalis RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+foreach(program drutil hdiutil)
+  if(TARGET ${program})
+    install(TARGETS ${program} RUNTIME DESTINATION ${CORVALIS_LIBEXEC})
+  endif()
+endforeach()
+install(FILES ${CMAKE_BINARY_DIR}/libexec/corvalis/ffmpeg DESTINATION ${CORVALIS_LIBEXEC}) # a link, kept as one
+
+install(FILES src/ui/icons/corvalis.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+install(FILES ${packaging}/corvalis.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES ${packaging}/org.corvalis.Corvalis.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES ${packaging}/copyright README.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/corvalis)
+
+# Installed compressed, without a time stamp so that a build can be reproduced.
+function(install_compressed file name destination)
+  set(compressed ${CMAKE_BINARY_DIR}/packaging/${name}.gz)
+  add_custom_command(OUTPUT ${compressed}
+    COMMAND gzip -9nc ${file} > ${compressed} DEPENDS ${file} VERBATIM)
+  add_custom_target(compress-${name} ALL DEPENDS ${compressed})
+  install(FILES ${compressed} DESTINATION ${destination})
+endfunction()
+file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/packaging)
+install_compressed(${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog ${CMAKE_INSTALL_DOCDIR})
+file(GLOB pages CONFIGURE_DEPENDS ${packaging}/man/*.1)
+foreach(page ${pages})
+  get_filename_component(name ${page} NAME)
+  install_compressed(${page} ${name} ${CMAKE_INSTALL_MANDIR}/man1)
+endforeach()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME corvalis)
+set(CPACK_PACKAGE_CONTACT "The Corvalis developers <corvalis@localhost>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "prepare and write CDs, DVDs and Blu-ray discs")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION otherosfs)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "ffmpeg, libqt6svg6, qt6-qpa-plugins")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, udisks2")
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+"Choose a kind of disc, fill the list, watch the gauge, press one button. Corvalis
+makes audio, MP3, video and data discs, ISO images of folders and copies of discs,
+erases rewritable ones, and plays what is listed.
+.
+Where there is no burner it writes to a virtual recorder, whose discs are files.")
+include(CPack)

@@ -117,7 +117,7 @@ bool isOpenEnded(std::uint32_t size, std::uint32_t riffSize, std::uint64_t rest,
     if (size == unknownSize || size > rest)
         return true;
     const bool riffIsOpen = riffSize == unknownSize || riffSize + chunkHeader > fileSize
-        || riffSize + chunkHeader <= fileSize - rest - chunkHeader;
+        || riffSize + chunkHeader <= fileSize - rest;
     return size == 0 && riffIsOpen;
 }
 

@@ -204,22 +204,25 @@ LibburnMessage LibburnDrive::takeMessage()
     return first;
 }
 
-LibburnDrive::Outcome LibburnDrive::wait(report::Phase busy, report::Family family, unsigned unitBytes,
-    const std::function<bool()> &sourceFailed, const Control &control)
+LibburnDrive::Outcome LibburnDrive::wait(Stop stop, report::Phase busy, report::Family family,
+    unsigned unitBytes, const std::function<bool()> &sourceFailed, const Control &control)
 {
     Outcome outcome;
     auto pause = 1ms;
     bool cancelled = false;
+    report::Phase phase = busy;
     burn_progress p{};
     for (burn_drive_status status; (status = burn_drive_get_status(handle(), &p)) != BURN_DRIVE_IDLE;) {
         if (status != BURN_DRIVE_SPAWNING) {
             outcome.sectors = std::max(outcome.sectors, static_cast<std::uint64_t>(std::max(p.sector, 0)));
-            control.report(progressOf(p, phaseOf(status, busy), family), unitBytes);
+            // A DVD goes back to "writing" for a moment between closing its track and its session.
+            phase = phase == report::Phase::closing ? phase : phaseOf(status, busy);
+            control.report(progressOf(p, phase, family), unitBytes);
         }
         if (outcome.signal == 0)
             outcome.signal = control.stopped();
         outcome.sourceFailed = outcome.sourceFailed || (sourceFailed && sourceFailed());
-        if (busy == report::Phase::writing && !cancelled && (outcome.signal != 0 || outcome.sourceFailed)) {
+        if (stop == Stop::cancels && !cancelled && (outcome.signal != 0 || outcome.sourceFailed)) {
             burn_drive_cancel(handle());
             cancelled = true;
         }
@@ -233,7 +236,8 @@ LibburnDrive::Outcome LibburnDrive::wait(report::Phase busy, report::Family fami
 }
 
 LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, WriteMode mode,
-    report::Family family, const std::function<bool()> &sourceFailed, const Control &control)
+    report::Phase phase, report::Family family, const std::function<bool()> &sourceFailed,
+    const Control &control)
 {
     takeMessage();
     const bool audio = !tracks.empty() && tracks.front().audio;
@@ -251,13 +255,12 @@ LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, Writ
         return refused;
     }
     burn_disc_write(options.get(), layout.disc());
-    return wait(
-        report::Phase::writing, family, audio ? audio::sectorSize : blockBytes, sourceFailed, control);
+    return wait(Stop::cancels, phase, family, audio ? audio::sectorSize : blockBytes, sourceFailed, control);
 }
 
 LibburnDrive::Outcome LibburnDrive::waitForErase(const Control &control)
 {
-    return wait(report::Phase::erasing, report::Family::none, 0, {}, control);
+    return wait(Stop::waits, report::Phase::erasing, report::Family::none, 0, {}, control);
 }
 
 std::size_t LibburnDrive::read(std::uint64_t block, std::span<std::byte> buffer)

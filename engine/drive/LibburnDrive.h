@@ -66,10 +66,10 @@ public:
         LibburnMessage message; ///< the gravest message of a failure
     };
 
-    /// Writes one session of `tracks` and closes the disc. `sourceFailed` is asked during the write and ends
-    /// it; may be empty.
-    Outcome write(const std::vector<Track> &tracks, WriteMode mode, report::Family family,
-        const std::function<bool()> &sourceFailed, const Control &control);
+    /// Writes one session of `tracks` and closes the disc. Progress is told as `phase`. `sourceFailed` is
+    /// asked during the write and ends it; may be empty.
+    Outcome write(const std::vector<Track> &tracks, WriteMode mode, report::Phase phase,
+        report::Family family, const std::function<bool()> &sourceFailed, const Control &control);
 
     /// Waits for an erase or a format that was started. Neither can be broken off safely (MMC-6 6.2), so a
     /// stop signal is only noted.
@@ -83,7 +83,10 @@ public:
 
 private:
     LibburnDrive(burn::burn_drive_info *infos, std::string name);
-    Outcome wait(report::Phase busy, report::Family family, unsigned unitBytes,
+    /// What a stop signal does: ends the operation, or is only noted.
+    enum class Stop { cancels, waits };
+
+    Outcome wait(Stop stop, report::Phase busy, report::Family family, unsigned unitBytes,
         const std::function<bool()> &sourceFailed, const Control &control);
 
     burn::burn_drive_info *m_infos;

@@ -61,6 +61,7 @@ private:
 
 struct PhysicalLease::Job {
     bool audio = false;
+    report::Phase phase = report::Phase::writing;
     std::function<Result<std::vector<Track>>()> tracks;
     std::function<bool()> sourceFailed;
     std::function<Result<void>()> sourceOutcome;
@@ -87,7 +88,7 @@ Result<void> PhysicalLease::write(Job &job, const report::Medium &medium, const 
             return tracks.error();
         burn_drive_set_speed(m_drive->handle(), 0, attempt.speed);
         const LibburnDrive::Outcome outcome =
-            m_drive->write(*tracks, attempt.mode, family, job.sourceFailed, control);
+            m_drive->write(*tracks, attempt.mode, job.phase, family, job.sourceFailed, control);
         if (outcome.well)
             return {};
         const bool again = untouched(outcome, medium);
@@ -128,17 +129,13 @@ Result<void> PhysicalLease::writeAudio(const audio::AudioDisc &disc, const Contr
     const Result<report::Medium> now = medium();
     if (!now)
         return now.error();
-    const auto outcome = std::make_shared<Result<void>>();
+    const auto reading = std::make_shared<AudioReading>();
     Job job;
     job.audio = true;
-    job.tracks = [&] { return audioTracks(disc, outcome); };
-    job.sourceOutcome = [&] { return *outcome; };
-    if (auto written = write(job, *now, control); !written)
-        return written;
-    // libburn fills up a track whose file failed with silence; that is no disc to be handed out.
-    if (!*outcome)
-        return writeFailure({}, *outcome, m_name, leftOf(*now, true));
-    return {};
+    job.tracks = [&] { return audioTracks(disc, reading); };
+    job.sourceFailed = [&] { return reading->failed.load(); };
+    job.sourceOutcome = [&] { return reading->outcome; };
+    return write(job, *now, control);
 }
 
 Result<void> PhysicalLease::reload()
@@ -207,6 +204,7 @@ Result<void> PhysicalLease::overwrite(
     std::uint64_t blocks, const report::Medium &medium, const Control &control)
 {
     Job job;
+    job.phase = report::Phase::erasing;
     job.tracks = [&]() -> Result<std::vector<Track>> {
         std::vector<Track> tracks(1);
         tracks.front().source = zeros(blocks * blockBytes);

@@ -67,6 +67,16 @@ bool canWrite(std::string_view cdromInfo, std::string_view name)
     });
 }
 
+bool canWrite(std::string_view udevRecord)
+{
+    constexpr std::array properties{ "CD_R", "CD_RW", "DVD_R", "DVD_RW", "DVD_R_DL", "DVD_RAM", "DVD_PLUS_R",
+        "DVD_PLUS_RW", "DVD_PLUS_R_DL", "BD_R", "BD_RE" };
+    const std::string lines = '\n' + std::string(udevRecord) + '\n';
+    return std::ranges::any_of(properties, [&](const char *property) {
+        return lines.find(std::string("\nE:ID_CDROM_") + property + "=1\n") != std::string::npos;
+    });
+}
+
 std::string busOf(const std::string &sysfsPath)
 {
     struct BusRow {
@@ -82,7 +92,8 @@ std::string busOf(const std::string &sysfsPath)
     return "SCSI";
 }
 
-std::vector<PhysicalRecord> physicalRecords(const std::string &classFolder, std::string_view cdromInfo)
+std::vector<PhysicalRecord> physicalRecords(
+    const std::string &classFolder, std::string_view cdromInfo, const std::string &udevFolder)
 {
     std::vector<std::string> names;
     std::error_code failure;
@@ -98,7 +109,8 @@ std::vector<PhysicalRecord> physicalRecords(const std::string &classFolder, std:
         const std::string base = classFolder + '/' + name;
         const std::string device = base + "/device/";
         const std::string path = fs::canonical(base, failure).string();
-        const bool writes = canWrite(cdromInfo, name);
+        const bool writes =
+            canWrite(cdromInfo, name) || canWrite(textOf(udevFolder + "/b" + attribute(base + "/dev")));
         drives.push_back({ "/dev/" + name,
             { attribute(device + "vendor"), attribute(device + "model"), attribute(device + "rev"),
                 busOf(path), writes ? "Supported" : "Read Only" },
@@ -109,7 +121,7 @@ std::vector<PhysicalRecord> physicalRecords(const std::string &classFolder, std:
 
 std::vector<PhysicalRecord> physicalRecords()
 {
-    return physicalRecords("/sys/class/block", textOf("/proc/sys/dev/cdrom/info"));
+    return physicalRecords("/sys/class/block", textOf("/proc/sys/dev/cdrom/info"), "/run/udev/data");
 }
 
 } // namespace engine::drive

@@ -124,15 +124,24 @@ bool needsFormat(int profile, bool answered, int status)
 }
 
 Result<std::vector<Track>> audioTracks(
-    const audio::AudioDisc &disc, const std::shared_ptr<Result<void>> &outcome)
+    const audio::AudioDisc &disc, const std::shared_ptr<AudioReading> &reading)
 {
+    const std::shared_ptr<Result<void>> outcome(reading, &reading->outcome);
     std::vector<Track> tracks;
     for (const audio::AudioTrack &track : disc.tracks) {
         auto stream = audio::TrackStream::open(track);
         if (!stream)
             return stream.error();
+        const auto inner = std::make_shared<Source>(
+            audio::newTrackSource(std::move(stream).value(), track.sectors, outcome));
+        const auto fill = [inner, reading](std::span<std::byte> out) {
+            const std::ptrdiff_t n = readSource(inner->get(), out);
+            if (n < 0)
+                reading->failed = true;
+            return n;
+        };
         Track added;
-        added.source = Source(audio::newTrackSource(std::move(stream).value(), track.sectors, outcome));
+        added.source = newSource(std::uint64_t{ track.sectors } * audio::sectorSize, fill);
         added.audio = true;
         added.pregap = tracks.empty() ? static_cast<int>(audio::firstPause) : 0;
         tracks.push_back(std::move(added));

@@ -4,10 +4,13 @@
 #include "drive/LibburnDrive.h"
 #include "report/Medium.h"
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace engine::drive {
 
@@ -26,9 +29,15 @@ std::uint64_t volumeBlocks(std::span<const std::byte> descriptor);
 /// by libburn in the course of a write.
 bool needsFormat(int profile, bool answered, int status);
 
+/// How the files of an audio disc are read. libburn fills up a track whose source fails with silence.
+struct AudioReading {
+    Result<void> outcome; ///< names the file that failed; to be read when libburn has ended
+    std::atomic<bool> failed = false; ///< may be asked at any time
+};
+
 /// The tracks of a session at once: the pause of two seconds before the first, none added between.
-/// `outcome` is told of a file that fails.
+/// `reading` is told of a file that fails.
 Result<std::vector<Track>> audioTracks(
-    const audio::AudioDisc &disc, const std::shared_ptr<Result<void>> &outcome);
+    const audio::AudioDisc &disc, const std::shared_ptr<AudioReading> &reading);
 
 } // namespace engine::drive

@@ -173,7 +173,8 @@ Result<void> VirtualLease::write(Content content, const std::shared_ptr<TapState
         std::vector<Track> tracks;
         tracks.push_back(std::move(content.track));
         outcome = (*drive)->write(
-            tracks, WriteMode::trackAtOnce, family, [&] { return tapState->ranDry.load(); }, control);
+            tracks, WriteMode::trackAtOnce, report::Phase::writing, family,
+            [&] { return tapState->ranDry.load(); }, control);
     }
     if (!outcome.well || tapState->bytes.load() < content.bytes)
         return abandon(*state, *file, outcome, sourceOutcome());

@@ -24,6 +24,8 @@ std::string stateSentence(const std::string &driveName, Left left)
         return " The disc in " + driveName + " is still blank.";
     case Left::spoilt:
         return " The disc in " + driveName + " is spoilt.";
+    case Left::overwritable:
+        return " What the disc in " + driveName + " holds is incomplete; it can be written again.";
     case Left::erasable:
         break;
     }
@@ -36,6 +38,8 @@ Left leftOf(const report::Medium &before, bool touched)
 {
     if (!touched && before.state == report::MediumState::blank)
         return Left::blank;
+    if (before.rewriting == report::Rewriting::overwrite)
+        return Left::overwritable;
     return report::canErase(before) ? Left::erasable : Left::spoilt;
 }
 
@@ -44,7 +48,7 @@ Error writeFailure(
 {
     const std::string state = stateSentence(driveName, left);
     if (outcome.signal != 0)
-        return stoppedBy(outcome.signal, "The write was stopped." + state);
+        return stoppedBy(outcome.signal, "Stopped." + state);
     if (!source)
         return { source.error().exit, withoutFullStop(source.error().message) + "." + state };
     if (outcome.sourceFailed)

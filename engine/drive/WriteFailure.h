@@ -12,6 +12,7 @@ enum class Left {
     blank, ///< nothing reached it
     spoilt, ///< write-once: it can only be thrown away
     erasable, ///< it can be erased and used again
+    overwritable, ///< it can be written again as it is
 };
 
 /// What is left of a medium when a write to it broke off. `touched` tells whether anything reached it.

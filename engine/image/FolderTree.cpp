@@ -19,7 +19,7 @@ namespace {
 
 // A folder that links lead to again and again, each time below another, multiplies without end
 // for practical purposes although no path returns to its own ancestor.
-constexpr std::uint32_t mostLinkedFolders = 100000;
+constexpr std::uint32_t mostLinkedFolders = 20000;
 
 // Beyond this the offsets of names no longer fit (and no disc holds the directory records).
 constexpr std::size_t mostTextBytes = UINT32_MAX - PATH_MAX - NAME_MAX;

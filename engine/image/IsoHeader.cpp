@@ -390,10 +390,11 @@ Result<void> IsoHeader::finish()
         const Marker marker = markerOf(content);
         const auto compared = static_cast<std::size_t>(std::min<std::uint64_t>(size, marker.size()));
         if (std::memcmp(&blocks[start], marker.data(), compared) != 0)
-            return Error { Exit::failed,
-                           "The image cannot be produced: libisofs laid the files out in an unknown way; "
-                           "please report this with its version." };
-        start += static_cast<std::size_t>(blocksFor(std::min<std::uint64_t>(size, blocks.size()))) * blockSize;
+            return Error{ Exit::failed,
+                "The image cannot be produced: libisofs laid the files out in an unknown way; "
+                "please report this with its version." };
+        start +=
+            static_cast<std::size_t>(blocksFor(std::min<std::uint64_t>(size, blocks.size()))) * blockSize;
     }
     m_source.reset();
     m_image.reset();

@@ -11,6 +11,20 @@ namespace {
 
 constexpr std::uint32_t mostExamples = 3;
 
+constexpr std::size_t longestExample = 80;
+
+/// The end of a long path, which is what tells it from others.
+std::string example(std::string path)
+{
+    if (path.size() > longestExample) {
+        std::size_t cut = path.size() - longestExample;
+        while (cut < path.size() && utf8Length(std::string_view(path).substr(cut)) == 0)
+            ++cut;
+        path.replace(0, cut, "...");
+    }
+    return quoted(path);
+}
+
 /// Collects the names that share a fate.
 struct Fate {
     const char *text;
@@ -20,7 +34,7 @@ struct Fate {
     void add(const FolderTree &tree, std::uint32_t entry)
     {
         if (++count <= mostExamples)
-            examples += (count > 1 ? ", " : "") + quoted(tree.path(entry));
+            examples += (count > 1 ? ", " : "") + example(tree.path(entry));
     }
 
     void tell(std::vector<std::string> &notes) const

@@ -141,8 +141,7 @@ Medium mediumFromAnswers(const DriveAnswers &a)
     medium.state = stateFromAnswers(a, medium.rewriting);
     medium.speeds = a.speeds;
     std::ranges::sort(medium.speeds);
-    const auto repeated = std::ranges::unique(medium.speeds);
-    medium.speeds.erase(repeated.begin(), repeated.end());
+    medium.speeds.erase(std::unique(medium.speeds.begin(), medium.speeds.end()), medium.speeds.end());
 
     if (medium.rewriting == Rewriting::overwrite) {
         medium.capacity = std::max(a.freeBlocks, a.readableBlocks);

@@ -40,7 +40,8 @@ std::string progressText(const Progress &p)
             part.data(), part.size(), ": %.1f %%", static_cast<double>(static_cast<int>(share * 1000)) / 10);
         text += part.data();
     }
-    if (p.speed > 0 && singleSpeed(p.family) > 0)
+    // Below a tenth a factor says nothing: the drive is catching up or finishing.
+    if (p.speed > 0.1 * singleSpeed(p.family) && p.family != Family::none)
         text += ", " + speedFactor(p.speed, p.family);
     if (p.bufferPercent) {
         std::snprintf(part.data(), part.size(), ", buffer %d %%", *p.bufferPercent);

@@ -58,27 +58,37 @@ private Q_SLOTS:
         addDrive(u"sr1"_s, u"pci0000:00/ata2/host1"_s, "HL-DT-ST\n", "DVDRAM GH24NSD1 \n", "LG00\n");
         addDrive(u"sr0"_s, u"platform/host3/session1"_s, "IET     \n", "VIRTUAL-CDROM   \n", "0001\n");
         QVERIFY(QDir().mkpath(m_dir.path() + u"/class/sda"_s));
+        // A Blu-ray writer of which the kernel's table says nothing.
+        addDrive(u"sr11"_s, u"pci0000:00/usb2/2-2/host10"_s, "PIONEER\n", "BD-RW BDR-XD07\n", "1.01\n");
+        QFile number(m_dir.path() + u"/class/sr11/dev"_s);
+        QVERIFY(number.open(QFile::WriteOnly) && number.write("11:11\n") == 6);
+        QVERIFY(QDir().mkpath(m_dir.path() + u"/udev"_s));
+        QFile record(m_dir.path() + u"/udev/b11:11"_s);
+        QVERIFY(record.open(QFile::WriteOnly)
+            && record.write("S:cdrom\nE:ID_CDROM=1\nE:ID_CDROM_BD_RE=1\nG:systemd\n") > 0);
         QVERIFY(QDir().mkpath(m_dir.path() + u"/class/srx"_s));
         QVERIFY(QDir().mkpath(m_dir.path() + u"/class/sr"_s));
     }
 
     void drivesAreListedInTheOrderOfTheirNames()
     {
-        const auto drives = physicalRecords(m_dir.path().toStdString() + "/class", table);
-        QCOMPARE(drives.size(), std::size_t(3));
+        const auto drives = physicalRecords(
+            m_dir.path().toStdString() + "/class", table, m_dir.path().toStdString() + "/udev");
+        QCOMPARE(drives.size(), std::size_t(4));
         QCOMPARE(drives[0].device, std::string("/dev/sr0"));
         QCOMPARE(drives[1].device, std::string("/dev/sr1"));
         QCOMPARE(drives[2].device, std::string("/dev/sr10"));
-        QCOMPARE(QString::fromStdString(
-                     report::driveListText({ drives[0].record, drives[1].record, drives[2].record })),
+        QCOMPARE(QString::fromStdString(report::driveListText(
+                     { drives[0].record, drives[1].record, drives[2].record, drives[3].record })),
             u"   Vendor   Product           Rev   Bus       SupportLevel\n"
             "1  IET      VIRTUAL-CDROM     0001  iSCSI     Supported\n"
             "2  HL-DT-ST DVDRAM GH24NSD1   LG00  SATA      Supported\n"
-            "3  HL-DT-ST BD-RE BU40N       1.03  USB       Read Only\n"_s);
-        QVERIFY(drives[0].writes && drives[1].writes && !drives[2].writes);
+            "3  HL-DT-ST BD-RE BU40N       1.03  USB       Read Only\n"
+            "4  PIONEER  BD-RW BDR-XD07    1.01  USB       Supported\n"_s);
+        QVERIFY(drives[0].writes && drives[1].writes && !drives[2].writes && drives[3].writes);
     }
 
-    void noDrives() { QVERIFY(physicalRecords(m_dir.path().toStdString() + "/nothing", table).empty()); }
+    void noDrives() { QVERIFY(physicalRecords(m_dir.path().toStdString() + "/nothing", table, "").empty()); }
 
     void aTableWithoutTheDrive()
     {
@@ -86,6 +96,14 @@ private Q_SLOTS:
         QVERIFY(!canWrite("", "sr0"));
         QVERIFY(!canWrite("drive name:\tsr0\nCan write CD-R:\n", "sr0"));
         QVERIFY(canWrite("drive name:\tsr0\nCan write CD-R:\t1", "sr0"));
+    }
+
+    void udevRecords()
+    {
+        QVERIFY(canWrite("E:ID_CDROM_CD_R=1"));
+        QVERIFY(canWrite("S:dvd\nE:ID_CDROM_DVD_PLUS_R=1\n"));
+        QVERIFY(!canWrite(""));
+        QVERIFY(!canWrite("E:ID_CDROM_CD_R=0\nE:ID_CDROM_MEDIA_CD_R=1\nE:ID_CDROM_BD=1\n"));
     }
 
     void buses_data()

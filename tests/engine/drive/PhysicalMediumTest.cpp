@@ -74,8 +74,8 @@ private Q_SLOTS:
         }
         const auto disc = audio::readAudioFolder(dir.path().toStdString());
         QVERIFY(disc);
-        const auto outcome = std::make_shared<Result<void>>();
-        const auto tracks = audioTracks(*disc, outcome);
+        const auto reading = std::make_shared<AudioReading>();
+        const auto tracks = audioTracks(*disc, reading);
         QVERIFY(tracks);
         QCOMPARE(tracks->size(), std::size_t(3));
         for (std::size_t i = 0; i < tracks->size(); ++i) {
@@ -90,14 +90,34 @@ private Q_SLOTS:
             QCOMPARE(all[sizes.at(qsizetype(i)) - 1], std::byte{ 0x11 });
             QCOMPARE(all[sizes.at(qsizetype(i))], std::byte{ 0 });
         }
-        QVERIFY(*outcome);
+        QVERIFY(reading->outcome);
+        QVERIFY(!reading->failed);
+    }
+
+    void aTrackThatBecomesShorterIsNoticed()
+    {
+        QTemporaryDir dir;
+        QFile file(dir.filePath(u"short.wav"_s));
+        QVERIFY(file.open(QFile::WriteOnly));
+        file.write(waveFile(2352 * 400));
+        file.close();
+        const auto disc = audio::readAudioFolder(dir.path().toStdString());
+        QVERIFY(disc);
+        const auto reading = std::make_shared<AudioReading>();
+        const auto tracks = audioTracks(*disc, reading);
+        QVERIFY(tracks);
+        QVERIFY(file.resize(2352 * 10));
+        std::vector<std::byte> all(2352 * 400);
+        QCOMPARE(readSource(tracks->front().source.get(), all), std::ptrdiff_t(-1));
+        QVERIFY(reading->failed);
+        QVERIFY(QString::fromStdString(reading->outcome.error().message).contains(u"short.wav"_s));
     }
 
     void aTrackThatIsGoneIsNamed()
     {
         audio::AudioDisc disc;
         disc.tracks.push_back({ "/no/such/track.wav", {}, 300 });
-        const auto tracks = audioTracks(disc, std::make_shared<Result<void>>());
+        const auto tracks = audioTracks(disc, std::make_shared<AudioReading>());
         QVERIFY(!tracks);
         QVERIFY(QString::fromStdString(tracks.error().message).contains(u"/no/such/track.wav"_s));
     }

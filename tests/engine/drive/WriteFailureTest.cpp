@@ -41,10 +41,12 @@ private Q_SLOTS:
         const LibburnMessage sense{ 0x2013c, 0,
             "SCSI error on write(16,16): [3 0C 00] Medium error. Write error. " };
         QTest::newRow("ctrl-c") << outcome(SIGINT, false, {}) << QString() << int(Left::spoilt) << 130
-                                << u"The write was stopped. The disc in drive 1 is spoilt."_s;
-        QTest::newRow("term")
-            << outcome(SIGTERM, true, sense) << QString() << int(Left::erasable) << 143
-            << u"The write was stopped. The disc in drive 1 has to be erased before it can be used."_s;
+                                << u"Stopped. The disc in drive 1 is spoilt."_s;
+        QTest::newRow("term") << outcome(SIGTERM, true, sense) << QString() << int(Left::erasable) << 143
+                              << u"Stopped. The disc in drive 1 has to be erased before it can be used."_s;
+        QTest::newRow("term on DVD+RW")
+            << outcome(SIGTERM, false, {}) << QString() << int(Left::overwritable) << 143
+            << u"Stopped. What the disc in drive 1 holds is incomplete; it can be written again."_s;
         QTest::newRow("file") << outcome(0, true, {}) << u"\"a\" became shorter."_s << int(Left::blank) << 1
                               << u"\"a\" became shorter. The disc in drive 1 is still blank."_s;
         QTest::newRow("end") << outcome(0, true, {}) << QString() << int(Left::spoilt) << 1
@@ -79,7 +81,7 @@ private Q_SLOTS:
         QCOMPARE(int(leftOf(medium(MediumKind::cdR), false)), int(Left::blank));
         QCOMPARE(int(leftOf(medium(MediumKind::cdR), true)), int(Left::spoilt));
         QCOMPARE(int(leftOf(medium(MediumKind::cdRw), true)), int(Left::erasable));
-        QCOMPARE(int(leftOf(medium(MediumKind::bdRe), true)), int(Left::erasable));
+        QCOMPARE(int(leftOf(medium(MediumKind::bdRe), true)), int(Left::overwritable));
         QCOMPARE(int(leftOf(medium(MediumKind::bdR), true)), int(Left::spoilt));
     }
 

@@ -1,0 +1,239 @@
+// The layout of audio discs: order, lengths, cue sheets, sectors.
+#include "audio/AudioDisc.h"
+
+#include "../image/Trees.h"
+#include "Waves.h"
+#include "audio/TrackStream.h"
+
+#include <libburn/libburn.h>
+
+using namespace engine;
+using namespace engine::audio;
+
+class AudioDiscTest : public QObject {
+    Q_OBJECT
+
+    static bool setTime(const std::string &path, long seconds, long nanoseconds = 0)
+    {
+        const timespec times[2] = { { seconds, nanoseconds }, { seconds, nanoseconds } };
+        return utimensat(AT_FDCWD, path.c_str(), times, 0) == 0;
+    }
+
+    static bool makeWave(const std::string &path, std::size_t bytes, long seconds, long nanoseconds = 0)
+    {
+        return makeFile(path, wave(bytes)) && setTime(path, seconds, nanoseconds);
+    }
+
+    static QStringList namesOf(const AudioDisc &disc)
+    {
+        QStringList names;
+        for (const AudioTrack &track : disc.tracks)
+            names << QString::fromStdString(track.path.substr(track.path.rfind('/') + 1));
+        return names;
+    }
+
+    static std::string samplesOf(std::size_t bytes) { return wave(bytes).substr(44); }
+
+private Q_SLOTS:
+    void naturalOrder_data()
+    {
+        QTest::addColumn<QByteArray>("less");
+        QTest::addColumn<QByteArray>("more");
+        const auto row = [](const char *less, const char *more) {
+            QTest::newRow(less) << QByteArray(less) << QByteArray(more);
+        };
+        row("2.wav", "10.wav");
+        row("a2b3", "a2b20");
+        row("a9", "a10b");
+        row("a", "a1");
+        row("A", "a");
+        row("01", "1"); // equal by value: by bytes
+        row("1", "02");
+        row("a 99999999999999999999999998", "a 99999999999999999999999999");
+        row("", "a");
+        row("z", "\xc3\xa4");
+        row("a0", "a1");
+    }
+
+    void naturalOrder()
+    {
+        QFETCH(QByteArray, less);
+        QFETCH(QByteArray, more);
+        QVERIFY(naturalLess(less.toStdString(), more.toStdString()));
+        QVERIFY(!naturalLess(more.toStdString(), less.toStdString()));
+        QVERIFY(!naturalLess(less.toStdString(), less.toStdString()));
+    }
+
+    void lengths_data()
+    {
+        QTest::addColumn<quint64>("bytes");
+        QTest::addColumn<quint32>("sectors");
+        QTest::newRow("one frame") << quint64(4) << 300U;
+        QTest::newRow("four seconds") << quint64(300 * 2352) << 300U;
+        QTest::newRow("a frame more") << quint64(300 * 2352 + 4) << 301U;
+        QTest::newRow("whole sectors") << quint64(1000 * 2352) << 1000U;
+        QTest::newRow("4 GiB") << quint64(4294967292) << 1826092U;
+    }
+
+    void lengths()
+    {
+        QFETCH(quint64, bytes);
+        QTEST(quint32(sectorsFor(bytes)), "sectors");
+    }
+
+    void cueSheets()
+    {
+        std::vector<AudioTrack> tracks{ { "a", {}, 300 }, { "b", {}, 75 * 60 + 1 }, { "c", {}, 400 } };
+        QCOMPARE(cueSheet("disc.bin", tracks),
+            std::string("FILE \"disc.bin\" BINARY\n"
+                        "  TRACK 01 AUDIO\n    INDEX 00 00:00:00\n    INDEX 01 00:02:00\n"
+                        "  TRACK 02 AUDIO\n    INDEX 01 00:06:00\n"
+                        "  TRACK 03 AUDIO\n    INDEX 01 01:06:01\n"));
+        QVERIFY(cueSheet("a\"b\nc", tracks).starts_with("FILE \"a_b_c\" BINARY\n"));
+        QCOMPARE(msf(100 * 60 * 75 + 74), std::string("100:00:74"));
+        tracks.assign(12, { "x", {}, 300 });
+        QVERIFY(
+            cueSheet("disc.bin", tracks).find("  TRACK 09 AUDIO\n    INDEX 01 00:34:00\n  TRACK 10 AUDIO\n")
+            != std::string::npos);
+    }
+
+    void orderOfAFolder()
+    {
+        Scratch scratch;
+        QVERIFY(makeWave(scratch.path("f/z last by name.wav"), 4000, 1000, 1));
+        QVERIFY(makeWave(scratch.path("f/a.wav"), 4000, 1000, 2));
+        QVERIFY(makeWave(scratch.path("f/track 10.wav"), 4000, 2000));
+        QVERIFY(makeWave(scratch.path("f/track 9.WAV"), 4000, 2000));
+        QVERIFY(makeWave(scratch.path("f/\xff.Wave"), 4000, 500));
+        QVERIFY(makeWave(scratch.path("f/.hidden.wav"), 4000, 100));
+        QVERIFY(makeFile(scratch.path("f/cover.jpg"), "picture") && makeFolder(scratch.path("f/folder.wav")));
+        const auto disc = readAudioFolder(scratch.path("f"));
+        QVERIFY2(disc, disc ? "" : disc.error().message.c_str());
+        QCOMPARE(namesOf(*disc).mid(1),
+            (QStringList{ QStringLiteral("z last by name.wav"), QStringLiteral("a.wav"),
+                QStringLiteral("track 9.WAV"), QStringLiteral("track 10.wav") }));
+        QVERIFY(disc->tracks.front().path.ends_with("/\xff.Wave"));
+        QCOMPARE(disc->notes.size(), 2U);
+        QCOMPARE(disc->sectorCount(), 150U + 5 * 300);
+    }
+
+    void refusals()
+    {
+        Scratch scratch;
+        QVERIFY(makeFolder(scratch.path("empty")));
+        QVERIFY(readAudioFolder(scratch.path("empty")).error().message.find("holds no WAVE file")
+            != std::string::npos);
+        QVERIFY(
+            readAudioFolder(scratch.path("missing")).error().message.find("missing") != std::string::npos);
+        QVERIFY(makeWave(scratch.path("bad/1.wav"), 4000, 1));
+        QVERIFY(makeFile(scratch.path("bad/2.wav"), "no sound"));
+        QVERIFY(readAudioFolder(scratch.path("bad")).error().message.find("2.wav\" is not a WAVE file")
+            != std::string::npos);
+        QCOMPARE(mkfifo(scratch.path("bad/0.wav").c_str(), 0600), 0);
+        QVERIFY(setTime(scratch.path("bad/0.wav"), 0));
+        QVERIFY(readAudioFolder(scratch.path("bad")).error().message.find("0.wav\" is not a file")
+            != std::string::npos);
+    }
+
+    void ninetyNineTracks()
+    {
+        Scratch scratch;
+        for (int i = 0; i < 99; ++i)
+            QVERIFY(makeWave(scratch.path("f/" + std::to_string(i) + ".wav"), 400, 1));
+        const auto disc = readAudioFolder(scratch.path("f"));
+        QVERIFY(disc);
+        QCOMPARE(disc->tracks.size(), 99U);
+        QVERIFY(disc->tracks[98].path.ends_with("/98.wav"));
+        QVERIFY(makeWave(scratch.path("f/99.wav"), 400, 1));
+        QVERIFY(
+            readAudioFolder(scratch.path("f")).error().message.find("100 WAVE files") != std::string::npos);
+    }
+
+    void binFile()
+    {
+        Scratch scratch;
+        const std::size_t shortTrack = 2352 * 10 + 100, longTrack = 2352 * 600 + 4;
+        QVERIFY(makeWave(scratch.path("f/1.wav"), shortTrack, 1)
+            && makeWave(scratch.path("f/2.wav"), longTrack, 2));
+        const auto disc = readAudioFolder(scratch.path("f"));
+        QVERIFY(disc);
+        const int fd = open(scratch.path("disc.bin").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
+        std::uint32_t last = 0;
+        const auto done = writeBin(*disc, fd, "disc.bin", [&last](std::uint32_t sectors) {
+            last = sectors;
+            return true;
+        });
+        close(fd);
+        QVERIFY2(done, done ? "" : done.error().message.c_str());
+        QCOMPARE(last, disc->sectorCount());
+        const std::string expected = std::string(150 * 2352, '\0') + samplesOf(shortTrack)
+            + std::string(300 * 2352 - shortTrack, '\0') + samplesOf(longTrack) + std::string(2348, '\0');
+        QVERIFY(contentOf(scratch.path("disc.bin")) == expected);
+    }
+
+    void readByAnIndependentReader()
+    {
+        Scratch scratch;
+        QVERIFY(makeWave(scratch.path("f/1.wav"), 2352 * 400, 1)
+            && makeWave(scratch.path("f/2.wav"), 2352 * 500, 2));
+        const auto disc = readAudioFolder(scratch.path("f"));
+        QVERIFY(disc);
+        const int fd = open(scratch.path("disc.bin").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
+        QVERIFY(writeBin(*disc, fd, "disc.bin", {}));
+        close(fd);
+        QVERIFY(makeFile(scratch.path("disc.cue"), cueSheet("disc.bin", disc->tracks)));
+        QByteArray output;
+        QCOMPARE(run(QStringLiteral("cd-info"),
+                     { QStringLiteral("--no-header"), QStringLiteral("--no-device-info"),
+                         QStringLiteral("--cue-file"), QString::fromStdString(scratch.path("disc.cue")) },
+                     &output),
+            0);
+        QVERIFY2(output.contains("CD-ROM Track List (1 - 2)"), output.constData());
+        QVERIFY2(output.contains("1: 00:04:00") || output.contains("1: 00:02:00"), output.constData());
+        QVERIFY2(output.count("audio") >= 2, output.constData());
+    }
+
+    void stoppedAndFull()
+    {
+        Scratch scratch;
+        QVERIFY(makeWave(scratch.path("f/1.wav"), 2352 * 400, 1));
+        const auto disc = readAudioFolder(scratch.path("f"));
+        QVERIFY(disc);
+        int fd = open("/dev/null", O_WRONLY | O_CLOEXEC);
+        const auto stopped = writeBin(*disc, fd, "null", [](std::uint32_t) { return false; });
+        close(fd);
+        QVERIFY(!stopped);
+        QCOMPARE(stopped.error().exit, Exit::interrupted);
+        fd = open("/dev/full", O_WRONLY | O_CLOEXEC);
+        const auto full = writeBin(*disc, fd, "/dev/full", {});
+        close(fd);
+        QVERIFY(!full);
+        QVERIFY(full.error().message.find("/dev/full") != std::string::npos);
+    }
+
+    void shrinkingTrackIsNamed()
+    {
+        Scratch scratch;
+        QVERIFY(makeWave(scratch.path("f/shrinks.wav"), 2352 * 400, 1));
+        const auto disc = readAudioFolder(scratch.path("f"));
+        QVERIFY(disc);
+        auto track = TrackStream::open(disc->tracks.front());
+        QVERIFY(track);
+        auto outcome = std::make_shared<Result<void>>();
+        burn::burn_source *source = newTrackSource(std::move(*track), disc->tracks.front().sectors, outcome);
+        QCOMPARE(source->get_size(source), off_t(400 * 2352));
+        QCOMPARE(truncate(scratch.path("f/shrinks.wav").c_str(), 3000), 0);
+        std::string sector(2352, '\0');
+        auto *bytes = reinterpret_cast<unsigned char *>(sector.data());
+        QCOMPARE(source->read(source, bytes, 2352), 2352);
+        QCOMPARE(sector, samplesOf(2352));
+        QCOMPARE(source->read(source, bytes, 2352), -1);
+        burn::burn_source_free(source);
+        QVERIFY(!*outcome);
+        QVERIFY2(outcome->error().message.find("shrinks.wav") != std::string::npos,
+            outcome->error().message.c_str());
+    }
+};
+
+QTEST_GUILESS_MAIN(AudioDiscTest)
+#include "AudioDiscTest.moc"

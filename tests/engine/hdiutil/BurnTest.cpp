@@ -1,0 +1,140 @@
+// hdiutil burn on virtual recorders.
+#include "../drutil/Drutil.h"
+#include "../image/Trees.h"
+
+using namespace Qt::StringLiterals;
+
+class BurnTest : public QObject {
+    Q_OBJECT
+
+    Ran burn(const std::string &image)
+    {
+        return runProgram(qEnvironmentVariable("CORVALIS_BIN") + u"/hdiutil"_s,
+            { u"burn"_s, QString::fromStdString(image) }, m_drutil->environment());
+    }
+
+    std::string disc(int number = 1) const { return m_drutil->recorder(number).toStdString() + "/disc.iso"; }
+
+private Q_SLOTS:
+    void init() { m_drutil = std::make_unique<Drutil>(); }
+
+    void images_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("size");
+        QTest::newRow("iso") << u"disc.iso"_s << 2048 * 500;
+        QTest::newRow("img") << u"disc.img"_s << 2048 * 500;
+        QTest::newRow("raw dmg") << u"disc.dmg"_s << 2048 * 500;
+        QTest::newRow("not whole blocks") << u"odd name \"'.iso"_s << 2048 * 500 + 1;
+        QTest::newRow("one byte") << u"tiny.iso"_s << 1;
+    }
+
+    void images()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, size);
+        Scratch scratch;
+        std::string content(std::size_t(size), '\0');
+        for (int at = 0; at < size; ++at)
+            content[std::size_t(at)] = char(at * 31 + at / 2048 + 1);
+        const std::string image = scratch.path(name.toStdString());
+        QVERIFY(makeFile(image, content));
+        QVERIFY(m_drutil->insert(u"dvd-r"_s));
+        const Ran ran = burn(image);
+        QCOMPARE(ran.err, QString());
+        QCOMPARE(ran.exit, 0);
+        content.resize((content.size() + 2047) / 2048 * 2048);
+        const std::string written = contentOf(disc());
+        QVERIFY(written.size() >= content.size());
+        QVERIFY(written.compare(0, content.size(), content) == 0);
+        QCOMPARE(written.find_first_not_of('\0', content.size()), std::string::npos);
+    }
+
+    void imageOfAFolder()
+    {
+        Scratch scratch;
+        QVERIFY(makePlainTree(scratch.path("t")));
+        const Ran made = runProgram(qEnvironmentVariable("CORVALIS_BIN") + u"/hdiutil"_s,
+            { u"makehybrid"_s, u"-o"_s, QString::fromStdString(scratch.path("i.iso")),
+                QString::fromStdString(scratch.path("t")), u"-iso"_s, u"-joliet"_s });
+        QCOMPARE(made.exit, 0);
+        QVERIFY(m_drutil->insert(u"cd-rw"_s));
+        QCOMPARE(burn(scratch.path("i.iso")).exit, 0);
+        QCOMPARE(burn(scratch.path("i.iso")).exit, 0); // a rewritable disc takes it again
+        QVERIFY(extractRockRidge(disc(), scratch.path("out")));
+        QCOMPARE(difference(list(scratch.path("t"), modesAndTimes), list(scratch.path("out"), modesAndTimes)),
+            QByteArray());
+    }
+
+    void refused_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("words");
+        QByteArray compressed(8192, 'z');
+        compressed += QByteArray("koly") + QByteArray(508, '\xff');
+        QTest::newRow("compressed dmg") << compressed << u"is a compressed disk image; convert it first"_s;
+        QTest::newRow("encrypted dmg")
+            << QByteArray("encrcdsa") + QByteArray(8192, 'x') << u"is an encrypted disk image"_s;
+        QTest::newRow("empty") << QByteArray() << u"is empty"_s;
+    }
+
+    void refused()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, words);
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("image.dmg"), content.toStdString()));
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        const Ran ran = burn(scratch.path("image.dmg"));
+        QCOMPARE(ran.exit, 1);
+        QVERIFY2(ran.err.contains(words) && ran.err.contains(u"image.dmg"), qPrintable(ran.err));
+        QVERIFY(m_drutil->fact(u"Writability:"_s).contains(u"blank"));
+    }
+
+    void tooLarge()
+    {
+        Scratch scratch;
+        QVERIFY(sparseFile(QString::fromStdString(scratch.path("large.iso")), 800LL * 1000 * 1000));
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        const Ran ran = burn(scratch.path("large.iso"));
+        QCOMPARE(ran.exit, 1);
+        QVERIFY2(ran.err.contains(u"390625") && ran.err.contains(u"359844"), qPrintable(ran.err));
+        QVERIFY(m_drutil->fact(u"Writability:"_s).contains(u"blank"));
+    }
+
+    void noDisc()
+    {
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("i.iso"), std::string(4096, 'x')));
+        QVERIFY(m_drutil->insert(u"none"_s));
+        const Ran ran = burn(scratch.path("i.iso"));
+        QCOMPARE(ran.exit, 3);
+        QVERIFY2(!ran.err.isEmpty(), qPrintable(ran.err));
+        m_drutil->environment().insert(u"CORVALIS_VIRTUAL"_s, u"off"_s);
+        QCOMPARE(burn(scratch.path("i.iso")).exit, 3);
+    }
+
+    void writtenDiscIsPassedOver()
+    {
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("i.iso"), std::string(4096, 'x')));
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        QCOMPARE(burn(scratch.path("i.iso")).exit, 0);
+        QCOMPARE(burn(scratch.path("i.iso")).exit, 3);
+        QCOMPARE(contentOf(disc()).substr(0, 4096), std::string(4096, 'x'));
+    }
+
+    void missingImage()
+    {
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        const Ran ran = burn("/nowhere/i.iso");
+        QCOMPARE(ran.exit, 1);
+        QVERIFY2(ran.err.contains(u"/nowhere/i.iso\" cannot be read"), qPrintable(ran.err));
+    }
+
+private:
+    std::unique_ptr<Drutil> m_drutil;
+};
+
+QTEST_GUILESS_MAIN(BurnTest)
+#include "BurnTest.moc"

@@ -1,0 +1,235 @@
+// hdiutil makehybrid as a person or a program runs it.
+#include "../drutil/Drutil.h"
+#include "../image/Trees.h"
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+class MakehybridTest : public QObject {
+    Q_OBJECT
+
+    static QString program() { return qEnvironmentVariable("CORVALIS_BIN") + u"/hdiutil"_s; }
+    static QString text(const std::string &path) { return QString::fromStdString(path); }
+
+    static Ran make(const std::string &image, const std::string &source)
+    {
+        return runProgram(
+            program(), { u"makehybrid"_s, u"-o"_s, text(image), text(source), u"-iso"_s, u"-joliet"_s });
+    }
+
+private Q_SLOTS:
+    void options_data()
+    {
+        QTest::addColumn<QStringList>("arguments"); // @ image, % source
+        QTest::newRow("as the application")
+            << QStringList{ u"-o"_s, u"@"_s, u"%"_s, u"-iso"_s, u"-joliet"_s };
+        QTest::newRow("options first") << QStringList{ u"-joliet"_s, u"-iso"_s, u"-o"_s, u"@"_s, u"%"_s };
+        QTest::newRow("source first") << QStringList{ u"%"_s, u"-iso"_s, u"-joliet"_s, u"-o"_s, u"@"_s };
+        QTest::newRow("end of options")
+            << QStringList{ u"-iso"_s, u"-joliet"_s, u"-o"_s, u"@"_s, u"--"_s, u"%"_s };
+    }
+
+    void options()
+    {
+        QFETCH(QStringList, arguments);
+        Scratch scratch;
+        QVERIFY(makePlainTree(scratch.path("Some Folder")));
+        arguments.replaceInStrings(u"@"_s, text(scratch.path("i.iso")))
+            .replaceInStrings(u"%"_s, text(scratch.path("Some Folder")));
+        const Ran ran = runProgram(program(), QStringList{ u"makehybrid"_s } + arguments);
+        QCOMPARE(ran.err, QString());
+        QCOMPARE(ran.exit, 0);
+        QVERIFY2(ran.out.startsWith(u"Done: "), qPrintable(ran.out));
+        QVERIFY(extractJoliet(scratch.path("i.iso"), scratch.path("joliet")));
+        QCOMPARE(difference(list(scratch.path("Some Folder")), list(scratch.path("joliet"))), QByteArray());
+    }
+
+    void wrongArguments_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        const QString m = u"makehybrid"_s, o = u"-o"_s, i = u"-iso"_s, j = u"-joliet"_s;
+        QTest::newRow("nothing") << QStringList{};
+        QTest::newRow("unknown verb") << QStringList{ u"attach"_s, u"x"_s };
+        QTest::newRow("no source") << QStringList{ m, o, u"i"_s, i, j };
+        QTest::newRow("no image") << QStringList{ m, u"."_s, i, j };
+        QTest::newRow("-o at the end") << QStringList{ m, u"."_s, i, j, o };
+        QTest::newRow("empty image name") << QStringList{ m, u"."_s, i, j, o, QString() };
+        QTest::newRow("two images") << QStringList{ m, o, u"i"_s, o, u"j"_s, u"."_s, i, j };
+        QTest::newRow("two sources") << QStringList{ m, o, u"i"_s, u"."_s, u".."_s, i, j };
+        QTest::newRow("unknown option") << QStringList{ m, o, u"i"_s, u"."_s, i, j, u"-udf"_s };
+        QTest::newRow("no -joliet") << QStringList{ m, o, u"i"_s, u"."_s, i };
+        QTest::newRow("burn: nothing") << QStringList{ u"burn"_s };
+        QTest::newRow("burn: option") << QStringList{ u"burn"_s, o, u"i"_s };
+        QTest::newRow("burn: two images") << QStringList{ u"burn"_s, u"a"_s, u"b"_s };
+    }
+
+    void wrongArguments()
+    {
+        QFETCH(QStringList, arguments);
+        const Ran ran = runProgram(program(), arguments);
+        QCOMPARE(ran.exit, 2);
+        QVERIFY2(ran.err.contains(u"\nUsage: hdiutil "), qPrintable(ran.err));
+        QCOMPARE(ran.out, QString());
+    }
+
+    void help()
+    {
+        const Ran ran = runProgram(program(), { u"--help"_s });
+        QCOMPARE(ran.exit, 0);
+        QVERIFY(ran.out.contains(u"makehybrid -o IMAGE SOURCE -iso -joliet"));
+        QCOMPARE(runProgram(program(), { u"--version"_s }).exit, 0);
+    }
+
+    void awkwardTree()
+    {
+        Scratch scratch;
+        QVERIFY(makeAwkwardTree(scratch.path("t")));
+        QCOMPARE(symlink("README", scratch.path("t/link").c_str()), 0);
+        QCOMPARE(symlink("nowhere", scratch.path("t/dangling").c_str()), 0);
+        QCOMPARE(symlink("loop", scratch.path("t/loop").c_str()), 0);
+        const Ran ran = make(scratch.path("i.iso"), scratch.path("t"));
+        QCOMPARE(ran.exit, 0);
+        QVERIFY2(ran.out.contains(u"dangling\" is left out"), qPrintable(ran.out));
+        QVERIFY2(ran.out.contains(u"loop\" is left out"), qPrintable(ran.out));
+        QVERIFY(extractRockRidge(scratch.path("i.iso"), scratch.path("out")));
+        QCOMPARE(difference(list(scratch.path("t"), followLinks), list(scratch.path("out"))), QByteArray());
+    }
+
+    void existingImageIsRefused()
+    {
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("t/file"), "x") && makeFile(scratch.path("i.iso"), "precious"));
+        const Ran ran = make(scratch.path("i.iso"), scratch.path("t"));
+        QCOMPARE(ran.exit, 1);
+        QVERIFY2(ran.err.contains(u"i.iso\" exists already"), qPrintable(ran.err));
+        QCOMPARE(contentOf(scratch.path("i.iso")), std::string("precious"));
+        QCOMPARE(symlink("nowhere", scratch.path("dangling.iso").c_str()), 0);
+        QCOMPARE(make(scratch.path("dangling.iso"), scratch.path("t")).exit, 1);
+    }
+
+    void imageInsideTheSource()
+    {
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("t/file"), "x"));
+        QCOMPARE(make(scratch.path("t/i.iso"), scratch.path("t")).exit, 0);
+        QVERIFY(extractRockRidge(scratch.path("t/i.iso"), scratch.path("out")));
+        QCOMPARE(list(scratch.path("out")).size(), 1U);
+    }
+
+    void sourceThatIsNoFolder_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::newRow("missing") << u"missing"_s;
+        QTest::newRow("file") << u"file"_s;
+    }
+
+    void sourceThatIsNoFolder()
+    {
+        QFETCH(QString, source);
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("file"), "x"));
+        const Ran ran = make(scratch.path("i.iso"), scratch.path(source.toStdString()));
+        QCOMPARE(ran.exit, 1);
+        QVERIFY2(ran.err.contains(u'/' + source + u"\" cannot be read"_s), qPrintable(ran.err));
+        QVERIFY(access(scratch.path("i.iso").c_str(), F_OK) != 0);
+    }
+
+    void folderThatTakesNoImage()
+    {
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("t/file"), "x"));
+        const Ran missing = make(scratch.path("no such folder/i.iso"), scratch.path("t"));
+        QCOMPARE(missing.exit, 1);
+        QVERIFY2(missing.err.contains(u"i.iso\" cannot be created: no such file"), qPrintable(missing.err));
+        // A folder that not even root may write into.
+        const Ran readOnly = make("/proc/i.iso", scratch.path("t"));
+        QCOMPARE(readOnly.exit, 1);
+        QVERIFY2(readOnly.err.contains(u"/proc/i.iso\" cannot be created"), qPrintable(readOnly.err));
+    }
+
+    void destinationWithoutRoom()
+    {
+        Scratch scratch;
+        QVERIFY(makeFolder(scratch.path("t")));
+        QVERIFY(sparseFile(text(scratch.path("t/huge")), 1LL << 42));
+        const Ran ran = make(scratch.path("i.iso"), scratch.path("t"));
+        QCOMPARE(ran.exit, 1);
+        QVERIFY2(ran.err.contains(u"free some space or choose another place"), qPrintable(ran.err));
+        QVERIFY(access(scratch.path("i.iso").c_str(), F_OK) != 0);
+    }
+
+    void destinationThatFillsUp()
+    {
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("t/small"), std::string(100000, 's'))
+            && makeFile(scratch.path("t/large"), std::string(5000000, 'l')));
+        // A limit on the size of files stands for a full file system.
+        const Ran ran = runProgram(u"sh"_s,
+            { u"-c"_s, u"ulimit -f 2000; exec \"$0\" \"$@\""_s, program(), u"makehybrid"_s, u"-o"_s,
+                text(scratch.path("i.iso")), text(scratch.path("t")), u"-iso"_s, u"-joliet"_s });
+        QCOMPARE(ran.exit, 1);
+        QVERIFY2(ran.err.contains(u"i.iso\" cannot be written: file too large"), qPrintable(ran.err));
+        QVERIFY(access(scratch.path("i.iso").c_str(), F_OK) != 0);
+    }
+
+    void signals_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::addColumn<int>("exit");
+        QTest::newRow("SIGINT") << SIGINT << 130;
+        QTest::newRow("SIGTERM") << SIGTERM << 143;
+    }
+
+    void signals()
+    {
+        QFETCH(int, signal);
+        QFETCH(int, exit);
+        Scratch scratch;
+        QVERIFY(makeFolder(scratch.path("t")));
+        QVERIFY(sparseFile(text(scratch.path("t/large")), 3000LL * 1000 * 1000));
+        QProcess process;
+        process.start(program(),
+            { u"makehybrid"_s, u"-o"_s, text(scratch.path("i.iso")), text(scratch.path("t")), u"-iso"_s,
+                u"-joliet"_s });
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(text(scratch.path("i.iso"))).size() > 0, 60000);
+        kill(pid_t(process.processId()), signal);
+        kill(pid_t(process.processId()), signal);
+        QVERIFY(process.waitForFinished(60000));
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), exit);
+        QVERIFY(access(scratch.path("i.iso").c_str(), F_OK) != 0);
+        QVERIFY(process.readAllStandardError().contains("Stopped"));
+    }
+
+    void nobodyReadsTheOutput()
+    {
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("t/file"), "x"));
+        for (int i = 0; i < 50; ++i)
+            QCOMPARE(symlink("nowhere", scratch.path("t/dangling" + std::to_string(i)).c_str()), 0);
+        const Ran ran = runProgram(u"sh"_s,
+            { u"-c"_s, u"\"$0\" \"$@\" | true"_s, program(), u"makehybrid"_s, u"-o"_s,
+                text(scratch.path("i.iso")), text(scratch.path("t")), u"-iso"_s, u"-joliet"_s });
+        QCOMPARE(ran.exit, 0);
+        QVERIFY(extractRockRidge(scratch.path("i.iso"), scratch.path("out")));
+    }
+
+    void namesWithDashesAndOddBytes()
+    {
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("-rf\xff/file"), "x"));
+        QCOMPARE(
+            make(scratch.path("-o\n.iso"), scratch.path("-rf\xff")).exit, 1); // QProcess cannot pass the byte
+        const Ran ran = runProgram(u"sh"_s,
+            { u"-c"_s, u"cd \"$1\" && \"$0\" makehybrid -o ./-o.iso -iso -joliet -- -rf*"_s, program(),
+                text(scratch.path()) });
+        QCOMPARE(ran.err, QString());
+        QCOMPARE(ran.exit, 0);
+        QVERIFY(extractRockRidge(scratch.path("-o.iso"), scratch.path("out")));
+        QCOMPARE(contentOf(scratch.path("out/file")), std::string("x"));
+    }
+};
+
+QTEST_GUILESS_MAIN(MakehybridTest)
+#include "MakehybridTest.moc"

@@ -1,0 +1,45 @@
+# shellcheck shell=bash
+# UDisks2, which mounts discs on a desktop, is asked to unmount them. Needs a system bus and UDisks2.
+
+udisks=/usr/libexec/udisks2/udisksd
+service=""
+if ! pgrep -x udisksd >/dev/null; then
+    $udisks >"$scratch/udisks.log" 2>&1 &
+    service=$!
+    until_true 20 udisksctl status >/dev/null 2>&1
+fi
+
+through_udisks() {
+    put_in dvd+r
+    small_folder f
+    call drutil burn f -drive "$number"
+    expect_status 0
+    udisksctl mount -b "$device" >mounted || fail "UDisks2 does not mount: $(cat "$scratch/udisks.log")"
+    # With nothing but udisksctl to be found, umount cannot have been it.
+    mkdir only
+    ln -s "$(command -v udisksctl)" only/
+    local program
+    program=$(command -v drutil)
+    PATH=$work/only "$program" tray eject -drive "$number" >out 2>err
+    status=$?
+    expect_status 0
+    ! findmnt -n -S "$device" || fail "still mounted"
+}
+check eject-through-udisks through_udisks
+
+udisks_in_use() {
+    call drutil tray close -drive "$number"
+    udisksctl mount -b "$device" >mounted || fail "UDisks2 does not mount"
+    local place
+    place=$(findmnt -n -o TARGET -S "$device")
+    (cd "$place" && exec sleep 100) &
+    local holder=$!
+    sleep 0.5
+    call drutil tray eject -drive "$number"
+    kill $holder
+    wait $holder
+    udisksctl unmount -b "$device"
+    expect_refusal 1 'mounted at .* cannot be unmounted: close the programs'
+}
+check udisks-volume-in-use udisks_in_use
+[ -z "$service" ] || { kill "$service"; wait "$service"; }

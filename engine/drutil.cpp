@@ -38,7 +38,8 @@ N is the character at the start of the drive's line in 'drutil list'. It may be 
 out while there is one drive. '--' ends the options.
 
 Virtual recorders are kept in $CORVALIS_RECORDERS (default: corvalis/recorders in the
-user's data folder); CORVALIS_VIRTUAL=off hides them, =always keeps one in any case.
+user's data folder); CORVALIS_VIRTUAL=off hides them, =always keeps one in any
+case, =only hides the physical drives.
 
 Exit status: 0 success, 1 failure, 2 wrong arguments, 3 no such drive or no disc,
 130 and 143 ended by SIGINT and SIGTERM.

@@ -14,13 +14,15 @@ namespace {
 
 using DriveList = std::vector<std::unique_ptr<Drive>>;
 
-enum class VirtualUse { automatic, off, always };
+enum class VirtualUse { automatic, off, always, only };
 
 VirtualUse virtualUse()
 {
     const char *value = std::getenv("CORVALIS_VIRTUAL");
     if (value && std::strcmp(value, "off") == 0)
         return VirtualUse::off;
+    if (value && std::strcmp(value, "only") == 0)
+        return VirtualUse::only;
     return value && std::strcmp(value, "always") == 0 ? VirtualUse::always : VirtualUse::automatic;
 }
 
@@ -36,11 +38,13 @@ Result<DriveList> findDrives(bool createRecorder)
 {
     DriveList drives;
     bool burner = false;
-    for (PhysicalRecord &record : physicalRecords()) {
-        burner = burner || record.writes;
-        drives.push_back(std::make_unique<PhysicalDrive>(std::move(record)));
-    }
     const VirtualUse use = virtualUse();
+    if (use != VirtualUse::only) {
+        for (PhysicalRecord &record : physicalRecords()) {
+            burner = burner || record.writes;
+            drives.push_back(std::make_unique<PhysicalDrive>(std::move(record)));
+        }
+    }
     if (use != VirtualUse::off) {
         const std::string base = recordersFolder();
         Result<std::vector<std::string>> folders = recorderFolders(base);

@@ -1,19 +1,26 @@
 #include "compilation/Capacity.h"
 
-#include <QHash>
-#include <QList>
+#include <array>
 
 namespace compilation {
 
 qint32 capacity(Page page, qint64 kind)
 {
-    static const QHash<Page, QList<qint32>> kinds{
-        {Page::Audio,
-         {constAudioCDCDASpaceInSeconds, constAudioCDMP3SpaceInSeconds, constAudioDVDMP3SpaceInSeconds}},
-        {Page::Video, {constVideoDVDSpaceInSeconds, constVideoBRSpaceInSeconds}},
-        {Page::Data, {constDataCDSpaceInKBytes, constDataDVDSpaceInKBytes, constDataBRSpaceInKBytes}},
+    struct Row {
+        Page page;
+        std::array<qint32, 3> kinds;
     };
-    return kinds.value(page).value(kind, 0);
+    static constexpr std::array rows{
+        Row{Page::Audio,
+            {constAudioCDCDASpaceInSeconds, constAudioCDMP3SpaceInSeconds, constAudioDVDMP3SpaceInSeconds}},
+        Row{Page::Video, {constVideoDVDSpaceInSeconds, constVideoBRSpaceInSeconds, 0}},
+        Row{Page::Data, {constDataCDSpaceInKBytes, constDataDVDSpaceInKBytes, constDataBRSpaceInKBytes}},
+    };
+    for (const Row &row : rows) {
+        if (row.page == page && kind >= 0 && kind < static_cast<qint64>(row.kinds.size()))
+            return row.kinds[static_cast<std::size_t>(kind)];
+    }
+    return 0;
 }
 
 qint64 percentage(quint64 total, qint32 capacity)

@@ -79,7 +79,7 @@ QList<int> ListTableView::selectedRows() const
             rows.append(row);
     }
     std::ranges::sort(rows);
-    rows.erase(std::ranges::unique(rows).begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
     return rows;
 }
 

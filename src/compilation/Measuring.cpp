@@ -4,6 +4,7 @@
 #include <QStringDecoder>
 
 #include <array>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -26,8 +27,9 @@ qint64 lenientNumber(QStringView field)
     qsizetype i = 0;
     while (i < field.size() && (field[i] == u' ' || field[i] == u'\t'))
         ++i;
+    constexpr qint64 most = (std::numeric_limits<qint64>::max() - 9) / 10;
     qint64 number = 0;
-    for (; i < field.size() && field[i] >= u'0' && field[i] <= u'9'; ++i)
+    for (; i < field.size() && field[i] >= u'0' && field[i] <= u'9' && number <= most; ++i)
         number = number * 10 + (field[i].unicode() - u'0');
     return number;
 }

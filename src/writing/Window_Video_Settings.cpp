@@ -30,9 +30,10 @@ Window_Video_Settings::Window_Video_Settings(AppDelegate *controller, QWidget *p
         {m_ui->radioAudioDolbyDigital, &Window_Video_Settings::OnAudioDolbyDigital},
         {m_ui->radioAudioMPEG2, &Window_Video_Settings::OnAudioMPEG2},
     };
-    for (const auto &[radio, handler] : radios) {
+    for (const auto &row : radios) {
+        QRadioButton *const radio = row.first;
         connect(radio, &QRadioButton::clicked, radio, [radio] { radio->setChecked(true); });
-        connect(radio, &QRadioButton::clicked, this, handler);
+        connect(radio, &QRadioButton::clicked, this, row.second);
     }
     connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &Window_Video_Settings::OnOK);
     connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &Window_Video_Settings::OnCancel);

@@ -86,8 +86,8 @@ Result<void> makeHybrid(const Arguments &arguments)
         return stopped(written.error());
     if (auto kept = file->keep(); !kept)
         return kept;
-    print("Done: " + quoted(path) + " holds " + std::to_string(image->fileCount()) + " files in "
-        + sizeText(size) + ".\n");
+    print("Done: " + quoted(path) + " holds " + std::to_string(image->fileCount())
+        + (image->fileCount() == 1 ? " file in " : " files in ") + sizeText(size) + ".\n");
     return {};
 }
 

@@ -3,7 +3,9 @@
 set(CORVALIS_LIBEXEC ${CMAKE_INSTALL_LIBEXECDIR}/corvalis)
 set(packaging ${PROJECT_SOURCE_DIR}/packaging)
 
-# The target "programs" is everything that a running Corvalis needs, without tests and benchmarks.
+# The target "programs" is everything that is shipped, without tests and benchmarks. Installing and packaging
+# need no more than that.
+set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
 add_custom_target(programs)
 foreach(program corvalis drutil hdiutil corvalis_preview)
   if(TARGET ${program})
@@ -32,10 +34,11 @@ function(install_compressed file name destination)
   add_custom_command(OUTPUT ${compressed}
     COMMAND gzip -9nc ${file} > ${compressed} DEPENDS ${file} VERBATIM)
   add_custom_target(compress-${name} ALL DEPENDS ${compressed})
+  add_dependencies(programs compress-${name})
   install(FILES ${compressed} DESTINATION ${destination})
 endfunction()
 file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/packaging)
-install_compressed(${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog ${CMAKE_INSTALL_DOCDIR})
+install_compressed(${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog ${CMAKE_INSTALL_DATADIR}/doc/corvalis)
 file(GLOB pages CONFIGURE_DEPENDS ${packaging}/man/*.1)
 foreach(page ${pages})
   get_filename_component(name ${page} NAME)
@@ -51,7 +54,7 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION otherosfs)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "ffmpeg, libqt6svg6, qt6-qpa-plugins")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "ffmpeg, qt6-qpa-plugins")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, udisks2")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "Choose a kind of disc, fill the list, watch the gauge, press one button. Corvalis

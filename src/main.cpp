@@ -57,8 +57,15 @@ void chooseDisplay(int argc, char **argv)
         windowless = windowless || argument.startsWith("--burn") || argument == "--help" || argument == "-h"
             || argument == "--version" || argument == "-v";
     }
-    if (windowless)
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!windowless)
+        return;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // What windows cannot do where nobody sees them is no news for a person at a terminal.
+    static QtMessageHandler others = nullptr;
+    others = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context, const QString &text) {
+        if (!text.startsWith(u"This plugin does not support"_s))
+            others(type, context, text);
+    });
 }
 
 void refuseUnreadableNames(int argc, char **argv)

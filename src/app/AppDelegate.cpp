@@ -3,6 +3,7 @@
 #include "app/MainWindow.h"
 #include "app/Preferences.h"
 #include "compilation/FolderTree.h"
+#include "compilation/ListTableView.h"
 #include "runner/ActivityLog.h"
 #include "ui_MainWindow.h"
 #include "writing/FolderStaging.h"
@@ -64,6 +65,9 @@ AppDelegate::~AppDelegate()
     for (const auto &copy : std::as_const(stagingCopies))
         copy->stop = true;
     QThreadPool::globalInstance()->waitForDone();
+    // The window may live on; its tables must not ask this object for their rows then.
+    for (ListTableView *table : {ui->tableviewAudioFiles, ui->tableviewVideoFiles, ui->tableviewDataFolders})
+        table->setModel(nullptr);
 }
 
 QString AppDelegate::preference(const QString &key) const

@@ -242,7 +242,8 @@ public:
     void OnActionDataClear();
     void OnActionDataNewDisc();
     void OnActionDataCopyDisc();
-    void addDroppedFiles(const QList<QUrl> &urls); ///< onto the list of the selected tab
+    void addDroppedFiles(const QList<QUrl> &urls); ///< onto the list of the selected tab; tells what does not fit
+    bool listTakes(int tab, const QUrl &url) const; ///< whether it can go on the tab's list
     void moveSelectedEntries(int by); ///< up (-1) or down (1) in the list of the selected tab
 
     // ---- Tables, sorting, gauge (compilation/)

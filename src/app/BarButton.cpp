@@ -104,7 +104,10 @@ QSize BarButton::sizeHint() const
 
 QSize BarButton::minimumSizeHint() const
 {
-    return m_look == Look::Card ? QSize(220, sizeHint().height()) : sizeHint();
+    if (m_look != Look::Card)
+        return sizeHint();
+    // A heading and two lines; three rows of cards have to fit into the smallest window.
+    return {220, qMax(cardIcon, QFontMetrics(headingFont()).height() * 3) + 24};
 }
 
 void BarButton::paintSymbol(QPainter &painter, const QRect &where, const QColor &colour) const

@@ -1,10 +1,14 @@
 #include "app/Questions.h"
 
 #include "app/Window_Alert.h"
+#include "compilation/FolderNames.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFileSystemModel>
+#include <QGridLayout>
+#include <QLabel>
 
 using namespace Qt::StringLiterals;
 
@@ -39,7 +43,39 @@ void setUp(QFileDialog &dialog, const OpenPanel &panel)
     }
 }
 
+/// Says below the list of a dialog's files how many it cannot show. A desktop's own dialog has no place
+/// for it, and shows all.
+void tellWhatIsHidden(QFileDialog *dialog)
+{
+    auto *const grid = qobject_cast<QGridLayout *>(dialog->layout());
+    const auto *const files = dialog->findChild<QFileSystemModel *>();
+    if (!grid || !files)
+        return;
+    auto *const label = new QLabel(dialog);
+    label->setObjectName(u"labelUnreadable"_s);
+    label->setWordWrap(true);
+    grid->addWidget(label, grid->rowCount(), 0, 1, -1);
+    const auto count = [label](const QString &folder) {
+        const int hidden = compilation::namesIn(folder).unreadable;
+        label->setVisible(hidden > 0);
+        label->setText(QFileDialog::tr("%n file(s) of this folder cannot be shown: the names are not valid UTF-8 text. "
+                                       "Rename them to choose them.", nullptr, hidden));
+    };
+    QObject::connect(files, &QFileSystemModel::rootPathChanged, label, count);
+    count(files->rootPath());
+}
+
 } // namespace
+
+QString Questions::unreadableNames()
+{
+    return QFileDialog::tr("Some files cannot be used");
+}
+
+QString Questions::unreadableNamesText()
+{
+    return QFileDialog::tr("Their names are not valid UTF-8 text. Rename them and try again.");
+}
 
 int WindowQuestions::ask(const Alert &alert, QWidget *over)
 {
@@ -54,8 +90,12 @@ QList<QUrl> WindowQuestions::choose(const OpenPanel &panel, QWidget *over)
                                                        : QDir::homePath();
     QFileDialog dialog(over, panel.message, start);
     setUp(dialog, panel);
+    tellWhatIsHidden(&dialog);
     if (dialog.exec() != QDialog::Accepted)
         return {};
     m_lastFolder = dialog.directory().absolutePath();
-    return dialog.selectedUrls();
+    QList<QUrl> chosen = dialog.selectedUrls();
+    if (chosen.removeIf([](const QUrl &url) { return !compilation::isReadable(url); }) > 0)
+        ask({unreadableNames(), unreadableNamesText(), {u"Close"_s}}, over);
+    return chosen;
 }

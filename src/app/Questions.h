@@ -36,8 +36,12 @@ public:
     /// without a button counts as the last one.
     virtual int ask(const Alert &alert, QWidget *over) = 0;
 
-    /// The chosen files or folder; none when the person did not confirm.
+    /// The chosen files or folder; none when the person did not confirm. All have names that are text.
     virtual QList<QUrl> choose(const OpenPanel &panel, QWidget *over) = 0;
+
+    /// The two texts of the alert for files whose names are not text.
+    static QString unreadableNames();
+    static QString unreadableNamesText();
 };
 
 /// Alerts and panels as windows.

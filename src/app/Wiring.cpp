@@ -69,6 +69,7 @@ const ButtonRow buttons[] = {
     {&U::toolbar_btn_Tools_Eject_Disc, &D::OnToolsEjectDisc},
     {&U::toolbar_btn_Tools_Load_Disc, &D::OnToolsLoadDisc},
     {&U::toolbar_btn_Tools_Disc_Info, &D::OnToolsDiscInfo},
+    {&U::toolbar_btn_Tools_Colors, &D::OnToolsColors},
     {&U::toolbar_btn_Tools_Activity_Log, &D::OnMenuActivityLog},
 };
 
@@ -95,6 +96,7 @@ const ItemRow items[] = {
     {&U::menuitemEject, &D::OnToolsEjectDisc},
     {&U::menuitemLoad, &D::OnToolsLoadDisc},
     {&U::menuitemDiscInfo, &D::OnToolsDiscInfo},
+    {&U::menuitemColors, &D::OnToolsColors},
     {&U::menuitemActivityLog, &D::OnMenuActivityLog},
     {&U::menuitemHelpAppHomePage, &D::OnMenuHelpAppHomePage},
     {&U::menuitemHelpCompanyHomePage, &D::OnMenuHelpCompanyHomePage},

@@ -1,6 +1,7 @@
 // Adding to the lists and taking from them.
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
+#include "compilation/FolderNames.h"
 #include "compilation/FolderTree.h"
 #include "compilation/ListTableView.h"
 #include "compilation/Measuring.h"
@@ -15,7 +16,6 @@
 #include <QProgressBar>
 #include <QThreadPool>
 
-#include <dirent.h>
 
 using namespace Qt::StringLiterals;
 
@@ -26,30 +26,16 @@ const QStringList videoExtensions{u"wmv"_s,  u"mov"_s, u"mpg"_s,    u"mpeg"_s, u
                                   u"asf"_s,  u"asx"_s, u"qt"_s,     u"mp4"_s,  u"mpeg-4"_s, u"flv"_s,
                                   u"ts"_s,   u"3gp"_s, u"fli"_s,    u"m1v"_s,  u"m2v"_s, u"mjpg"_s};
 
-/// The names directly in a folder, in the file system's order. Names that are not UTF-8 cannot be
-/// shown or handed on and are counted apart.
-struct FolderNames {
-    QStringList names;
-    int unreadable = 0;
-};
-
-FolderNames namesIn(const QString &folder)
+/// The names of what was refused, one a line, as many as an alert shows at a glance.
+QString namesOf(const QList<QUrl> &urls)
 {
-    FolderNames found;
-    DIR *const stream = ::opendir(QFile::encodeName(folder).constData());
-    if (!stream)
-        return found;
-    while (const dirent *entry = ::readdir(stream)) {
-        const QByteArrayView name(entry->d_name);
-        if (name == "." || name == "..")
-            continue;
-        if (name.isValidUtf8())
-            found.names.append(QString::fromUtf8(name));
-        else
-            ++found.unreadable;
-    }
-    ::closedir(stream);
-    return found;
+    constexpr qsizetype shown = 10;
+    QStringList names;
+    for (const QUrl &url : urls.first(qMin(shown, urls.size())))
+        names.append(url.fileName());
+    if (urls.size() > shown)
+        names.append(AppDelegate::tr("and %n more", nullptr, static_cast<int>(urls.size() - shown)));
+    return names.join(u'\n');
 }
 
 } // namespace
@@ -99,7 +85,7 @@ void AppDelegate::pickMediaFolder(ListKind kind)
 
 void AppDelegate::addMediaFolder(ListKind kind, const QString &folder)
 {
-    const FolderNames found = namesIn(folder);
+    const compilation::FolderNames found = compilation::namesIn(folder);
     if (found.unreadable > 0) {
         alert(tr("%n file(s) cannot be listed", nullptr, found.unreadable),
               tr("Their names in the folder “%1” are not valid UTF-8 text. Rename them and add the folder again.").arg(folder));
@@ -192,21 +178,35 @@ void AppDelegate::addDataFolder(const QString &path)
     refreshTableDataFolders();
 }
 
+bool AppDelegate::listTakes(int tab, const QUrl &url) const
+{
+    const QFileInfo info(url.toLocalFile());
+    if (!url.isLocalFile() || !compilation::isReadable(url))
+        return false;
+    if (tab == 2)
+        return info.isDir();
+    const QStringList &accepted = acceptedExtensions(tab == 0 ? ListKind::Audio : ListKind::Video);
+    return info.isFile() && accepted.contains(info.suffix(), Qt::CaseInsensitive);
+}
+
 void AppDelegate::addDroppedFiles(const QList<QUrl> &urls)
 {
     const int tab = ui->tabviewMain->currentIndex();
     const ListKind kind = tab == 0 ? ListKind::Audio : ListKind::Video;
-    QList<QUrl> files;
-    for (const QUrl &url : urls) {
-        const QString path = url.toLocalFile();
-        const QFileInfo info(path);
-        if (tab == 2 && info.isDir())
-            addDataFolder(QDir::cleanPath(path));
-        else if (tab < 2 && info.isFile() && acceptedExtensions(kind).contains(info.suffix(), Qt::CaseInsensitive))
-            files.append(url);
+    QList<QUrl> taken, refused, unreadable;
+    for (const QUrl &url : urls)
+        (listTakes(tab, url) ? taken : compilation::isReadable(url) ? refused : unreadable).append(url);
+    if (!refused.isEmpty()) {
+        const QString rule = tab == 2 ? tr("This list takes folders.")
+                                      : tr("This list takes files that end in %1.").arg(acceptedExtensions(kind).join(u", "_s));
+        alert(tr("Not everything can go on this list"), rule + u"\n\n"_s + namesOf(refused));
     }
-    if (tab < 2)
-        addMediaFiles(kind, files);
+    if (!unreadable.isEmpty())
+        alert(Questions::unreadableNames(), Questions::unreadableNamesText() + u"\n\n"_s + namesOf(unreadable));
+    if (tab != 2)
+        return addMediaFiles(kind, taken);
+    for (const QUrl &url : std::as_const(taken))
+        addDataFolder(QDir::cleanPath(url.toLocalFile()));
 }
 
 template <class Record>
@@ -266,7 +266,8 @@ void AppDelegate::playSelected(const ListTableView *table)
     const int row = table->lastSelectedRow();
     if (row < 0)
         return alert(u"There is no file selected."_s, u"There is no file selected."_s);
-    playPreview(arrayMediaFiles.at(row).s_File_URL, window);
+    if (const QString whyNot = playPreview(arrayMediaFiles.at(row).s_File_URL, window); !whyNot.isEmpty())
+        alert(tr("The file cannot be played."), whyNot);
 }
 
 void AppDelegate::OnActionAudioPlay()

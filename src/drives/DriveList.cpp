@@ -1,18 +1,18 @@
 #include "drives/DriveList.h"
 
-#include <QStringList>
+#include <QStringTokenizer>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace drives {
 namespace {
 
-constexpr int lineWidth = 30;
-
-QString trimmedColumn(const QString &line, int offset, int length)
+QString trimmedColumn(QStringView line, int offset, int length)
 {
     const auto isBlank = [](QChar c) { return c == u' ' || c == u'\t'; };
-    QStringView column = QStringView(line).mid(offset, length);
+    QStringView column = offset < line.size() ? line.mid(offset, length) : QStringView();
     while (!column.isEmpty() && isBlank(column.front()))
         column = column.mid(1);
     while (!column.isEmpty() && isBlank(column.back()))
@@ -30,12 +30,12 @@ QString title(const Object_Optical_Drive &drive)
 QList<Object_Optical_Drive> parseList(const QString &listing)
 {
     QList<Object_Optical_Drive> drives;
-    const QStringList lines = listing.split(u'\n');
-    for (int i = 0; i < lines.size() && !lines.at(i).isEmpty(); ++i) {
-        if (i == 0)
-            continue;
-        const QString line = lines.at(i).leftJustified(lineWidth);
-        drives.append({line.left(1), trimmedColumn(line, 3, 9), trimmedColumn(line, 12, 18)});
+    bool isHeader = true;
+    for (const QStringView line : QStringView(listing).tokenize(u'\n')) {
+        if (line.isEmpty())
+            break;
+        if (!std::exchange(isHeader, false))
+            drives.append({line.left(1).toString(), trimmedColumn(line, 3, 9), trimmedColumn(line, 12, 18)});
     }
     return drives;
 }

@@ -22,7 +22,8 @@ Q_LOGGING_CATEGORY(tools, "corvalis.tools", QtWarningMsg)
 QByteArray AppDelegate::captureTool(const QString &program, const QStringList &arguments, runner::ToolEnd *end)
 {
     ToolRun run(program, arguments, activityLog);
-    const QByteArray printed = run.capture(around.probeLimit);
+    // No answer is longer; a flood would be taken for a million drives.
+    const QByteArray printed = run.capture(around.probeLimit).left(ActivityLog::keptOutput);
     if (end)
         *end = run.end();
     return printed;

@@ -84,6 +84,8 @@ QByteArray ToolRun::capture(int limit)
 
 QByteArray ToolRun::take(ProcessChannel channel)
 {
+    if (!isOpen())
+        return {}; // it could not be started
     const QByteArray piece = channel == StandardOutput ? readAllStandardOutput() : readAllStandardError();
     if (!piece.isEmpty())
         m_log->append(m_position, piece);

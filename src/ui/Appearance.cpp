@@ -1,34 +1,26 @@
 // The colour scheme on the main window.
 #include "app/AppDelegate.h"
+#include "app/MainWindow.h"
 #include "compilation/ListTableView.h"
-#include "ui/ColourScheme.h"
+#include "ui/ColourFields.h"
 #include "ui/SystemAppearance.h"
+#include "ui/Window_Colors.h"
 #include "ui_MainWindow.h"
 
 #include <QSettings>
 
 #include <array>
 
-namespace {
-
-/// The colour fields in the order in which they are loaded.
-const std::array<std::pair<ColourScheme::Role, QColor AppDelegate::*>, 5> fields{{
-    {ColourScheme::Role::TableBackground, &AppDelegate::colorTableBackground},
-    {ColourScheme::Role::TableForeground, &AppDelegate::colorTableForeground},
-    {ColourScheme::Role::Toolbar, &AppDelegate::colorToolbar},
-    {ColourScheme::Role::BottomBar, &AppDelegate::colorBottomBar},
-    {ColourScheme::Role::SpaceOccupiedBar, &AppDelegate::colorSpaceOccupiedBar},
-}};
-
-} // namespace
-
 void AppDelegate::loadColourScheme()
 {
     b_List_Alternating_Rows = ColourScheme::loadAlternatingRows(*preferences);
-    for (const auto &[role, field] : fields)
+    for (const auto &[role, field] : colourFields)
         this->*field = ColourScheme::loadColour(*preferences, role);
     savePreferences();
     paintTableBackgrounds(b_List_Alternating_Rows != 0);
+    // The desktop's own answer comes after the window, and again when a person switches the desktop.
+    connect(&SystemAppearance::instance(), &SystemAppearance::changed, this,
+            [this] { paintTableBackgrounds(b_List_Alternating_Rows != 0); });
 }
 
 void AppDelegate::paintTableBackgrounds(bool alternating)
@@ -36,6 +28,34 @@ void AppDelegate::paintTableBackgrounds(bool alternating)
     const QColor ground = !alternating ? colorTableBackground : isDarkAppearance() ? Qt::black : Qt::white;
     for (ListTableView *table : {ui->tableviewVideoFiles, ui->tableviewAudioFiles, ui->tableviewDataFolders})
         table->setGround(ground);
+}
+
+void AppDelegate::OnToolsColors()
+{
+    delete windowColors;
+    windowColors = new Window_Colors(this, window);
+    windowColors->beginSheet();
+}
+
+void AppDelegate::Cancel_Window_Colors()
+{
+    if (windowColors)
+        windowColors->endSheet();
+    windowColors = nullptr;
+}
+
+void AppDelegate::OK_Window_Colors()
+{
+    Cancel_Window_Colors();
+    ColourScheme::storeAlternatingRows(*preferences, b_List_Alternating_Rows);
+    for (const auto &[role, field] : colourFields)
+        ColourScheme::storeColour(*preferences, role, this->*field);
+    savePreferences();
+    paintTableBackgrounds(b_List_Alternating_Rows == 1);
+    for (ListTableView *table : {ui->tableviewVideoFiles, ui->tableviewAudioFiles, ui->tableviewDataFolders})
+        reloadTable(table);
+    schedule(timerSetAlternatingRows, &AppDelegate::TimerSetAlternatingRowsRoutine);
+    schedule(timerForceColorsAtStartup, &AppDelegate::TimerForceColorsAtStartupRoutine);
 }
 
 void AppDelegate::TimerSetAlternatingRowsRoutine()

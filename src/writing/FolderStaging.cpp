@@ -2,7 +2,9 @@
 
 #include "compilation/FolderTree.h"
 
+#include <array>
 #include <cerrno>
+#include <climits>
 #include <cstring>
 #include <map>
 #include <vector>
@@ -16,7 +18,7 @@
 namespace writing {
 namespace {
 
-using compilation::OpenFolder;
+using compilation::TreeCursor;
 
 /// A file descriptor that is closed with its scope.
 class Descriptor {
@@ -35,104 +37,124 @@ private:
     int m_fd;
 };
 
-/// One file or folder of the tree: where it is read, where it goes, and its path for messages.
-struct Item {
-    const OpenFolder &from;
-    const OpenFolder &to;
-    const std::string &name;
-    const std::string path;
-};
-
-class Copier {
+/// Copies what the walk comes by. Two cursors go through the two trees side by side.
+class Copier : public compilation::TreeVisitor {
 public:
-    Copier(std::string destination, const std::string &never, CopyState &state,
+    Copier(TreeCursor &source, TreeCursor &copy, std::string destination, const std::string &never, CopyState &state,
            const std::function<void(const std::string &)> &failed)
-        : m_destination(std::move(destination)), m_state(state), m_failed(failed)
+        : TreeVisitor(source), m_to(copy), m_destination(std::move(destination)), m_state(state), m_failed(failed)
     {
         struct stat info;
         if (::stat(never.c_str(), &info) == 0)
             m_never = {info.st_dev, info.st_ino};
     }
 
-    void copyInto(const OpenFolder &from, const OpenFolder &to, const std::string &path)
+    /// Makes the copy of the folder in which the source's cursor stands, called `name`, and goes into it.
+    bool beginFolder(const std::string &name)
     {
-        for (const auto &entry : from.entries()) {
-            if (m_state.stop)
-                return;
-            copyItem({from, to, entry.name, path + '/' + entry.name});
-        }
+        struct stat info;
+        if (m_folders.empty())
+            m_top = '/' + name;
+        if (::fstat(at.fd(), &info) != 0)
+            return fail({}, errno), false;
+        if (std::pair(info.st_dev, info.st_ino) == m_never)
+            return fail({}, "is the folder in which the disc is gathered, and is left out"), false;
+        if ((::mkdirat(m_to.fd(), name.c_str(), S_IRWXU) != 0 && errno != EEXIST) || !m_to.enter(name))
+            return fail({}, errno), false;
+        m_folders.push_back(info);
+        return true;
     }
 
-    void copyFolderItem(const Item &item, const struct stat &info)
+    bool visit(const TreeCursor::Entry &entry) override
     {
-        if (std::pair(info.st_dev, info.st_ino) == m_never)
-            return fail(item.path, "is the folder in which the disc is gathered, and is left out");
-        const OpenFolder from(item.from.fd(), item.name.c_str());
-        if (from.fd() < 0)
-            return fail(item.path, std::strerror(errno));
-        if (::mkdirat(item.to.fd(), item.name.c_str(), S_IRWXU) != 0 && errno != EEXIST)
-            return fail(item.path, std::strerror(errno));
-        const OpenFolder to(item.to.fd(), item.name.c_str());
-        if (to.fd() < 0)
-            return fail(item.path, std::strerror(errno));
-        copyInto(from, to, item.path);
-        keepModeAndTimes(to.fd(), info);
+        struct stat info;
+        if (m_state.stop)
+            return false;
+        if (::fstatat(at.fd(), entry.name.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0)
+            fail('/' + entry.name, errno);
+        else if (S_ISDIR(info.st_mode))
+            return enterFolder(entry.name);
+        else if (S_ISLNK(info.st_mode))
+            copyLink(entry.name, info);
+        else if (!S_ISREG(info.st_mode))
+            fail('/' + entry.name, "is no file, folder or link, and is left out");
+        else if (info.st_nlink == 1 || !linkToFirst(entry.name, info))
+            copyFile(entry.name);
+        return false;
     }
+
+    void left(const std::string &) override { finishFolder(); }
+
+    void unreadable(int error) override { fail({}, error); }
+
+    /// Gives the folder of the copy the mode and the times of its source, and goes up from it.
+    void finishFolder()
+    {
+        keepModeAndTimes(m_to.fd(), m_folders.back());
+        m_folders.pop_back();
+        if (m_to.leave())
+            return;
+        fail({}, "its copy was moved while it was being made");
+        m_state.stop = true;
+    }
+
+    void fail(const std::string &below, const std::string &why) { m_failed(m_top + at.path() + below + ": " + why); }
 
 private:
-    void fail(const std::string &path, const std::string &why) { m_failed(path + ": " + why); }
-
-    void failAndMaybeStop(const std::string &path, int error)
+    void fail(const std::string &below, int error)
     {
-        fail(path, std::strerror(error));
+        fail(below, std::strerror(error));
         if (error == ENOSPC || error == EDQUOT)
             m_state.stop = true;
     }
 
-    void copyItem(const Item &item)
+    bool enterFolder(const std::string &name)
     {
-        struct stat info;
-        if (::fstatat(item.from.fd(), item.name.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0)
-            return fail(item.path, std::strerror(errno));
-        if (S_ISDIR(info.st_mode))
-            return copyFolderItem(item, info);
-        if (S_ISLNK(info.st_mode))
-            return copyLink(item, info);
-        if (!S_ISREG(info.st_mode))
-            return fail(item.path, "is no file, folder or link, and is left out");
-        if (info.st_nlink == 1 || !linkToFirst(item, info))
-            copyFile(item, info);
+        if (!at.enter(name))
+            return fail('/' + name, errno), false;
+        if (beginFolder(name))
+            return true;
+        at.leave();
+        return false;
     }
 
     /// A second name of a file that was copied before becomes a second name of the copy.
-    bool linkToFirst(const Item &item, const struct stat &info)
+    bool linkToFirst(const std::string &name, const struct stat &info)
     {
-        const auto [first, isNew] = m_linked.try_emplace({info.st_dev, info.st_ino}, m_destination + item.path);
-        return !isNew && ::linkat(AT_FDCWD, first->second.c_str(), item.to.fd(), item.name.c_str(), 0) == 0;
+        const auto [first, isNew]
+            = m_linked.try_emplace({info.st_dev, info.st_ino}, m_destination + m_top + at.path() + '/' + name);
+        return !isNew && ::linkat(AT_FDCWD, first->second.c_str(), m_to.fd(), name.c_str(), 0) == 0;
     }
 
-    void copyLink(const Item &item, const struct stat &info)
+    void copyLink(const std::string &name, const struct stat &info)
     {
-        std::vector<char> target(static_cast<std::size_t>(info.st_size) + 256);
-        const ssize_t length = ::readlinkat(item.from.fd(), item.name.c_str(), target.data(), target.size() - 1);
-        if (length < 0 || ::symlinkat(target.data(), item.to.fd(), item.name.c_str()) != 0)
-            return failAndMaybeStop(item.path, errno);
+        std::array<char, PATH_MAX> target{};
+        const ssize_t length = ::readlinkat(at.fd(), name.c_str(), target.data(), target.size() - 1);
+        if (length < 0 || ::symlinkat(target.data(), m_to.fd(), name.c_str()) != 0)
+            return fail('/' + name, errno);
         const timespec times[] = {info.st_atim, info.st_mtim};
-        ::utimensat(item.to.fd(), item.name.c_str(), times, AT_SYMLINK_NOFOLLOW);
+        ::utimensat(m_to.fd(), name.c_str(), times, AT_SYMLINK_NOFOLLOW);
     }
 
-    void copyFile(const Item &item, const struct stat &info)
+    void copyFile(const std::string &name)
     {
-        const Descriptor from(::openat(item.from.fd(), item.name.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
-        if (from < 0)
-            return fail(item.path, std::strerror(errno));
-        const Descriptor to(::openat(item.to.fd(), item.name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
+        // Not blocking: where the file has become a pipe meanwhile, nobody may ever write into it.
+        const Descriptor from(::openat(at.fd(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+        struct stat info;
+        if (from < 0 || ::fstat(from, &info) != 0)
+            return fail('/' + name, errno);
+        const Descriptor to(::openat(m_to.fd(), name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
                                      S_IRUSR | S_IWUSR));
         if (to < 0)
-            return failAndMaybeStop(item.path, errno);
-        if (!copyContent(from, to, info.st_size))
-            return failAndMaybeStop(item.path, errno);
-        keepModeAndTimes(to, info);
+            return fail('/' + name, errno);
+        const bool copied = copyContent(from, to, info.st_size);
+        const int error = errno;
+        if (copied && !m_state.stop)
+            return keepModeAndTimes(to, info);
+        // Half a file would look like a whole one on the disc.
+        ::unlinkat(m_to.fd(), name.c_str(), 0);
+        if (!copied)
+            fail('/' + name, error);
     }
 
     bool copyContent(int from, int to, off_t size)
@@ -146,19 +168,21 @@ private:
         }
         // Regions of data one by one; what lies between them is a hole in the copy too.
         off_t end = 0;
-        while (end < size) {
+        while (end < size && !m_state.stop) {
             const off_t start = ::lseek(from, end, SEEK_DATA);
             if (start < 0 && errno == ENXIO)
                 break;
             const off_t region = start < 0 ? end : start;
-            end = start < 0 ? size : ::lseek(from, region, SEEK_HOLE);
-            if (!copyRange(from, to, region, end))
+            const off_t hole = start < 0 ? -1 : ::lseek(from, region, SEEK_HOLE);
+            end = hole < 0 ? size : hole;
+            if (!copyRange(from, to, region, end, size))
                 return false;
         }
         return ::ftruncate(to, size) == 0;
     }
 
-    bool copyRange(int from, int to, off_t start, off_t end)
+    /// Copies from `start` to `end`. A file that ends before its `size` is as long as its content.
+    bool copyRange(int from, int to, off_t start, off_t end, off_t &size)
     {
         off_t in = start;
         off_t out = start;
@@ -166,11 +190,14 @@ private:
             const ssize_t moved = m_canOffload
                 ? ::copy_file_range(from, &in, to, &out, static_cast<std::size_t>(end - in), 0)
                 : copyBuffer(from, to, in, out, end);
-            if (moved == 0)
-                return true;
             if (moved > 0)
                 continue;
-            if (!m_canOffload || (errno != EXDEV && errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP))
+            if (!m_canOffload) {
+                size = in;
+                return moved == 0;
+            }
+            // Nothing moved is the end of the file, or a file system that cannot do it and does not say so.
+            if (moved < 0 && errno != EXDEV && errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP)
                 return false;
             m_canOffload = false;
         }
@@ -203,7 +230,10 @@ private:
         ::futimens(fd, times);
     }
 
+    TreeCursor &m_to;
     const std::string m_destination;
+    std::string m_top; ///< "/name" of the folder that is copied
+    std::vector<struct stat> m_folders; ///< the source of each folder of the copy from the top to here
     CopyState &m_state;
     const std::function<void(const std::string &)> &m_failed;
     std::pair<dev_t, ino_t> m_never{0, 0};
@@ -218,16 +248,20 @@ private:
 void copyFolder(const std::string &source, const std::string &destination, const std::string &never, CopyState &state,
                 const std::function<void(const std::string &)> &failed)
 {
-    const std::size_t slash = source.find_last_of('/');
-    const std::string parent = slash == 0 || slash == std::string::npos ? "/" : source.substr(0, slash);
-    const std::string name = source.substr(slash + 1);
-    const OpenFolder from(AT_FDCWD, parent.c_str(), true);
-    const OpenFolder to(AT_FDCWD, destination.c_str(), true);
-    struct stat info;
-    if (from.fd() < 0 || to.fd() < 0 || ::fstatat(from.fd(), name.c_str(), &info, 0) != 0)
-        failed(source + ": " + std::strerror(errno));
-    else
-        Copier(destination, never, state, failed).copyFolderItem({from, to, name, '/' + name}, info);
+    const std::string path = source.substr(0, source.find_last_not_of('/') + 1);
+    const std::string name = path.substr(path.find_last_of('/') + 1);
+    TreeCursor from(source);
+    TreeCursor to(destination);
+    if (name.empty() || name == "." || name == "..")
+        failed(source + ": has no name under which it could be copied");
+    else if (from.fd() < 0 || to.fd() < 0)
+        failed((from.fd() < 0 ? source : destination) + ": " + std::strerror(errno));
+    else if (Copier copier(from, to, destination, never, state, failed); copier.beginFolder(name)) {
+        if (walkTree(copier))
+            copier.finishFolder();
+        else
+            copier.fail({}, "was moved while it was being copied");
+    }
     state.ended = true;
 }
 

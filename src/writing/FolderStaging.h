@@ -10,14 +10,15 @@ namespace writing {
 
 /// What a copy has come to. Shared between the copying thread and whoever waits for it.
 struct CopyState {
-    std::atomic<bool> stop = false; ///< set it, and the copy ends after the file at hand
+    std::atomic<bool> stop = false; ///< set it, and the copy ends; the file at hand is left out
     std::atomic<bool> ended = false;
 };
 
-/// Copies the folder `source` with all it holds into the folder `destination`, under its own name.
+/// Copies the folder `source`, or the folder to which the link `source` leads, with all it holds into
+/// the folder `destination`, under the name that `source` has.
 /// Times, modes, symbolic links and hard links are kept; file contents are shared or copied by the
 /// kernel where the file system can (FICLONE, copy_file_range), and holes stay holes. What cannot be
-/// copied is told to `failed`, one sentence with its name, and left out; a full disk ends the copy.
+/// copied is told to `failed`, one sentence with its name, and left out, never copied in part; a full disk ends the copy.
 /// `never` is a folder that is not entered: the working folder may itself lie inside the source.
 /// Blocks; any thread; `failed` is called in the same one.
 void copyFolder(const std::string &source, const std::string &destination, const std::string &never,

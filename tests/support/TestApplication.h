@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QAbstractButton>
@@ -126,6 +127,7 @@ public:
     NotingTool hdiutil{folder.path(), QStringLiteral("hdiutil")};
     NotingTool ffmpeg{folder.path(), QStringLiteral("ffmpeg")};
     NotingQuestions questions;
+    WindowQuestions dialogs;
     QList<int> exits; ///< every status with which the program would have ended
     Surroundings around;
     std::unique_ptr<MainWindow> window;
@@ -160,6 +162,13 @@ public:
         return *controller;
     }
 
+    /// The application with the window's own alerts and panels, which a test answers as a person does.
+    AppDelegate &launchWithDialogs()
+    {
+        around.questions = &dialogs;
+        return launch();
+    }
+
     /// The interface element with this name.
     template <class Element>
     Element *element(const char *name) const
@@ -171,6 +180,35 @@ public:
         = "   Vendor   Product           Rev   Bus       SupportLevel\n"
           "1  CORVALIS Virtual Recorder  1.0   Virtual   Supported\n";
 };
+
+/// Makes the HOME of the running test as it is before the program's first start.
+inline void emptyHome()
+{
+    for (const auto place : {QStandardPaths::DocumentsLocation, QStandardPaths::ConfigLocation})
+        QDir(QStandardPaths::writableLocation(place)).removeRecursively();
+}
+
+/// The path of a file or folder in the Documents folder.
+inline QString documents(const QString &below = {})
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + QLatin1Char('/') + below;
+}
+
+/// Writes a file, its folders as well.
+inline void makeFile(const QString &path, const QByteArray &content = {})
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("%s cannot be written", qUtf8Printable(path));
+}
+
+/// The whole file; empty when there is none.
+inline QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
 
 /// Presses the button `title` of the modal alert that is up, as soon as one is.
 inline void pressInAlert(const QString &title)

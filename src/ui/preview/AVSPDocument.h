@@ -1,0 +1,78 @@
+// The preview player's window.
+#pragma once
+
+#include <QDialog>
+#include <QUrl>
+
+#include <memory>
+
+class MediaPlayer;
+class QTimer;
+namespace Ui {
+class AVSPDocument;
+}
+
+/// Plays one local file, for as long as the window is open. GUI thread only.
+class AVSPDocument : public QDialog {
+    Q_OBJECT
+    /// Seconds; 0 unless the file is ready to play.
+    Q_PROPERTY(double duration READ duration NOTIFY durationChanged)
+    /// Seconds; setting it goes to the whole second, exactly.
+    Q_PROPERTY(double currentTime READ currentTime WRITE setCurrentTime NOTIFY currentTimeChanged)
+    /// 0 silent ... 1 as recorded.
+    Q_PROPERTY(float volume READ volume WRITE setVolume NOTIFY volumeChanged)
+    /// 1 is normal, 0 stands still, below 0 is backward.
+    Q_PROPERTY(double rate READ rate NOTIFY rateChanged)
+public:
+    explicit AVSPDocument(const QUrl &file, QWidget *parent = nullptr);
+    ~AVSPDocument() override;
+
+    const QUrl s_File_URL;
+    MediaPlayer *player = nullptr; ///< until the window closes
+
+    double duration() const;
+    double currentTime() const;
+    void setCurrentTime(double seconds);
+    float volume() const;
+    void setVolume(float volume);
+    double rate() const;
+
+    void playPauseToggle();
+    void fastForward();
+    void rewind();
+
+    /// Closing ends playing, takes the player away and ends with the result 1, whatever closed it.
+    void done(int result) override;
+
+Q_SIGNALS:
+    void durationChanged(double seconds);
+    void currentTimeChanged(double seconds);
+    void volumeChanged(float volume);
+    void rateChanged(double rate);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void windowDidLoad();
+    void windowWillClose();
+    void setUpPlaybackOfAsset(bool hasVideo);
+    void assetIsUnplayable();
+    void stopLoadingAnimationAndHandleError(const QString &error = {});
+    void showNoVideo();
+    void observeRate(double rate);
+    void observeStatus();
+    void observeDuration(double seconds);
+    void readyForDisplay();
+    void observeTime();
+    void enableControls(bool enabled, const QString &whyNot = {});
+    void connectControls();
+    void giveSigns();
+    void showTimes();
+    void jump(double seconds);
+
+    std::unique_ptr<Ui::AVSPDocument> m_ui;
+    QTimer *timeObserverToken = nullptr;
+    bool m_isClosed = false;
+};

@@ -1,0 +1,11 @@
+#include "ui/PreviewPlayer.h"
+#include "ui/preview/AVSPDocument.h"
+
+#include <type_traits>
+
+extern "C" Q_DECL_EXPORT QDialog *corvalis_create_preview(const QUrl &file, QWidget *parent)
+{
+    return new AVSPDocument(file, parent);
+}
+
+static_assert(std::is_same_v<decltype(&corvalis_create_preview), CreatePreview>);

@@ -1,0 +1,32 @@
+// The black area in which a film is drawn.
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+
+#include <functional>
+
+/// Black, with the picture in it once it may be seen. The picture keeps its proportions.
+class VideoArea : public QWidget {
+    Q_OBJECT
+public:
+    explicit VideoArea(QWidget *parent = nullptr);
+
+    /// What draws the present picture over a whole image of Format_RGB32; none at first.
+    void setPainter(std::function<bool(QImage &)> painter);
+    /// The picture has changed. It is drawn also while it is not shown, because the library waits for that.
+    void redraw();
+    /// Not at first.
+    void showPicture(bool shown);
+
+    QSize sizeHint() const override { return { 640, 360 }; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    std::function<bool(QImage &)> m_painter;
+    QImage m_picture;
+    bool m_isShown = false;
+};

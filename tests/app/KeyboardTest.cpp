@@ -1,0 +1,281 @@
+// The program without a mouse and without eyes: shortcuts, tab order, names and tooltips.
+#include "app/BarButton.h"
+#include "app/Window_Activity_Log.h"
+#include "app/Window_Alert.h"
+#include "app/Window_New_Disc.h"
+#include "compilation/ListTableView.h"
+#include "runner/StatusSheets.h"
+#include "support/Person.h"
+#include "support/TestApplication.h"
+#include "ui_MainWindow.h"
+#include "writing/Window_Video_Settings.h"
+
+#include <QAccessible>
+#include <QMenuBar>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString accessibleName(QWidget *widget)
+{
+    const QAccessibleInterface *face = QAccessible::queryAccessibleInterface(widget);
+    return face ? face->text(QAccessible::Name) : QString();
+}
+
+QString described(const QObject *object)
+{
+    return u"%1 %2"_s.arg(QString::fromLatin1(object->metaObject()->className()), object->objectName());
+}
+
+} // namespace
+
+class KeyboardTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_app.reset(); }
+
+    void shortcutsAreUnique();
+    void mnemonicsAreUnique();
+    void expectedShortcuts_data();
+    void expectedShortcuts();
+    void everyItemIsInAMenu();
+    void pressableThingsHaveNames();
+    void buttonsArePushButtons();
+    void burnButtonIsNamedAsItIsTitled();
+    void chosenModeIsTold();
+    void tabOrder_data();
+    void tabOrder();
+    void enterAndSpacePress();
+    void everySheetHasNames();
+
+private:
+    /// The widgets that the Tab key reaches in turn, from the tab bar on.
+    QWidgetList reached();
+
+    std::unique_ptr<TestApplication> m_app;
+};
+
+void KeyboardTest::init()
+{
+    emptyHome();
+    m_app = std::make_unique<TestApplication>();
+    m_app->launch();
+    QVERIFY(person::awaitKeyboard(m_app->window.get()));
+}
+
+void KeyboardTest::shortcutsAreUnique()
+{
+    QHash<QString, QString> taken;
+    for (const QAction *action : m_app->window->findChildren<QAction *>()) {
+        for (const QKeySequence &keys : action->shortcuts()) {
+            const QString text = keys.toString();
+            QVERIFY2(!taken.contains(text),
+                qPrintable(text + u": "_s + action->objectName() + u", "_s + taken.value(text)));
+            taken.insert(text, action->objectName());
+        }
+    }
+    QVERIFY(taken.size() > 15);
+}
+
+void KeyboardTest::mnemonicsAreUnique()
+{
+    const auto check = [](const QList<QAction *> &actions, const QString &where) {
+        QHash<QKeySequence, QString> taken;
+        for (const QAction *action : actions) {
+            const QKeySequence key = QKeySequence::mnemonic(action->text());
+            if (key.isEmpty() || !action->isVisible())
+                continue;
+            QVERIFY2(!taken.contains(key),
+                qPrintable(where + u": "_s + action->text() + u", "_s + taken.value(key)));
+            taken.insert(key, action->text());
+        }
+    };
+    for (int tab = 0; tab < 5; ++tab) {
+        person::clickTab(m_app->element<QTabWidget>("tabviewMain"), tab);
+        check(m_app->element<QMenuBar>("menubar")->actions(), u"menu bar"_s);
+        for (const QMenu *menu : m_app->window->findChildren<QMenu *>())
+            check(menu->actions(), menu->objectName());
+    }
+}
+
+void KeyboardTest::expectedShortcuts_data()
+{
+    QTest::addColumn<QByteArray>("item");
+    QTest::addColumn<QString>("keys");
+    QTest::newRow("new disc") << QByteArray("menuitemNewDisc") << u"Ctrl+N"_s;
+    QTest::newRow("add files") << QByteArray("menuitemAddFiles") << u"Ctrl+O"_s;
+    QTest::newRow("delete") << QByteArray("menuitemDelete") << u"Del"_s;
+    QTest::newRow("burn") << QByteArray("menuitemBurn") << u"Ctrl+B"_s;
+    QTest::newRow("quit") << QByteArray("menuitemQuit") << u"Ctrl+Q"_s;
+    QTest::newRow("log") << QByteArray("menuitemActivityLog") << u"Ctrl+L"_s;
+    QTest::newRow("audio") << QByteArray("submenuItemTabAudio") << u"Ctrl+1"_s;
+    QTest::newRow("video") << QByteArray("submenuItemTabVideo") << u"Ctrl+2"_s;
+    QTest::newRow("data") << QByteArray("submenuItemTabData") << u"Ctrl+3"_s;
+    QTest::newRow("ISO") << QByteArray("submenuItemTabISO") << u"Ctrl+4"_s;
+    QTest::newRow("tools") << QByteArray("submenuItemTabTools") << u"Ctrl+5"_s;
+}
+
+void KeyboardTest::expectedShortcuts()
+{
+    QFETCH(QByteArray, item);
+    QTEST(m_app->element<QAction>(item.constData())->shortcut().toString(), "keys");
+}
+
+void KeyboardTest::everyItemIsInAMenu()
+{
+    QSet<const QAction *> inMenus;
+    for (const QMenu *menu : m_app->window->findChildren<QMenu *>()) {
+        for (const QAction *action : menu->actions())
+            inMenus.insert(action);
+    }
+    for (const QAction *action : m_app->window->findChildren<QAction *>()) {
+        if (action->objectName().startsWith(u"menuitem"_s)
+            || action->objectName().startsWith(u"submenuItem"_s)) {
+            QVERIFY2(inMenus.contains(action), qPrintable(action->objectName()));
+            QVERIFY2(action->isSeparator() || !action->text().isEmpty(), qPrintable(action->objectName()));
+        }
+    }
+}
+
+void KeyboardTest::pressableThingsHaveNames()
+{
+    for (QWidget *widget : m_app->window->findChildren<QWidget *>()) {
+        const bool internal =
+            widget->objectName().startsWith(u"qt_"_s) || qobject_cast<QTabBar *>(widget->parent());
+        if (widget->focusPolicy() == Qt::NoFocus || internal)
+            continue;
+        QVERIFY2(!accessibleName(widget).isEmpty(), qPrintable(described(widget)));
+        if (qobject_cast<QAbstractButton *>(widget))
+            QVERIFY2(!widget->toolTip().isEmpty(), qPrintable(described(widget)));
+    }
+}
+
+void KeyboardTest::buttonsArePushButtons()
+{
+    for (QAbstractButton *button : m_app->window->findChildren<BarButton *>()) {
+        QAccessibleInterface *face = QAccessible::queryAccessibleInterface(button);
+        QVERIFY2(face->role() == QAccessible::Button, qPrintable(described(button)));
+        QVERIFY2(face->actionInterface(), qPrintable(described(button)));
+        QVERIFY(face->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
+    }
+    // A screen reader can press it.
+    auto *mode = m_app->element<BarButton>("btnMP3CD");
+    QAccessible::queryAccessibleInterface(mode)->actionInterface()->doAction(
+        QAccessibleActionInterface::pressAction());
+    QTRY_COMPARE(m_app->element<BarButton>("btnBurn")->text(), u"Burn MP3 CD"_s);
+}
+
+void KeyboardTest::burnButtonIsNamedAsItIsTitled()
+{
+    auto *burn = m_app->element<BarButton>("btnBurn");
+    for (const char *mode : { "btnMP3DVD", "btnAudioCD", "btnMP3CD" }) {
+        person::click(m_app->window.get(), mode);
+        QCOMPARE(accessibleName(burn), burn->text());
+    }
+}
+
+void KeyboardTest::chosenModeIsTold()
+{
+    person::click(m_app->window.get(), "btnMP3CD");
+    const auto description = [this](const char *button) {
+        return QAccessible::queryAccessibleInterface(m_app->element<BarButton>(button))
+            ->text(QAccessible::Description);
+    };
+    QVERIFY(description("btnMP3CD") != description("btnAudioCD"));
+    person::click(m_app->window.get(), "btnAudioCD");
+    QVERIFY(description("btnMP3CD") != description("btnAudioCD"));
+}
+
+QWidgetList KeyboardTest::reached()
+{
+    QWidget *start = m_app->element<QTabWidget>("tabviewMain")->tabBar();
+    start->setFocus();
+    QWidgetList order;
+    for (int presses = 0; presses < 50; ++presses) {
+        QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Tab);
+        if (QApplication::focusWidget() == start || !QApplication::focusWidget())
+            break;
+        order.append(QApplication::focusWidget());
+    }
+    return order;
+}
+
+void KeyboardTest::tabOrder_data()
+{
+    QTest::addColumn<int>("tab");
+    const char *const names[] = { "audio", "video", "data", "ISO", "tools" };
+    for (int tab = 0; tab < 5; ++tab)
+        QTest::newRow(names[tab]) << tab;
+}
+
+void KeyboardTest::tabOrder()
+{
+    QFETCH(int, tab);
+    person::clickTab(m_app->element<QTabWidget>("tabviewMain"), tab);
+    const QWidgetList order = reached();
+    // All that can be pressed or chosen from is reached, and nothing else.
+    for (QWidget *widget : m_app->window->findChildren<QWidget *>()) {
+        const bool pressable = qobject_cast<BarButton *>(widget) || qobject_cast<ListTableView *>(widget);
+        if (pressable && widget->isVisible())
+            QVERIFY2(order.contains(widget), qPrintable(described(widget)));
+    }
+    // As one reads: rows from the top, in a row from the left.
+    QPoint before(-1, -1);
+    for (QWidget *widget : order) {
+        QVERIFY2(qobject_cast<BarButton *>(widget) || qobject_cast<ListTableView *>(widget),
+            qPrintable(described(widget)));
+        const QPoint place = widget->mapTo(m_app->window.get(), QPoint());
+        const bool sameRow = qAbs(place.y() - before.y()) < 8;
+        QVERIFY2(sameRow ? place.x() > before.x() : place.y() > before.y(), qPrintable(described(widget)));
+        before = place;
+    }
+}
+
+void KeyboardTest::enterAndSpacePress()
+{
+    auto *mode = m_app->element<BarButton>("btnMP3CD");
+    mode->setFocus();
+    person::press(QKeySequence(Qt::Key_Space));
+    QTRY_COMPARE(m_app->element<BarButton>("btnBurn")->text(), u"Burn MP3 CD"_s);
+    m_app->element<BarButton>("btnMP3DVD")->setFocus();
+    person::press(QKeySequence(Qt::Key_Return));
+    QTRY_COMPARE(m_app->element<BarButton>("btnBurn")->text(), u"Burn MP3 DVD"_s);
+}
+
+void KeyboardTest::everySheetHasNames()
+{
+    AppDelegate &controller = *m_app->controller;
+    controller.Show_Window_New_Disc();
+    controller.Show_Window_Video_Settings();
+    controller.Show_Window_Progress(3);
+    controller.Show_Window_Performing_Operation();
+    controller.Show_Window_Operation_Complete();
+    controller.OnMenuActivityLog();
+    Window_Alert alert({ u"m"_s, u"line\n"_s.repeated(50), { u"Close"_s } }, m_app->window.get());
+    alert.show();
+    const QWidgetList windows{ controller.windowNewDisc, controller.windowVideoSettings,
+        controller.windowProgress, controller.windowPerformingOperation, controller.windowOperationCompleted,
+        controller.windowActivityLog, &alert };
+    for (QWidget *window : windows) {
+        QVERIFY(window);
+        QSet<QKeySequence> mnemonics;
+        for (QWidget *widget : window->findChildren<QWidget *>()) {
+            const bool internal = widget->objectName().startsWith(u"qt_"_s);
+            if (widget->focusPolicy() != Qt::NoFocus && !internal && widget->isVisible())
+                QVERIFY2(!accessibleName(widget).isEmpty(),
+                    qPrintable(described(window) + u": "_s + described(widget)));
+            if (const auto *button = qobject_cast<QAbstractButton *>(widget)) {
+                const QKeySequence key = QKeySequence::mnemonic(button->text());
+                QVERIFY2(key.isEmpty() || !mnemonics.contains(key),
+                    qPrintable(described(window) + u": "_s + button->text()));
+                mnemonics.insert(key);
+            }
+        }
+    }
+}
+
+QTEST_MAIN(KeyboardTest)
+#include "KeyboardTest.moc"

@@ -1,0 +1,763 @@
+// Adding to the lists and taking from them, through the window's own dialogs.
+#include "app/BarButton.h"
+#include "app/Window_Alert.h"
+#include "compilation/ListTableModel.h"
+#include "compilation/ListTableView.h"
+#include "compilation/SpaceOccupiedView.h"
+#include "runner/ActivityLog.h"
+#include "runner/StatusSheets.h"
+#include "support/Person.h"
+#include "support/TestApplication.h"
+#include "ui_MainWindow.h"
+
+#include <QAbstractItemModelTester>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QTest>
+
+#include <algorithm>
+#include <dirent.h>
+#include <filesystem>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What a transcoder prints of a file when it is asked for nothing else.
+QByteArray report(const QByteArray &duration)
+{
+    return "Input #0, mp3, from 'x':\n  Duration: " + duration + ", start: 0.000000, bitrate: 320 kb/s\n";
+}
+
+QStringList inTheFileSystemsOrder(const QString &folder)
+{
+    QStringList names;
+    DIR *stream = ::opendir(qPrintable(folder));
+    while (const dirent *entry = ::readdir(stream))
+        names.append(QString::fromUtf8(entry->d_name));
+    ::closedir(stream);
+    return names;
+}
+
+void makeFileOfBytes(const QByteArray &path)
+{
+    std::FILE *file = std::fopen(path.constData(), "w");
+    if (!file)
+        qFatal("%s cannot be written", path.constData());
+    std::fclose(file);
+}
+
+/// Takes away what makeFileOfBytes() made, which Qt cannot.
+void removeTree(const QString &folder)
+{
+    std::error_code failure;
+    std::filesystem::remove_all(folder.toStdString(), failure);
+}
+
+} // namespace
+
+class ListsTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void fileDialog_data();
+    void fileDialog();
+    void fileDialogFiltersInAnyCase();
+    void panelCancelled_data();
+    void panelCancelled();
+    void recordsOfAddedFiles();
+    void oddNames();
+    void stepsAndRowsAtTheEnd();
+    void windowAnswersWhileMeasuring();
+    void quitWhileMeasuring();
+    void unreadableFileIsListed();
+    void hangingTranscoder();
+    void missingTranscoder();
+    void mediaFolder_data();
+    void mediaFolder();
+    void folderInTheFileSystemsOrder();
+    void folderWithNothingAccepted();
+    void folderThatIsGone();
+    void namesThatAreNotTextAreTold();
+    void namesThatTheDialogCannotShow();
+    void duplicates();
+    void dataFolder();
+    void dataFolderTwice();
+    void deleting_data();
+    void deleting();
+    void deletingFoldersWithTheKey();
+    void deletingNothingRefreshes();
+    void clearing_data();
+    void clearing();
+    void clearingIsSharedByAudioAndVideo();
+    void playNothing_data();
+    void playNothing();
+    void playPanelsOfADataTabAreOff();
+    void movingRows();
+    void dropOnAudio();
+    void dropOnData();
+    void dropThatDoesNotFitIsTold();
+
+private:
+    ListTableView *table(const char *name) const { return m_app->element<ListTableView>(name); }
+    ListTableView *audio() const { return table("tableviewAudioFiles"); }
+    void click(const char *button) const { person::click(m_app->window.get(), button); }
+    void showTab(int tab) const { person::clickTab(m_app->element<QTabWidget>("tabviewMain"), tab); }
+    static QStringList column(const QTableView *view, int column);
+    QString media(const QString &below = {}) const { return m_media->filePath(below); }
+    /// Adds files of the media folder through the file dialog of the shown tab, and waits until they are
+    /// listed.
+    void addFiles(const char *button, const QStringList &names);
+    void addNumbered(int count);
+    bool awaitAdded() const
+    {
+        return QTest::qWaitFor([this] { return !m_app->controller->windowUniqueProgress; }, 20'000);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_media;
+    std::unique_ptr<TestApplication> m_app;
+};
+
+void ListsTest::init()
+{
+    emptyHome();
+    m_media = std::make_unique<QTemporaryDir>();
+    m_app = std::make_unique<TestApplication>();
+    m_app->ffmpeg.print(u"-i"_s, report("00:03:25.47"));
+    m_app->launchWithDialogs();
+    for (QTableView *view : m_app->window->findChildren<QTableView *>())
+        new QAbstractItemModelTester(
+            view->model(), QAbstractItemModelTester::FailureReportingMode::QtTest, view);
+    QVERIFY(person::awaitKeyboard(m_app->window.get()));
+}
+
+void ListsTest::cleanup()
+{
+    m_app.reset();
+    removeTree(m_media->path());
+    m_media.reset();
+}
+
+QStringList ListsTest::column(const QTableView *view, int column)
+{
+    QStringList texts;
+    for (int row = 0; row < view->model()->rowCount(); ++row)
+        texts.append(view->model()->index(row, column).data().toString());
+    return texts;
+}
+
+void ListsTest::addFiles(const char *button, const QStringList &names)
+{
+    person::Expect<QFileDialog> dialog(
+        [&](QFileDialog *panel) { person::openFiles(panel, m_media->path(), names); });
+    click(button);
+    QVERIFY(dialog.happened());
+    QVERIFY(awaitAdded());
+}
+
+void ListsTest::addNumbered(int count)
+{
+    QStringList names;
+    for (int i = 0; i < count; ++i) {
+        names.append(u"%1.mp3"_s.arg(i));
+        makeFile(media(names.last()));
+    }
+    addFiles("toolbar_btn_Audio_Add_Files", names);
+    QCOMPARE(column(audio(), 0), names);
+}
+
+void ListsTest::fileDialog_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<QByteArray>("tableName");
+    QTest::addColumn<QStringList>("names");
+    QTest::newRow("audio") << 0 << QByteArray("toolbar_btn_Audio_Add_Files")
+                           << QByteArray("tableviewAudioFiles")
+                           << QStringList{ u"a.mp3"_s, u"b.m4a"_s, u"c.wav"_s };
+    QTest::newRow("video") << 1 << QByteArray("toolbar_btn_Video_Add_Files")
+                           << QByteArray("tableviewVideoFiles")
+                           << QStringList{ u"a.mpeg-4"_s, u"b.mkv.avi"_s, u"c.mp4"_s };
+}
+
+void ListsTest::fileDialog()
+{
+    QFETCH(int, tab);
+    QFETCH(QByteArray, button);
+    QFETCH(QByteArray, tableName);
+    QFETCH(QStringList, names);
+    for (const QString &name : names)
+        makeFile(media(name));
+    showTab(tab);
+    addFiles(button.constData(), names);
+    QCOMPARE(column(table(tableName.constData()), 0), names);
+    // A second time they come after those that are listed.
+    addFiles(button.constData(), { names.last() });
+    QCOMPARE(column(table(tableName.constData()), 0), names + QStringList(names.last()));
+    QCOMPARE(m_app->ffmpeg.runs().size(), 4);
+    QCOMPARE(m_app->ffmpeg.runs().first(), QStringList({ u"-i"_s, media(names.first()) }));
+}
+
+void ListsTest::fileDialogFiltersInAnyCase()
+{
+    for (const auto &name :
+        { u"a.mp3"_s, u"B.MP3"_s, u"c.WaV"_s, u"d.txt"_s, u"e.mp4"_s, u"mp3"_s, u"f.mp33"_s, u"z.wma"_s })
+        makeFile(media(name));
+    QStringList shown;
+    person::Expect<QFileDialog> dialog([&](QFileDialog *panel) {
+        shown = person::shownFiles(panel, m_media->path(), u"z.wma"_s);
+        QCOMPARE(panel->fileMode(), QFileDialog::ExistingFiles);
+        panel->reject();
+    });
+    click("toolbar_btn_Audio_Add_Files");
+    QVERIFY(dialog.happened());
+    std::ranges::sort(shown);
+    QCOMPARE(shown, QStringList({ u"B.MP3"_s, u"a.mp3"_s, u"c.WaV"_s, u"z.wma"_s }));
+}
+
+void ListsTest::panelCancelled_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QByteArray>("button");
+    QTest::newRow("audio files") << 0 << QByteArray("toolbar_btn_Audio_Add_Files");
+    QTest::newRow("audio folder") << 0 << QByteArray("toolbar_btn_Audio_Add_Folder");
+    QTest::newRow("video files") << 1 << QByteArray("toolbar_btn_Video_Add_Files");
+    QTest::newRow("video folder") << 1 << QByteArray("toolbar_btn_Video_Add_Folder");
+    QTest::newRow("data folder") << 2 << QByteArray("toolbar_btn_Data_Add_Folder");
+}
+
+void ListsTest::panelCancelled()
+{
+    QFETCH(int, tab);
+    QFETCH(QByteArray, button);
+    showTab(tab);
+    person::Expect<QFileDialog> dialog([](QFileDialog *panel) { QTest::keyClick(panel, Qt::Key_Escape); });
+    click(button.constData());
+    QVERIFY(dialog.happened());
+    QVERIFY(!m_app->controller->windowUniqueProgress);
+    QVERIFY(m_app->controller->arrayMediaFiles.isEmpty());
+    QVERIFY(m_app->controller->arrayDataFolders.isEmpty());
+}
+
+void ListsTest::recordsOfAddedFiles()
+{
+    makeFile(media(u"Songs/One.Two.M4A"_s), QByteArray(1025, 'x'));
+    person::Expect<QFileDialog> dialog(
+        [&](QFileDialog *panel) { person::openFiles(panel, media(u"Songs"_s), { u"One.Two.M4A"_s }); });
+    person::press(QKeySequence(u"Ctrl+O"_s));
+    QTRY_VERIFY(dialog.happened());
+    QTRY_COMPARE(m_app->controller->arrayMediaFiles.size(), 1);
+    const NodeMediaFile &file = m_app->controller->arrayMediaFiles.first();
+    QCOMPARE(file.s_File_URL, QUrl::fromLocalFile(media(u"Songs/One.Two.M4A"_s)));
+    QCOMPARE(file.s_File_Path, media(u"Songs/One.Two.M4A"_s));
+    QCOMPARE(file.s_Folder_Path, media(u"Songs"_s));
+    QCOMPARE(file.s_File_Name_With_Extension, u"One.Two.M4A"_s);
+    QCOMPARE(file.s_File_Extension, u"M4A"_s);
+    QCOMPARE(file.s_File_Size, u"1.00 KB"_s);
+    QCOMPARE(file.s_Duration, u" 00:03:25.4"_s);
+    QCOMPARE(file.i_Duration_in_Seconds, 205);
+    QStringList cells;
+    for (int i = 0; i < 4; ++i)
+        cells.append(column(audio(), i).first());
+    QCOMPARE(cells, QStringList({ u"One.Two.M4A"_s, u" 00:03:25.4"_s, u"1.00 KB"_s, media(u"Songs"_s) }));
+    QCOMPARE(m_app->controller->i_Audio_Total_Duration_in_Seconds, 205);
+    QCOMPARE(m_app->element<SpaceOccupiedView>("spaceoccupiedviewControl")->i_Percentage(), 205 * 100 / 4440);
+}
+
+void ListsTest::oddNames()
+{
+    const QStringList names{ u"-i.mp3"_s, u"a 'b' \"c\" $(d) `e`;.mp3"_s, u"line\nbreak.mp3"_s,
+        u"<b>bold<b>.mp3"_s, u"100%1 %s.mp3"_s, u"Ünïcødé 漢字 שלום 🎵.mp3"_s, QString(251, u'x') + u".mp3"_s,
+        u"back\\slash.mp3"_s, u" blanks .mp3"_s };
+    for (const QString &name : names)
+        makeFile(media(name));
+    person::Expect<QFileDialog> dialog(
+        [this](QFileDialog *panel) { person::openFolder(panel, m_media->path()); });
+    click("toolbar_btn_Audio_Add_Folder");
+    QVERIFY(awaitAdded());
+    QStringList listed = column(audio(), 0);
+    QStringList given;
+    for (const QStringList &run : m_app->ffmpeg.runs())
+        given.append(run.value(1));
+    for (const QString &name : names) {
+        QVERIFY2(listed.contains(name), qPrintable(name));
+        QVERIFY2(given.contains(media(name)), qPrintable(name));
+    }
+    QCOMPARE(listed.size(), names.size());
+    audio()->grab();
+    // What looks like rich text is shown as it is.
+    const int bold = static_cast<int>(listed.indexOf(u"<b>bold<b>.mp3"_s));
+    const QString tip = audio()->model()->index(bold, 0).data(Qt::ToolTipRole).toString();
+    QVERIFY(!tip.contains(u"<b>"_s));
+}
+
+void ListsTest::stepsAndRowsAtTheEnd()
+{
+    for (const auto &name : { u"0.mp3"_s, u"1.mp3"_s, u"2.mp3"_s })
+        makeFile(media(name));
+    // The tool measures a file only once the test says so.
+    m_app->ffmpeg.run("while [ ! -e \"$2.go\" ]; do sleep 0.02; done");
+    person::Expect<QFileDialog> dialog([this](QFileDialog *panel) {
+        person::openFiles(panel, m_media->path(), { u"2.mp3"_s, u"0.mp3"_s, u"1.mp3"_s });
+    });
+    click("toolbar_btn_Audio_Add_Files");
+    QVERIFY(dialog.happened());
+    const QPointer<Window_Unique_Progress> sheet = m_app->controller->windowUniqueProgress;
+    QVERIFY(sheet);
+    QVERIFY(sheet->isVisible());
+    QCOMPARE(sheet->windowModality(), Qt::WindowModal);
+    QCOMPARE(sheet->progressBar()->minimum(), 0);
+    QCOMPARE(sheet->progressBar()->maximum(), 3);
+    QCOMPARE(sheet->progressBar()->value(), 0);
+    // In the order in which they were marked.
+    const QStringList order{ u"2.mp3"_s, u"0.mp3"_s, u"1.mp3"_s };
+    for (int done = 1; done <= 2; ++done) {
+        makeFile(media(order.at(done - 1) + u".go"_s));
+        QTRY_COMPARE(sheet->progressBar()->value(), done);
+        QVERIFY(m_app->controller->windowUniqueProgress);
+        QCOMPARE(audio()->model()->rowCount(), 0);
+        QCOMPARE(m_app->controller->i_Audio_Total_Duration_in_Seconds, 0);
+        // One tool at a time.
+        QTRY_COMPARE(m_app->ffmpeg.runs().size(), done + 1);
+    }
+    makeFile(media(order.at(2) + u".go"_s));
+    QVERIFY(awaitAdded());
+    QCOMPARE(column(audio(), 0), order);
+    QCOMPARE(m_app->controller->i_Audio_Total_Duration_in_Seconds, 3 * 205);
+    QTRY_VERIFY(!sheet);
+}
+
+void ListsTest::windowAnswersWhileMeasuring()
+{
+    makeFile(media(u"a.mp3"_s));
+    m_app->ffmpeg.run("while [ ! -e \"$2.go\" ]; do sleep 0.02; done");
+    m_app->controller->addMediaFiles(
+        AppDelegate::ListKind::Audio, { QUrl::fromLocalFile(media(u"a.mp3"_s)) });
+    // The window lives, but the sheet is in front of it and cannot be put away.
+    QVERIFY(person::awaitKeyboard(m_app->controller->windowUniqueProgress));
+    person::press(QKeySequence(u"Ctrl+2"_s));
+    person::press(QKeySequence(Qt::Key_Escape));
+    person::clickTab(m_app->element<QTabWidget>("tabviewMain"), 1);
+    QVERIFY(m_app->controller->windowUniqueProgress->isVisible());
+    QCOMPARE(m_app->element<QTabWidget>("tabviewMain")->currentIndex(), 0);
+    makeFile(media(u"a.mp3.go"_s));
+    QVERIFY(awaitAdded());
+    QCOMPARE(audio()->model()->rowCount(), 1);
+    person::press(QKeySequence(u"Ctrl+2"_s));
+    QTRY_COMPARE(m_app->element<QTabWidget>("tabviewMain")->currentIndex(), 1);
+}
+
+void ListsTest::quitWhileMeasuring()
+{
+    makeFile(media(u"a.mp3"_s));
+    m_app->ffmpeg.run("while [ ! -e \"$2.go\" ]; do sleep 0.02; done");
+    m_app->controller->addMediaFiles(
+        AppDelegate::ListKind::Audio, { QUrl::fromLocalFile(media(u"a.mp3"_s)) });
+    QVERIFY(person::awaitKeyboard(m_app->controller->windowUniqueProgress));
+    person::press(QKeySequence(u"Ctrl+Q"_s));
+    QTRY_COMPARE(m_app->exits, QList<int>(1, 0));
+    makeFile(media(u"a.mp3.go"_s));
+    QVERIFY(awaitAdded());
+}
+
+void ListsTest::unreadableFileIsListed()
+{
+    makeFile(media(u"no music.mp3"_s), "text");
+    m_app->ffmpeg.print(u"-i"_s, "no music.mp3: Invalid data found when processing input\n");
+    m_app->ffmpeg.run("exit 1");
+    addFiles("toolbar_btn_Audio_Add_Files", { u"no music.mp3"_s });
+    QCOMPARE(column(audio(), 1), QStringList(QString()));
+    QCOMPARE(m_app->controller->arrayMediaFiles.first().i_Duration_in_Seconds, 0);
+    QCOMPARE(column(audio(), 2), QStringList(u"4.00 bytes"_s));
+}
+
+void ListsTest::hangingTranscoder()
+{
+    makeFile(media(u"a.mp3"_s));
+    m_app->controller->around.probeLimit = 300;
+    m_app->ffmpeg.run("sleep 100");
+    addFiles("toolbar_btn_Audio_Add_Files", { u"a.mp3"_s });
+    QCOMPARE(column(audio(), 1), QStringList(u" 00:03:25.4"_s));
+}
+
+void ListsTest::missingTranscoder()
+{
+    makeFile(media(u"a.mp3"_s));
+    QFile::remove(m_app->ffmpeg.path());
+    addFiles("toolbar_btn_Audio_Add_Files", { u"a.mp3"_s });
+    QCOMPARE(column(audio(), 0), QStringList(u"a.mp3"_s));
+    QCOMPARE(column(audio(), 1), QStringList(QString()));
+    QVERIFY(m_app->controller->activityLog->text().contains(u"could not be started"_s));
+}
+
+void ListsTest::mediaFolder_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<QByteArray>("tableName");
+    QTest::addColumn<QStringList>("accepted");
+    QTest::newRow("audio") << 0 << QByteArray("toolbar_btn_Audio_Add_Folder")
+                           << QByteArray("tableviewAudioFiles")
+                           << QStringList{ u"wma"_s, u"wav"_s, u"cda"_s, u"mp3"_s, u"mp2"_s, u"mpga"_s,
+                                  u"m4a"_s };
+    QTest::newRow("video") << 1 << QByteArray("toolbar_btn_Video_Add_Folder")
+                           << QByteArray("tableviewVideoFiles")
+                           << QStringList{ u"wmv"_s, u"mov"_s, u"mpg"_s, u"mpeg"_s, u"mpe"_s, u"avi"_s,
+                                  u"asf"_s, u"asx"_s, u"qt"_s, u"mp4"_s, u"mpeg-4"_s, u"flv"_s, u"ts"_s,
+                                  u"3gp"_s, u"fli"_s, u"m1v"_s, u"m2v"_s, u"mjpg"_s };
+}
+
+void ListsTest::mediaFolder()
+{
+    QFETCH(int, tab);
+    QFETCH(QByteArray, button);
+    QFETCH(QByteArray, tableName);
+    QFETCH(QStringList, accepted);
+    QStringList expected;
+    for (const QString &extension : accepted) {
+        expected.append(u"file."_s + extension);
+        makeFile(media(expected.last()));
+        makeFile(media(u"FILE."_s + extension.toUpper()));
+    }
+    expected.append(u".hidden."_s + accepted.first());
+    makeFile(media(expected.last()));
+    for (const QString &other : { u"text.txt"_s, u"none"_s, u"dot."_s, u".mp3"_s, u".mp4"_s })
+        makeFile(media(other));
+    makeFile(media(u"sub/inside."_s + accepted.first()));
+    showTab(tab);
+    person::Expect<QFileDialog> dialog([this](QFileDialog *panel) {
+        QCOMPARE(panel->fileMode(), QFileDialog::Directory);
+        person::openFolder(panel, m_media->path());
+    });
+    click(button.constData());
+    QVERIFY(dialog.happened());
+    QVERIFY(awaitAdded());
+    QStringList listed = column(table(tableName.constData()), 0);
+    std::ranges::sort(listed);
+    std::ranges::sort(expected);
+    QCOMPARE(listed, expected);
+    const NodeMediaFile &file = m_app->controller->arrayMediaFiles.first();
+    QCOMPARE(file.s_File_Path, media(file.s_File_Name_With_Extension));
+    QCOMPARE(file.s_File_URL, QUrl::fromLocalFile(file.s_File_Path));
+}
+
+void ListsTest::folderInTheFileSystemsOrder()
+{
+    for (const int number : { 7, 3, 9, 1, 5, 12, 10 })
+        makeFile(media(u"%1.mp3"_s.arg(number)));
+    QStringList expected = inTheFileSystemsOrder(m_media->path());
+    expected.removeIf([](const QString &name) { return !name.endsWith(u".mp3"_s); });
+    person::Expect<QFileDialog> dialog(
+        [this](QFileDialog *panel) { person::openFolder(panel, m_media->path()); });
+    person::choose(m_app->window.get(), "menuitemAddFolder");
+    QVERIFY(awaitAdded());
+    QCOMPARE(column(audio(), 0), expected);
+}
+
+void ListsTest::folderWithNothingAccepted()
+{
+    makeFile(media(u"b.MP3"_s));
+    person::Expect<QFileDialog> dialog(
+        [this](QFileDialog *panel) { person::openFolder(panel, m_media->path()); });
+    click("toolbar_btn_Audio_Add_Folder");
+    QVERIFY(dialog.happened());
+    QVERIFY(!m_app->controller->windowUniqueProgress);
+    QVERIFY(!QApplication::activeModalWidget());
+    QCOMPARE(audio()->model()->rowCount(), 0);
+}
+
+void ListsTest::folderThatIsGone()
+{
+    m_app->controller->addMediaFolder(AppDelegate::ListKind::Audio, media(u"gone"_s));
+    QVERIFY(!m_app->controller->windowUniqueProgress);
+    QVERIFY(m_app->controller->arrayMediaFiles.isEmpty());
+}
+
+void ListsTest::namesThatAreNotTextAreTold()
+{
+    makeFile(media(u"good.mp3"_s));
+    makeFileOfBytes(m_media->path().toUtf8() + "/bad \xff\xfe.mp3");
+    person::Expect<QFileDialog> dialog(
+        [this](QFileDialog *panel) { person::openFolder(panel, m_media->path()); });
+    QString told;
+    person::Expect<Window_Alert> alert([&](Window_Alert *window) {
+        for (const QLabel *label : window->findChildren<QLabel *>())
+            told += label->text() + u'\n';
+        person::pressTitled(window, u"Close"_s);
+    });
+    click("toolbar_btn_Audio_Add_Folder");
+    QVERIFY(dialog.happened());
+    QVERIFY(alert.happened());
+    QVERIFY(told.contains(u"1 file"_s));
+    QVERIFY(told.contains(u"not valid UTF-8"_s));
+    QVERIFY(told.contains(m_media->path()));
+    QVERIFY(awaitAdded());
+    QCOMPARE(column(audio(), 0), QStringList(u"good.mp3"_s));
+}
+
+void ListsTest::namesThatTheDialogCannotShow()
+{
+    makeFile(media(u"good.mp3"_s));
+    makeFileOfBytes(m_media->path().toUtf8() + "/bad \xff\xfe.mp3");
+    QString told;
+    person::Expect<QFileDialog> dialog([&](QFileDialog *panel) {
+        const auto *label = panel->findChild<QLabel *>(u"labelUnreadable"_s);
+        QVERIFY(!label->isVisible());
+        person::openFiles(panel, m_media->path(), {});
+        QTRY_VERIFY(label->isVisible());
+        told = label->text();
+        panel->reject();
+    });
+    click("toolbar_btn_Audio_Add_Files");
+    QVERIFY(dialog.happened());
+    QVERIFY2(told.startsWith(u"1 file"_s) && told.contains(u"UTF-8"_s), qPrintable(told));
+}
+
+void ListsTest::duplicates()
+{
+    addNumbered(1);
+    addFiles("toolbar_btn_Audio_Add_Files", { u"0.mp3"_s });
+    QCOMPARE(column(audio(), 0), QStringList(2, u"0.mp3"_s));
+    QCOMPARE(m_app->controller->i_Audio_Total_Duration_in_Seconds, 410);
+}
+
+void ListsTest::dataFolder()
+{
+    makeFile(media(u"a & b/one"_s), QByteArray(1023, 'x'));
+    showTab(2);
+    person::Expect<QFileDialog> dialog(
+        [this](QFileDialog *panel) { person::openFolder(panel, media(u"a & b"_s)); });
+    click("toolbar_btn_Data_Add_Folder");
+    QVERIFY(dialog.happened());
+    // At once, without a sheet.
+    QVERIFY(!m_app->controller->windowUniqueProgress);
+    const ListTableView *folders = table("tableviewDataFolders");
+    QCOMPARE(column(folders, 0), QStringList(media(u"a & b"_s)));
+    QCOMPARE(column(folders, 1), QStringList(u"1023.00 bytes"_s));
+    QCOMPARE(m_app->controller->i_Data_Total_Size_in_KBytes, 0);
+    QVERIFY(m_app->ffmpeg.runs().isEmpty());
+}
+
+void ListsTest::dataFolderTwice()
+{
+    makeFile(media(u"big/one"_s), QByteArray(2048, 'x'));
+    showTab(2);
+    for (int times = 1; times <= 2; ++times) {
+        person::Expect<QFileDialog> dialog(
+            [this](QFileDialog *panel) { person::openFolder(panel, media(u"big"_s)); });
+        person::press(QKeySequence(u"Ctrl+O"_s));
+        QTRY_COMPARE(m_app->controller->arrayDataFolders.size(), times);
+        QCOMPARE(m_app->controller->i_Data_Total_Size_in_KBytes, 2 * times);
+    }
+}
+
+void ListsTest::deleting_data()
+{
+    QTest::addColumn<QList<int>>("rows");
+    QTest::addColumn<QStringList>("left");
+    QTest::newRow("1 and 3") << QList<int>{ 1, 3 } << QStringList{ u"0.mp3"_s, u"2.mp3"_s, u"4.mp3"_s };
+    QTest::newRow("last to first") << QList<int>{ 4, 0 } << QStringList{ u"1.mp3"_s, u"2.mp3"_s, u"3.mp3"_s };
+    QTest::newRow("one") << QList<int>{ 2 } << QStringList{ u"0.mp3"_s, u"1.mp3"_s, u"3.mp3"_s, u"4.mp3"_s };
+    QTest::newRow("all") << QList<int>{ 0, 1, 2, 3, 4 } << QStringList();
+}
+
+void ListsTest::deleting()
+{
+    QFETCH(QList<int>, rows);
+    QFETCH(QStringList, left);
+    addNumbered(5);
+    for (const int row : rows)
+        person::clickRow(audio(), audio()->model()->index(row, 0), Qt::ControlModifier);
+    click("toolbar_btn_Audio_Delete");
+    QCOMPARE(column(audio(), 0), left);
+    QCOMPARE(m_app->controller->i_Audio_Total_Duration_in_Seconds, 205 * left.size());
+    QVERIFY(audio()->selectedRows().isEmpty());
+}
+
+void ListsTest::deletingFoldersWithTheKey()
+{
+    showTab(2);
+    for (const auto &name : { u"a"_s, u"b"_s, u"c"_s }) {
+        QDir().mkpath(media(name));
+        m_app->controller->addDataFolder(media(name));
+    }
+    const ListTableView *folders = table("tableviewDataFolders");
+    person::clickRow(table("tableviewDataFolders"), folders->model()->index(1, 0));
+    person::press(QKeySequence(Qt::Key_Delete));
+    QTRY_COMPARE(column(folders, 0), QStringList({ media(u"a"_s), media(u"c"_s) }));
+    person::press(QKeySequence(u"Ctrl+A"_s));
+    person::press(QKeySequence(Qt::Key_Delete));
+    QTRY_COMPARE(folders->model()->rowCount(), 0);
+}
+
+void ListsTest::deletingNothingRefreshes()
+{
+    addNumbered(2);
+    QSignalSpy reloads(audio()->model(), &QAbstractItemModel::modelReset);
+    m_app->controller->i_Audio_Total_Duration_in_Seconds = 0;
+    click("toolbar_btn_Audio_Delete");
+    QCOMPARE(reloads.size(), 1);
+    QCOMPARE(audio()->model()->rowCount(), 2);
+    QCOMPARE(m_app->controller->i_Audio_Total_Duration_in_Seconds, 410);
+}
+
+void ListsTest::clearing_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QByteArray>("button");
+    QTest::newRow("audio") << 0 << QByteArray("toolbar_btn_Audio_Clear");
+    QTest::newRow("video") << 1 << QByteArray("toolbar_btn_Video_Clear");
+    QTest::newRow("data") << 2 << QByteArray("toolbar_btn_Data_Clear");
+    QTest::newRow("by keys") << 0 << QByteArray();
+}
+
+void ListsTest::clearing()
+{
+    QFETCH(int, tab);
+    QFETCH(QByteArray, button);
+    showTab(tab);
+    AppDelegate &controller = *m_app->controller;
+    NodeMediaFile file;
+    file.i_Duration_in_Seconds = 100;
+    controller.arrayMediaFiles = QList<NodeMediaFile>(3, file);
+    controller.arrayDataFolders = QList<NodeDataFolder>(3, { u"/x"_s, 10, u"10.00 KB"_s });
+    if (tab == 0)
+        controller.refreshTableAudioFiles();
+    if (button.isEmpty())
+        person::press(QKeySequence(u"Ctrl+Shift+Del"_s));
+    else
+        click(button.constData());
+    if (tab == 2) {
+        QVERIFY(controller.arrayDataFolders.isEmpty());
+        QCOMPARE(controller.i_Data_Total_Size_in_KBytes, 0);
+        QCOMPARE(controller.arrayMediaFiles.size(), 3);
+    } else {
+        QTRY_VERIFY(controller.arrayMediaFiles.isEmpty());
+        QCOMPARE(controller.arrayDataFolders.size(), 3);
+        QCOMPARE(tab == 0 ? controller.i_Audio_Total_Duration_in_Seconds
+                          : controller.i_Video_Total_Duration_in_Seconds,
+            0);
+    }
+    QVERIFY(!QApplication::activeModalWidget());
+}
+
+void ListsTest::clearingIsSharedByAudioAndVideo()
+{
+    addNumbered(3);
+    m_app->controller->OnActionVideoClear();
+    QCOMPARE(audio()->model()->rowCount(), 0);
+    QVERIFY(m_app->controller->arrayMediaFiles.isEmpty());
+    // The table that is not refreshed must not ask for rows that are gone.
+    audio()->grab();
+    audio()->selectAll();
+    click("toolbar_btn_Audio_Delete");
+    click("toolbar_btn_Audio_Clear");
+}
+
+void ListsTest::playNothing_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QByteArray>("button");
+    QTest::newRow("audio") << 0 << QByteArray("toolbar_btn_Audio_Play");
+    QTest::newRow("video") << 1 << QByteArray("toolbar_btn_Video_Play");
+    QTest::newRow("by keys") << 1 << QByteArray();
+}
+
+void ListsTest::playNothing()
+{
+    QFETCH(int, tab);
+    QFETCH(QByteArray, button);
+    m_app->controller->around.questions = &m_app->questions;
+    showTab(tab);
+    m_app->controller->arrayMediaFiles.append(NodeMediaFile());
+    m_app->controller->refreshTableAudioFiles();
+    m_app->controller->refreshTableVideoFiles();
+    if (button.isEmpty())
+        person::press(QKeySequence(u"Ctrl+P"_s));
+    else
+        click(button.constData());
+    QTRY_COMPARE(
+        m_app->questions.texts(), QStringList(u"There is no file selected. | There is no file selected."_s));
+    QCOMPARE(m_app->questions.alerts.first().buttons, QStringList(u"Close"_s));
+}
+
+void ListsTest::playPanelsOfADataTabAreOff()
+{
+    showTab(2);
+    QVERIFY(!m_app->element<QAction>("menuitemPlay")->isEnabled());
+    showTab(4);
+    for (const char *item : { "menuitemPlay", "menuitemBurn", "menuitemAddFiles", "menuitemDelete",
+             "menuitemClear", "menuitemSelectAll", "menuitemMoveUp", "menuitemSort1" })
+        QVERIFY2(!m_app->element<QAction>(item)->isEnabled(), item);
+    showTab(0);
+    QVERIFY(m_app->element<QAction>("menuitemPlay")->isEnabled());
+}
+
+void ListsTest::movingRows()
+{
+    addNumbered(4);
+    person::clickRow(audio(), audio()->model()->index(2, 0));
+    person::clickRow(audio(), audio()->model()->index(3, 0), Qt::ControlModifier);
+    person::press(QKeySequence(u"Alt+Up"_s));
+    QTRY_COMPARE(column(audio(), 0), QStringList({ u"0.mp3"_s, u"2.mp3"_s, u"3.mp3"_s, u"1.mp3"_s }));
+    QCOMPARE(audio()->selectedRows(), QList<int>({ 1, 2 }));
+    person::press(QKeySequence(u"Alt+Up"_s));
+    person::press(QKeySequence(u"Alt+Up"_s)); // the first stays the first
+    QTRY_COMPARE(column(audio(), 0), QStringList({ u"2.mp3"_s, u"3.mp3"_s, u"0.mp3"_s, u"1.mp3"_s }));
+    person::press(QKeySequence(u"Alt+Down"_s));
+    QTRY_COMPARE(column(audio(), 0), QStringList({ u"0.mp3"_s, u"2.mp3"_s, u"3.mp3"_s, u"1.mp3"_s }));
+    QCOMPARE(audio()->selectedRows(), QList<int>({ 1, 2 }));
+}
+
+void ListsTest::dropOnAudio()
+{
+    makeFile(media(u"b.MP3"_s));
+    makeFile(media(u"a.wav"_s));
+    person::drop(audio(), { QUrl::fromLocalFile(media(u"b.MP3"_s)), QUrl::fromLocalFile(media(u"a.wav"_s)) });
+    QVERIFY(awaitAdded());
+    QCOMPARE(column(audio(), 0), QStringList({ u"b.MP3"_s, u"a.wav"_s }));
+}
+
+void ListsTest::dropOnData()
+{
+    showTab(2);
+    QDir().mkpath(media(u"one"_s));
+    QDir().mkpath(media(u"two"_s));
+    person::drop(table("tableviewDataFolders"),
+        { QUrl::fromLocalFile(media(u"two"_s)), QUrl::fromLocalFile(media(u"one/"_s)) });
+    QCOMPARE(column(table("tableviewDataFolders"), 0), QStringList({ media(u"two"_s), media(u"one"_s) }));
+}
+
+void ListsTest::dropThatDoesNotFitIsTold()
+{
+    m_app->controller->around.questions = &m_app->questions;
+    makeFile(media(u"good.mp3"_s));
+    makeFile(media(u"text.txt"_s));
+    makeFileOfBytes(m_media->path().toUtf8() + "/bad \xff.mp3");
+    const QUrl bad = QUrl::fromEncoded(m_media->path().toUtf8() + "/bad%20%FF.mp3");
+    person::drop(audio(),
+        { QUrl::fromLocalFile(media(u"text.txt"_s)), QUrl::fromLocalFile(media(u"good.mp3"_s)),
+            QUrl(u"https://example.org/song.mp3"_s), QUrl::fromLocalFile(media(u"gone.mp3"_s)) });
+    QVERIFY(awaitAdded());
+    QCOMPARE(column(audio(), 0), QStringList(u"good.mp3"_s));
+    QCOMPARE(m_app->questions.alerts.size(), 1);
+    const QString told = m_app->questions.alerts.first().informative;
+    for (const auto &name : { u"text.txt"_s, u"song.mp3"_s, u"gone.mp3"_s })
+        QVERIFY2(told.contains(name), qPrintable(name));
+    QVERIFY(!told.contains(u"good.mp3"_s));
+    m_app->questions.alerts.clear();
+    person::drop(audio(), { QUrl(QUrl::fromEncoded("file://" + bad.toEncoded())) });
+    QCOMPARE(m_app->questions.alerts.size(), 1);
+    QVERIFY(m_app->questions.alerts.first().informative.contains(u"UTF-8"_s));
+    // A file where only folders go.
+    showTab(2);
+    m_app->questions.alerts.clear();
+    person::drop(table("tableviewDataFolders"), { QUrl::fromLocalFile(media(u"good.mp3"_s)) });
+    QCOMPARE(m_app->questions.alerts.size(), 1);
+    QVERIFY(m_app->controller->arrayDataFolders.isEmpty());
+}
+
+QTEST_MAIN(ListsTest)
+#include "ListsTest.moc"

@@ -1,0 +1,360 @@
+// The program as a process: how it ends, and what it answers on the command line.
+#include "runner/StatusSheets.h"
+#include "support/Person.h"
+#include "support/ProgramFolder.h"
+#include "support/TestApplication.h"
+
+#include <QDialog>
+#include <QLabel>
+#include <QTest>
+
+#include <csignal>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A tool that says its process id and then works until the end of the test.
+constexpr const char *works = "case \"$1\" in burn) echo $$ > \"$0.pid\"; exec sleep 60;; esac";
+
+bool lives(qint64 pid)
+{
+    return pid > 0 && ::kill(static_cast<pid_t>(pid), 0) == 0;
+}
+
+/// In a process of its own: the window with a tool at work, ended in the way that the test names.
+int windowThatEnds(const QString &way)
+{
+    WindowQuestions questions;
+    MainWindow window;
+    Surroundings around = Surroundings::ofThisMachine(&questions);
+    around.drutil = qEnvironmentVariable("APP_TEST_DRUTIL");
+    AppDelegate controller(&window, around);
+    controller.awakeFromNib();
+    controller.applicationDidFinishLaunching();
+    QTimer::singleShot(0, &window, [&] {
+        controller.TimerBurnMP3();
+        while (!QFile::exists(around.drutil + u".pid"_s))
+            QTest::qWait(20);
+        if (way == "menu"_L1)
+            return person::choose(&window, "menuitemQuit");
+        if (way == "close"_L1) {
+            controller.Close_Window_Performing_Operation();
+            window.close();
+        } else if (person::awaitKeyboard(controller.windowPerformingOperation)) {
+            person::press(QKeySequence(u"Ctrl+Q"_s));
+        }
+    });
+    QApplication::exec();
+    return 99; // the process should have ended long ago
+}
+
+} // namespace
+
+class ProgramTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void endsWhileAToolWorks_data();
+    void endsWhileAToolWorks();
+    void signalEndsTheWindow_data();
+    void signalEndsTheWindow();
+    void signalEndsABatchRunAtWork();
+    void emptiesItsFoldersAtTheNextStart();
+
+    void folderThatCannotBeMade_data();
+    void folderThatCannotBeMade();
+
+    void wrongArguments_data();
+    void wrongArguments();
+    void argumentThatIsNotText();
+    void help();
+    void version();
+    void alertEndsABatchRun_data();
+    void alertEndsABatchRun();
+    void debugIsOffInABatchRun();
+    void burnsWithoutADisplay();
+    void missingToolStillEndsTheJob();
+};
+
+void ProgramTest::endsWhileAToolWorks_data()
+{
+    QTest::addColumn<QString>("way");
+    for (const char *way : { "menu", "keys", "close" })
+        QTest::newRow(way) << QString::fromLatin1(way);
+}
+
+void ProgramTest::endsWhileAToolWorks()
+{
+    QFETCH(QString, way);
+    TestApplication tools;
+    tools.drutil.run(works);
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"APP_TEST_DRUTIL"_s, tools.drutil.path());
+    process.setProcessEnvironment(environment);
+    process.start(QCoreApplication::applicationFilePath(), { u"--window-that-ends"_s, way });
+    QVERIFY(process.waitForFinished(30'000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+    const qint64 tool = contentOf(tools.drutil.path() + u".pid"_s).trimmed().toLongLong();
+    QVERIFY(lives(tool));
+    ::kill(static_cast<pid_t>(tool), SIGKILL);
+}
+
+void ProgramTest::signalEndsTheWindow_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("TERM") << SIGTERM;
+    QTest::newRow("INT") << SIGINT;
+    QTest::newRow("HUP") << SIGHUP;
+}
+
+void ProgramTest::signalEndsTheWindow()
+{
+    QFETCH(int, signal);
+    ProgramFolder folder;
+    folder.start();
+    QVERIFY(folder.process.waitForStarted());
+    // It runs once it has asked for the drives; the event loop follows.
+    QTRY_VERIFY(!folder.drutil.runs().isEmpty());
+    ::kill(static_cast<pid_t>(folder.process.processId()), signal);
+    QCOMPARE(folder.ended(), 0);
+}
+
+void ProgramTest::signalEndsABatchRunAtWork()
+{
+    ProgramFolder folder;
+    folder.drutil.print(u"status"_s, "Type: CD-R\noverwritable\n");
+    folder.drutil.run(works);
+    makeFile(folder.home(u"song.mp3"_s));
+    folder.start({ u"--burn"_s, u"MP3 CD"_s, folder.home(u"song.mp3"_s) });
+    QTRY_VERIFY_WITH_TIMEOUT(contentOf(folder.drutil.path() + u".pid"_s).endsWith('\n'), 20'000);
+    QCOMPARE(folder.process.state(), QProcess::Running);
+    folder.process.terminate();
+    QCOMPARE(folder.ended(), 0);
+    const qint64 tool = contentOf(folder.drutil.path() + u".pid"_s).trimmed().toLongLong();
+    QVERIFY(lives(tool));
+    ::kill(static_cast<pid_t>(tool), SIGKILL);
+}
+
+void ProgramTest::emptiesItsFoldersAtTheNextStart()
+{
+    ProgramFolder folder;
+    makeFile(folder.home(u"Documents/CorvalisAudio/left over.wav"_s));
+    folder.start();
+    QTRY_VERIFY(!folder.drutil.runs().isEmpty());
+    QVERIFY(!QFile::exists(folder.home(u"Documents/CorvalisAudio/left over.wav"_s)));
+    folder.process.terminate();
+    QCOMPARE(folder.ended(), 0);
+}
+
+void ProgramTest::folderThatCannotBeMade_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("no Documents") << QString() << u"Error #0008. Application will exit."_s;
+    QTest::newRow("output") << u"Corvalis"_s << u"Error #0008. Application will exit."_s;
+    QTest::newRow("audio") << u"CorvalisAudio"_s << u"Error #0009. Application will exit."_s;
+    QTest::newRow("video") << u"CorvalisVideo"_s << u"Error #000a. Application will exit."_s;
+    QTest::newRow("data") << u"CorvalisData"_s << u"Error #000b. Application will exit."_s;
+}
+
+void ProgramTest::folderThatCannotBeMade()
+{
+    QFETCH(QString, folder);
+    QFETCH(QString, text);
+    // In the window: the alert is up, and with it dismissed the program ends.
+    TestApplication app;
+    emptyHome();
+    if (folder.isEmpty()) {
+        makeFile(QDir::homePath() + u"/Documents"_s);
+    } else {
+        QDir().mkpath(documents());
+        QVERIFY(QFile::link(documents(u"nowhere/at all"_s), documents(folder)));
+    }
+    QStringList told;
+    person::Expect<QDialog> alert([&](QDialog *window) {
+        for (const QLabel *label : window->findChildren<QLabel *>()) {
+            if (!label->text().isEmpty())
+                told.append(label->text());
+        }
+        QVERIFY(app.exits.isEmpty());
+        person::pressTitled(window, u"Close"_s);
+    });
+    app.launchWithDialogs();
+    QVERIFY(alert.happened());
+    QCOMPARE(told, QStringList({ u"Error"_s, text }));
+    QCOMPARE(app.exits, QList<int>(1, 0));
+    // On the command line: nothing has been burned, so it is no success.
+    ProgramFolder program;
+    makeFile(program.home(u"song.mp3"_s));
+    if (folder.isEmpty()) {
+        makeFile(program.home(u"Documents"_s));
+    } else {
+        QDir().mkpath(program.home(u"Documents"_s));
+        QVERIFY(QFile::link(program.home(u"nowhere/at all"_s), program.home(u"Documents/"_s + folder)));
+    }
+    QCOMPARE(program.run({ u"--burn"_s, u"MP3 CD"_s, program.home(u"song.mp3"_s) }), 1);
+    QVERIFY(program.errors().contains(u"Error\n"_s + text + u'\n'));
+    QFile::remove(QDir::homePath() + u"/Documents"_s);
+}
+
+void ProgramTest::wrongArguments_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("sentence");
+    const QString all =
+        u"\"Audio CD\", \"MP3 CD\", \"MP3 DVD\", \"Video DVD\", \"Video Blu-ray\", \"Data CD\", "
+        "\"Data DVD\", \"Data Blu-ray\""_s;
+    QTest::newRow("unknown project") << QStringList{ u"--burn"_s, u"Audio DVD"_s, u"song.mp3"_s } << all;
+    QTest::newRow("other case") << QStringList{ u"--burn"_s, u"audio cd"_s, u"song.mp3"_s } << all;
+    QTest::newRow("no project") << QStringList{ u"--burn"_s } << u"burn"_s;
+    QTest::newRow("missing file") << QStringList{ u"--burn"_s, u"Audio CD"_s, u"gone.mp3"_s }
+                                  << u"gone.mp3"_s;
+    QTest::newRow("wrong extension") << QStringList{ u"--burn"_s, u"Audio CD"_s, u"text.txt"_s }
+                                     << u"wma, wav, cda, mp3"_s;
+    QTest::newRow("video on an audio disc")
+        << QStringList{ u"--burn"_s, u"Audio CD"_s, u"clip.mp4"_s } << u"clip.mp4"_s;
+    QTest::newRow("audio on a video disc")
+        << QStringList{ u"--burn"_s, u"Video DVD"_s, u"song.mp3"_s } << u"song.mp3"_s;
+    QTest::newRow("one of two missing")
+        << QStringList{ u"--burn"_s, u"Audio CD"_s, u"song.mp3"_s, u"gone.mp3"_s } << u"gone.mp3"_s;
+    QTest::newRow("folder on an audio disc")
+        << QStringList{ u"--burn"_s, u"Audio CD"_s, u"folder.mp3"_s } << u"folder.mp3"_s;
+    QTest::newRow("file on a data disc")
+        << QStringList{ u"--burn"_s, u"Data CD"_s, u"song.mp3"_s } << u"song.mp3"_s;
+    QTest::newRow("empty name") << QStringList{ u"--burn"_s, u"Audio CD"_s, QString(u""_s) } << u"file"_s;
+    QTest::newRow("unknown option") << QStringList{ u"--bake"_s } << u"bake"_s;
+    QTest::newRow("files without a project") << QStringList{ u"song.mp3"_s } << u"--burn"_s;
+    QTest::newRow("show without a project") << QStringList{ u"--show"_s } << u"--burn"_s;
+}
+
+void ProgramTest::wrongArguments()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, sentence);
+    ProgramFolder folder;
+    folder.process.setWorkingDirectory(folder.home());
+    for (const auto &name : { u"song.mp3"_s, u"text.txt"_s, u"clip.mp4"_s })
+        makeFile(folder.home(name));
+    QDir().mkpath(folder.home(u"folder.mp3"_s));
+    QCOMPARE(folder.run(arguments), 2);
+    const QString said = folder.errors();
+    QVERIFY2(said.startsWith(u"corvalis: "_s) && said.contains(sentence), qPrintable(said));
+    // Nothing has been touched.
+    QVERIFY(folder.drutil.runs().isEmpty());
+    QVERIFY(!QFile::exists(folder.home(u"Documents"_s)));
+}
+
+void ProgramTest::argumentThatIsNotText()
+{
+    ProgramFolder folder;
+    folder.process.setWorkingDirectory(folder.home());
+    // QProcess hands on text only, a shell any bytes.
+    folder.process.start(u"/bin/sh"_s,
+        { u"-c"_s, u"f=$(printf 'bad \\377.mp3'); : > \"$f\"; exec \"$0\" --burn 'Audio CD' \"$f\""_s,
+            folder.program() });
+    QCOMPARE(folder.ended(), 2);
+    // What Qt cannot remove.
+    QProcess::execute(u"/bin/sh"_s, { u"-c"_s, u"rm -f \"$0\"/*.mp3"_s, folder.home() });
+    const QString said = folder.errors();
+    QVERIFY2(said.contains(u"argument 3"_s) && said.contains(u"UTF-8"_s), qPrintable(said));
+}
+
+void ProgramTest::help()
+{
+    ProgramFolder folder;
+    QCOMPARE(folder.run({ u"--help"_s }), 0);
+    const QString said = QString::fromUtf8(folder.process.readAllStandardOutput());
+    QVERIFY(said.contains(u"--burn"_s) && said.contains(u"--show"_s) && said.contains(u"FILE"_s));
+    QVERIFY(folder.drutil.runs().isEmpty());
+}
+
+void ProgramTest::version()
+{
+    ProgramFolder folder;
+    QCOMPARE(folder.run({ u"--version"_s }), 0);
+    QVERIFY(folder.process.readAllStandardOutput().startsWith("corvalis "));
+}
+
+void ProgramTest::alertEndsABatchRun_data()
+{
+    QTest::addColumn<QByteArray>("status");
+    QTest::addColumn<QString>("texts");
+    QTest::newRow("no disc")
+        << QByteArray("Type: No Media Inserted\n")
+        << u"No disc\nThere is no disc on the drive. insert a writable media on the drive and try again.\n"_s;
+    QTest::newRow("not writable")
+        << QByteArray("Type: CD-ROM\n")
+        << u"Media not writable\nThe media on the drive is not writable. insert a writable "
+           "media on the drive and try again.\n"_s;
+    QTest::newRow("wrong type")
+        << QByteArray("Type: DVD-R\noverwritable\n")
+        << u"Media not CD\nThe media on the drive is not a CD. insert a writable CD on the "
+           "drive and try again.\n"_s;
+}
+
+void ProgramTest::alertEndsABatchRun()
+{
+    QFETCH(QByteArray, status);
+    QFETCH(QString, texts);
+    ProgramFolder folder;
+    folder.drutil.print(u"status"_s, status);
+    makeFile(folder.home(u"song.mp3"_s));
+    QCOMPARE(folder.run({ u"--burn"_s, u"Audio CD"_s, folder.home(u"song.mp3"_s) }), 1);
+    QCOMPARE(folder.errors(), texts);
+    QVERIFY(folder.drutil.runs(u"burn"_s).isEmpty());
+    // It was measured, as adding it in the window would have.
+    QCOMPARE(folder.ffmpeg.runs(), QList<QStringList>({ { u"-i"_s, folder.home(u"song.mp3"_s) } }));
+}
+
+void ProgramTest::debugIsOffInABatchRun()
+{
+    ProgramFolder folder;
+    QCOMPARE(folder.run({ u"--burn"_s, u"Data DVD"_s }), 1);
+    QCOMPARE(folder.errors(),
+        u"No folders on the list\nThere are no folders on the list. Add folders to the list and try again.\n"_s);
+}
+
+void ProgramTest::burnsWithoutADisplay()
+{
+    ProgramFolder folder;
+    folder.drutil.print(u"status"_s, "Type: CD-R\noverwritable\n");
+    makeFile(folder.home(u"song.mp3"_s));
+    QProcessEnvironment environment = folder.process.processEnvironment();
+    environment.remove(u"QT_QPA_PLATFORM"_s);
+    folder.process.setProcessEnvironment(environment);
+    folder.process.setWorkingDirectory(folder.home());
+    QCOMPARE(folder.run({ u"--burn"_s, u"MP3 CD"_s, u"song.mp3"_s }), 0);
+    const QString audio = folder.home(u"Documents/CorvalisAudio"_s);
+    QCOMPARE(
+        folder.drutil.runs(u"burn"_s), QList<QStringList>({ { u"burn"_s, audio, u"-drive"_s, u"1"_s } }));
+    QVERIFY(folder.process.readAllStandardOutput().contains("Operation complete\n"));
+    // Without --burn a display is needed, and its absence is told.
+    QVERIFY(folder.run({}) != 0);
+    QVERIFY(!folder.errors().isEmpty());
+}
+
+void ProgramTest::missingToolStillEndsTheJob()
+{
+    ProgramFolder folder;
+    folder.drutil.print(u"status"_s, "Type: CD-R\noverwritable\n");
+    makeFile(folder.home(u"song.mp3"_s));
+    QFile::remove(folder.ffmpeg.path());
+    QCOMPARE(folder.run({ u"--burn"_s, u"MP3 CD"_s, folder.home(u"song.mp3"_s) }), 0);
+    QVERIFY(!folder.errors().isEmpty());
+    QCOMPARE(folder.drutil.runs(u"burn"_s).size(), 1);
+}
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == "--window-that-ends"_L1)
+        return windowThatEnds(arguments.value(2));
+    ProgramTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "ProgramTest.moc"

@@ -1,0 +1,328 @@
+// The activity log's window and the alerts.
+#include "app/Window_Activity_Log.h"
+#include "app/Window_Alert.h"
+#include "runner/ActivityLog.h"
+#include "support/Person.h"
+#include "support/TestApplication.h"
+#include "ui_MainWindow.h"
+
+#include <QClipboard>
+#include <QFontDatabase>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QTest>
+#include <QTreeWidget>
+
+using namespace Qt::StringLiterals;
+
+class WindowsTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_app.reset(); }
+
+    void logOpensFrom_data();
+    void logOpensFrom();
+    void logListsEveryRun();
+    void logFollows();
+    void logCopies();
+    void logSaves();
+    void logTellsWhyItCannotBeSaved();
+    void logClosesWithEscape();
+
+    void alertTexts();
+    void alertIsPlainText();
+    void alertWithALongText_data();
+    void alertWithALongText();
+    void alertFitsTheScreen_data();
+    void alertFitsTheScreen();
+    void alertKeys_data();
+    void alertKeys();
+    void alertOverTheWindow();
+
+private:
+    Window_Activity_Log *openLog();
+    static QStringList texts(const QWidget *window);
+
+    std::unique_ptr<TestApplication> m_app;
+};
+
+void WindowsTest::init()
+{
+    emptyHome();
+    m_app = std::make_unique<TestApplication>();
+    m_app->launchWithDialogs();
+    QVERIFY(person::awaitKeyboard(m_app->window.get()));
+}
+
+Window_Activity_Log *WindowsTest::openLog()
+{
+    person::choose(m_app->window.get(), "menuitemActivityLog");
+    return m_app->controller->windowActivityLog;
+}
+
+QStringList WindowsTest::texts(const QWidget *window)
+{
+    QStringList texts;
+    for (const QLabel *label : window->findChildren<QLabel *>()) {
+        if (label->isVisible() && !label->text().isEmpty())
+            texts.append(label->text());
+    }
+    for (const QPlainTextEdit *field : window->findChildren<QPlainTextEdit *>()) {
+        if (field->isVisible())
+            texts.append(field->toPlainText());
+    }
+    return texts;
+}
+
+void WindowsTest::logOpensFrom_data()
+{
+    QTest::addColumn<int>("way");
+    QTest::newRow("menu") << 0;
+    QTest::newRow("keys") << 1;
+    QTest::newRow("tools tab") << 2;
+}
+
+void WindowsTest::logOpensFrom()
+{
+    QFETCH(int, way);
+    if (way == 0) {
+        person::choose(m_app->window.get(), "menuitemActivityLog");
+    } else if (way == 1) {
+        person::press(QKeySequence(u"Ctrl+L"_s));
+    } else {
+        person::clickTab(m_app->element<QTabWidget>("tabviewMain"), 4);
+        person::click(m_app->window.get(), "toolbar_btn_Tools_Activity_Log");
+    }
+    QTRY_VERIFY(m_app->controller->windowActivityLog);
+    const QPointer<Window_Activity_Log> log = m_app->controller->windowActivityLog;
+    QVERIFY(log->isVisible());
+    QVERIFY(!log->isModal());
+    // Opening it again shows the same one.
+    person::choose(m_app->window.get(), "menuitemActivityLog");
+    QCOMPARE(m_app->controller->windowActivityLog, log);
+}
+
+void WindowsTest::logListsEveryRun()
+{
+    m_app->drutil.run("echo 'what went wrong' >&2; exit 3");
+    m_app->controller->s_Current_Drive_Number = u"it's"_s;
+    m_app->controller->IsDriveEmpty();
+    m_app->controller->around.drutil = u"/nowhere/at all/drutil"_s;
+    m_app->controller->IsDriveEmpty();
+    const auto *list = openLog()->findChild<QTreeWidget *>(u"listRuns"_s);
+    QCOMPARE(list->topLevelItemCount(), 3);
+    const auto command = [list](int row) { return list->topLevelItem(row)->text(2); };
+    const auto outcome = [list](int row) { return list->topLevelItem(row)->text(1); };
+    QCOMPARE(command(0), m_app->drutil.path() + u" list"_s);
+    QCOMPARE(outcome(0), u"ended without an error"_s);
+    // As a shell would take it.
+    QCOMPARE(command(1), m_app->drutil.path() + u" status -drive 'it'\\''s'"_s);
+    QCOMPARE(outcome(1), u"ended with status 3"_s);
+    QVERIFY(command(2).startsWith(u"'/nowhere/at all/drutil' status"_s));
+    QVERIFY2(outcome(2).startsWith(u"could not be started: "_s), qPrintable(outcome(2)));
+    for (int row = 0; row < 3; ++row)
+        QVERIFY(QTime::fromString(list->topLevelItem(row)->text(0), u"HH:mm:ss"_s).isValid());
+    // A chosen run shows all that it said.
+    const auto *said = m_app->controller->windowActivityLog->findChild<QPlainTextEdit *>(u"textOutput"_s);
+    QVERIFY(said->toPlainText().isEmpty());
+    person::clickRow(const_cast<QTreeWidget *>(list), list->model()->index(1, 0));
+    QVERIFY(said->toPlainText().contains(u"what went wrong"_s));
+    person::clickRow(const_cast<QTreeWidget *>(list), list->model()->index(0, 0));
+    QVERIFY(said->toPlainText().contains(QString::fromLatin1(TestApplication::oneDrive)));
+    QVERIFY(!said->toPlainText().contains(u"what went wrong"_s));
+}
+
+void WindowsTest::logFollows()
+{
+    const auto *list = openLog()->findChild<QTreeWidget *>(u"listRuns"_s);
+    QCOMPARE(list->topLevelItemCount(), 1);
+    m_app->controller->IsDriveEmpty();
+    QTRY_COMPARE(list->topLevelItemCount(), 2);
+    QTRY_COMPARE(list->topLevelItem(1)->text(1), u"ended without an error"_s);
+}
+
+void WindowsTest::logCopies()
+{
+    m_app->controller->IsDriveEmpty();
+    Window_Activity_Log *log = openLog();
+    person::click(log, "btnCopy");
+    QCOMPARE(QGuiApplication::clipboard()->text(), m_app->controller->activityLog->text());
+    QVERIFY(QGuiApplication::clipboard()->text().contains(u"status -drive 1"_s));
+    auto *list = log->findChild<QTreeWidget *>(u"listRuns"_s);
+    person::clickRow(list, list->model()->index(0, 0));
+    person::click(log, "btnCopy");
+    QVERIFY(QGuiApplication::clipboard()->text().contains(u" list\n"_s));
+    QVERIFY(!QGuiApplication::clipboard()->text().contains(u"status -drive 1"_s));
+}
+
+void WindowsTest::logSaves()
+{
+    QTemporaryDir folder;
+    person::Expect<QFileDialog> dialog([&](QFileDialog *panel) {
+        panel->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(folder.filePath(u"my log.txt"_s));
+        person::pressTitled(panel, u"Save"_s);
+    });
+    person::click(openLog(), "btnSave");
+    QVERIFY(dialog.happened());
+    QCOMPARE(contentOf(folder.filePath(u"my log.txt"_s)), m_app->controller->activityLog->text().toUtf8());
+}
+
+void WindowsTest::logTellsWhyItCannotBeSaved()
+{
+    QTemporaryDir folder;
+    makeFile(folder.filePath(u"plain"_s));
+    const QString path = folder.filePath(u"plain/log.txt"_s);
+    QVERIFY(!openLog()->saveTo(path).isEmpty());
+    QVERIFY(!openLog()->saveTo(folder.path()).isEmpty());
+    QVERIFY(openLog()->saveTo(folder.filePath(u"log.txt"_s)).isEmpty());
+    // In the window: a folder in which nobody can make files.
+    QStringList told;
+    person::Expect<QFileDialog> dialog([&](QFileDialog *panel) {
+        panel->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(u"/proc/log.txt"_s);
+        person::pressTitled(panel, u"Save"_s);
+    });
+    person::Expect<Window_Alert> alert([&](Window_Alert *window) {
+        told = texts(window);
+        person::pressTitled(window, u"Close"_s);
+    });
+    person::click(openLog(), "btnSave");
+    QVERIFY(dialog.happened());
+    QVERIFY(alert.happened());
+    QCOMPARE(told.first(), u"The log could not be saved"_s);
+    QVERIFY(told.last().startsWith(u"/proc/log.txt\n"_s));
+}
+
+void WindowsTest::logClosesWithEscape()
+{
+    openLog();
+    QVERIFY(person::awaitKeyboard(m_app->controller->windowActivityLog));
+    person::press(QKeySequence(Qt::Key_Escape));
+    QTRY_VERIFY(!m_app->controller->windowActivityLog || !m_app->controller->windowActivityLog->isVisible());
+    QVERIFY(m_app->exits.isEmpty());
+    QVERIFY(openLog()->isVisible());
+}
+
+void WindowsTest::alertTexts()
+{
+    Window_Alert alert({ u"Message"_s, u"Informative"_s, { u"First"_s, u"Last"_s } }, m_app->window.get());
+    alert.show();
+    QCOMPARE(texts(&alert), QStringList({ u"Message"_s, u"Informative"_s }));
+    QCOMPARE(alert.windowModality(), Qt::ApplicationModal);
+    QStringList buttons;
+    for (const auto *button : alert.findChildren<QPushButton *>())
+        buttons.append(button->text());
+    QCOMPARE(QSet<QString>(buttons.cbegin(), buttons.cend()), QSet<QString>({ u"First"_s, u"Last"_s }));
+}
+
+void WindowsTest::alertIsPlainText()
+{
+    const QString rich = u"<img src=\"/etc/passwd\"><b>bold</b> <script>x</script> &amp; ok"_s;
+    Window_Alert alert({ rich, rich, { u"Close"_s } }, m_app->window.get());
+    alert.show();
+    QCOMPARE(texts(&alert), QStringList({ rich, rich }));
+    for (const QLabel *label : alert.findChildren<QLabel *>()) {
+        if (!label->text().isEmpty())
+            QCOMPARE(label->textFormat(), Qt::PlainText);
+    }
+}
+
+void WindowsTest::alertWithALongText_data()
+{
+    QTest::addColumn<bool>("longMessage");
+    QTest::addColumn<bool>("fixedWidth");
+    QTest::newRow("message") << true << false;
+    QTest::newRow("informative") << false << false;
+    QTest::newRow("short report") << false << true;
+}
+
+void WindowsTest::alertWithALongText()
+{
+    QFETCH(bool, longMessage);
+    QFETCH(bool, fixedWidth);
+    const QString report = fixedWidth ? u" Type: CD-R\n Size: 1"_s : u"a line of a tool\n"_s.repeated(2000);
+    const QString other = u"Warning 0030."_s;
+    Window_Alert alert(
+        { longMessage ? report : other, longMessage ? other : report, { u"Close"_s }, fixedWidth },
+        m_app->window.get());
+    alert.show();
+    const auto *field = alert.findChild<QPlainTextEdit *>();
+    QVERIFY(field->isVisible());
+    QVERIFY(field->isReadOnly());
+    QCOMPARE(field->toPlainText(), report);
+    QVERIFY(texts(&alert).contains(other));
+    QCOMPARE(field->font().family(), QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+}
+
+void WindowsTest::alertFitsTheScreen_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("one very long line") << QString(300'000, u'x');
+    QTest::newRow("long word") << QString(590, u'W');
+    QTest::newRow("many lines") << u"\n"_s.repeated(100'000);
+    QTest::newRow("eight lines") << u"line\n"_s.repeated(8);
+    QTest::newRow("long path") << u"/home/somebody"_s + u"/folder"_s.repeated(80);
+}
+
+void WindowsTest::alertFitsTheScreen()
+{
+    QFETCH(QString, text);
+    const QSize screen = m_app->window->screen()->size();
+    for (const bool asMessage : { true, false }) {
+        Window_Alert alert(
+            { asMessage ? text : u"m"_s, asMessage ? u"i"_s : text, { u"Close"_s } }, m_app->window.get());
+        alert.show();
+        QCoreApplication::processEvents();
+        QVERIFY2(alert.width() <= screen.width() && alert.height() <= screen.height(),
+            qPrintable(u"%1 x %2"_s.arg(alert.width()).arg(alert.height())));
+        const auto *button = alert.findChild<QPushButton *>();
+        QVERIFY(alert.rect().contains(QRect(button->mapTo(&alert, QPoint()), button->size())));
+    }
+}
+
+void WindowsTest::alertKeys_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("answer");
+    QTest::newRow("Escape is the last button") << int(Qt::Key_Escape) << 2;
+    QTest::newRow("Enter is the first") << int(Qt::Key_Return) << 0;
+    QTest::newRow("closing is the last") << 0 << 2;
+}
+
+void WindowsTest::alertKeys()
+{
+    QFETCH(int, key);
+    QFETCH(int, answer);
+    person::Expect<Window_Alert> alert([key](Window_Alert *window) {
+        QVERIFY(person::awaitKeyboard(window));
+        if (key == 0)
+            window->close();
+        else
+            person::press(QKeySequence(key));
+    });
+    const int given =
+        m_app->dialogs.ask({ u"m"_s, u"i"_s, { u"Erase"_s, u"Other"_s, u"Cancel"_s } }, m_app->window.get());
+    QVERIFY(alert.happened());
+    QCOMPARE(given, answer);
+}
+
+void WindowsTest::alertOverTheWindow()
+{
+    QStringList told;
+    person::Expect<Window_Alert> alert([&](Window_Alert *window) {
+        told = texts(window);
+        person::choose(m_app->window.get(), "menuitemDebugMode");
+        person::clickTab(m_app->element<QTabWidget>("tabviewMain"), 1);
+        person::pressTitled(window, u"Close"_s);
+    });
+    person::click(m_app->window.get(), "btnBurn");
+    QVERIFY(alert.happened());
+    QCOMPARE(told.first(), u"No audio files on the list"_s);
+    // The window behind it took no press.
+    QCOMPARE(m_app->element<QTabWidget>("tabviewMain")->currentIndex(), 0);
+}
+
+QTEST_MAIN(WindowsTest)
+#include "WindowsTest.moc"

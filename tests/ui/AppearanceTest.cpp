@@ -1,0 +1,464 @@
+// The colour scheme in the whole application: kept, shown, changed in its sheet.
+#include "compilation/ListTableView.h"
+#include "compilation/SpaceOccupiedView.h"
+#include "support/JobApplication.h"
+#include "ui/ColourScheme.h"
+#include "ui/ColourWell.h"
+#include "ui/PaintedViews.h"
+#include "ui/SystemAppearance.h"
+#include "ui/Window_Colors.h"
+
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QSettings>
+
+using namespace Qt::StringLiterals;
+using ColourScheme::Role;
+
+namespace {
+
+constexpr std::array wellNames{ "colorListBackground", "colorListForeground", "colorToolbar",
+    "colorBottomBar", "colorSpaceOccupied" };
+constexpr std::array toolbarNames{ "view_Toolbar_Audio_BG", "view_Toolbar_Audio_Sub_BG",
+    "view_Toolbar_Video_BG", "view_Toolbar_Video_Sub_BG", "view_Toolbar_Data_BG", "view_Toolbar_Data_Sub_BG",
+    "view_Toolbar_ISO_BG", "view_Toolbar_Tools_BG" };
+constexpr std::array tableNames{ "tableviewAudioFiles", "tableviewVideoFiles", "tableviewDataFolders" };
+const QColor blueGrey(75, 105, 141);
+
+QString stored(const QString &key)
+{
+    return QSettings(u"Corvalis"_s, u"Corvalis"_s).value(key).toString();
+}
+
+QString storedAlternating()
+{
+    return stored(u"Quendral_Corvalis_b_List_Alternating_Rows"_s);
+}
+
+void store(const QString &key, const QString &value)
+{
+    QSettings(u"Corvalis"_s, u"Corvalis"_s).setValue(key, value);
+}
+
+/// The colour at the right edge of a view, where nothing stands on it.
+QColor edge(const QWidget *view)
+{
+    const auto image = const_cast<QWidget *>(view)->grab().toImage();
+    return image.pixelColor(image.width() - 1, image.height() / 2);
+}
+
+void setDark(bool dark)
+{
+    QFile file(SystemAppearance::globalPreferencesFile());
+    QVERIFY(QDir().mkpath(QFileInfo(file).path()));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(dark ? "AppleInterfaceStyle=Dark\n" : "AppleInterfaceStyle=Light!\n");
+}
+
+} // namespace
+
+class AppearanceTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void firstStart();
+    void restartKeepsTheScheme();
+    void tablesFollowTheScheme_data();
+    void tablesFollowTheScheme();
+    void desktopTurnsDark();
+    void cellsArePaintedInTheSchemesColours();
+    void toolbarsAndBottomBarArePainted();
+    void gauge_data();
+    void gauge();
+    void sheetShowsTheScheme();
+    void okTakesOver();
+    void cancelLeavesEverything();
+    void originalThenCancel();
+    void originalThenOk();
+    void damagedColourStaysUnset();
+    void strangeAlternatingValue();
+    void wellAsksForAColour();
+    void openingTwiceReplacesTheSheet();
+
+private:
+    template <class T>
+    static T *inSheet(const JobApplication &app, const char *name)
+    {
+        return app.controller->windowColors->findChild<T *>(QLatin1StringView(name));
+    }
+    static void open(const JobApplication &app) { app.trigger("menuitemColors"); }
+    static void click(const JobApplication &app, const char *button)
+    {
+        inSheet<QPushButton>(app, button)->click();
+    }
+};
+
+void AppearanceTest::init()
+{
+    QSettings(u"Corvalis"_s, u"Corvalis"_s).clear();
+    setDark(false);
+}
+
+void AppearanceTest::firstStart()
+{
+    JobApplication app;
+    app.launch();
+    QCOMPARE(storedAlternating(), u"1"_s);
+    for (const Role role : ColourScheme::roles) {
+        QCOMPARE(stored(ColourScheme::markerKey(role)), u"Recorded"_s);
+        QCOMPARE(stored(ColourScheme::valueKey(role)), ColourScheme::toText(ColourScheme::shipped(role)));
+    }
+    QCOMPARE(app.controller->colorToolbar, blueGrey);
+    QCOMPARE(app.controller->colorTableForeground, QColor(Qt::white));
+}
+
+void AppearanceTest::restartKeepsTheScheme()
+{
+    {
+        JobApplication app;
+        app.launch();
+        open(app);
+        for (std::size_t i = 0; i < wellNames.size(); ++i)
+            inSheet<ColourWell>(app, wellNames[i])->setColour(QColor(10 * int(i), 200, 30));
+        inSheet<QCheckBox>(app, "check_Alternating_Rows")->setChecked(false);
+        click(app, "btnOK");
+    }
+    JobApplication app;
+    const auto &controller = app.launch();
+    const std::array colours{ controller.colorTableBackground, controller.colorTableForeground,
+        controller.colorToolbar, controller.colorBottomBar, controller.colorSpaceOccupiedBar };
+    for (std::size_t i = 0; i < colours.size(); ++i)
+        QCOMPARE(colours[i], QColor(10 * int(i), 200, 30));
+    QCOMPARE(controller.b_List_Alternating_Rows, 0);
+}
+
+void AppearanceTest::tablesFollowTheScheme_data()
+{
+    QTest::addColumn<bool>("dark");
+    QTest::addColumn<QString>("alternating");
+    QTest::addColumn<QColor>("ground");
+    QTest::addColumn<QColor>("text");
+    const QColor black(Qt::black);
+    const QColor white(Qt::white);
+    QTest::newRow("on, light") << false << u"1"_s << white << black;
+    QTest::newRow("on, dark") << true << u"1"_s << black << white;
+    QTest::newRow("off, light") << false << u"0"_s << QColor(82, 82, 82) << white;
+    QTest::newRow("off, dark") << true << u"0"_s << QColor(82, 82, 82) << white;
+}
+
+void AppearanceTest::tablesFollowTheScheme()
+{
+    QFETCH(bool, dark);
+    QFETCH(QString, alternating);
+    QFETCH(QColor, ground);
+    QFETCH(QColor, text);
+    setDark(dark);
+    store(u"Quendral_Corvalis_b_List_Alternating_Rows"_s, alternating);
+    JobApplication app;
+    app.launch();
+    QTRY_COMPARE(
+        app.element<ListTableView>("tableviewAudioFiles")->alternatingRowColors(), alternating == u"1");
+    for (const char *name : tableNames) {
+        const auto *table = app.element<ListTableView>(name);
+        QCOMPARE(table->palette().color(QPalette::Base), ground);
+        QCOMPARE(table->alternatingRowColors(), alternating == u"1");
+    }
+    QCOMPARE(app.controller->cellTextColour(), text);
+}
+
+void AppearanceTest::desktopTurnsDark()
+{
+    QVERIFY(QFile::remove(SystemAppearance::globalPreferencesFile())); // so that the palette decides
+    const auto original = QApplication::palette();
+    JobApplication app;
+    app.launch();
+    const auto *table = app.element<ListTableView>("tableviewAudioFiles");
+    QCOMPARE(table->palette().color(QPalette::Base), QColor(Qt::white));
+    auto dark = original;
+    dark.setColor(QPalette::Window, QColor(40, 40, 40));
+    dark.setColor(QPalette::WindowText, Qt::white);
+    QApplication::setPalette(dark);
+    QCOMPARE(table->palette().color(QPalette::Base), QColor(Qt::black));
+    QCOMPARE(app.controller->cellTextColour(), QColor(Qt::white));
+    QApplication::setPalette(original);
+    QCOMPARE(table->palette().color(QPalette::Base), QColor(Qt::white));
+}
+
+void AppearanceTest::cellsArePaintedInTheSchemesColours()
+{
+    JobApplication app;
+    app.launch();
+    QVERIFY(app.add({ app.file(u"MMMMMMMM.mp3"_s), app.file(u"WWWWWWWW.mp3"_s) }));
+    auto *table = app.element<ListTableView>("tableviewAudioFiles");
+    table->clearSelection();
+    const auto cell = [table](int row) {
+        return table->viewport()->grab(table->visualRect(table->model()->index(row, 0))).toImage();
+    };
+    const auto ground = [&](int row) { return cell(row).pixelColor(cell(row).width() - 3, 3); };
+    const auto hasColour = [&](int row, const QColor &colour) {
+        const auto image = cell(row);
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixelColor(x, y).rgb() == colour.rgb())
+                    return true;
+        return false;
+    };
+    QTRY_VERIFY(ground(0) != ground(1)); // the rows alternate once the timer has come
+    QCOMPARE(ground(0), QColor(Qt::white));
+    QVERIFY(hasColour(0, Qt::black));
+
+    open(app);
+    inSheet<ColourWell>(app, "colorListBackground")->setColour(QColor(0, 64, 0));
+    inSheet<ColourWell>(app, "colorListForeground")->setColour(QColor(255, 255, 0));
+    inSheet<QCheckBox>(app, "check_Alternating_Rows")->setChecked(false);
+    click(app, "btnOK");
+    QTRY_COMPARE(ground(1), QColor(0, 64, 0));
+    QCOMPARE(ground(0), QColor(0, 64, 0));
+    QVERIFY(hasColour(0, QColor(255, 255, 0)));
+    QVERIFY(!hasColour(0, Qt::black));
+
+    setDark(true);
+    open(app);
+    inSheet<QCheckBox>(app, "check_Alternating_Rows")->setChecked(true);
+    click(app, "btnOK");
+    QTRY_VERIFY(ground(0) != ground(1));
+    QCOMPARE(ground(0), QColor(Qt::black));
+    QVERIFY(hasColour(0, Qt::white));
+}
+
+void AppearanceTest::toolbarsAndBottomBarArePainted()
+{
+    JobApplication app;
+    app.launch();
+    for (const char *name : toolbarNames)
+        QCOMPARE(edge(app.element<QWidget>(name)), blueGrey);
+    QVERIFY(!app.window->findChildren<View_Bottom_Bar_BG_Color *>().isEmpty());
+    open(app);
+    inSheet<ColourWell>(app, "colorToolbar")->setColour(QColor(200, 220, 40));
+    inSheet<ColourWell>(app, "colorBottomBar")->setColour(QColor(90, 20, 20));
+    click(app, "btnOK");
+    for (const char *name : toolbarNames)
+        QCOMPARE(edge(app.element<QWidget>(name)), QColor(200, 220, 40));
+    for (const auto *bar : app.window->findChildren<View_Bottom_Bar_BG_Color *>())
+        QCOMPARE(edge(bar), QColor(90, 20, 20));
+}
+
+void AppearanceTest::gauge_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<qint64>("percent");
+    QTest::addColumn<int>("bar");
+    QTest::addColumn<int>("red");
+    QTest::newRow("empty") << 200 << qint64(0) << 0 << 0;
+    QTest::newRow("a third") << 200 << qint64(33) << 66 << 0;
+    QTest::newRow("a third, cut off") << 199 << qint64(33) << 65 << 0;
+    QTest::newRow("89") << 200 << qint64(89) << 178 << 0;
+    QTest::newRow("90") << 200 << qint64(90) << 180 << 0;
+    QTest::newRow("95") << 200 << qint64(95) << 180 << 10;
+    QTest::newRow("100") << 200 << qint64(100) << 180 << 20;
+    QTest::newRow("250") << 200 << qint64(250) << 180 << 20;
+}
+
+void AppearanceTest::gauge()
+{
+    QFETCH(int, width);
+    QFETCH(qint64, percent);
+    QFETCH(int, bar);
+    QFETCH(int, red);
+    QColor colour(Qt::blue);
+    SpaceOccupiedView view;
+    view.setColourSource([&] { return colour; });
+    view.resize(width, 20);
+    view.setI_Percentage(percent);
+    for (const auto chosen : { QColor(Qt::blue), QColor(20, 180, 60) }) {
+        colour = chosen;
+        const auto image = view.grab().toImage();
+        for (int x = 0; x < width; ++x) {
+            const auto pixel = image.pixelColor(x, 10);
+            if (x < bar)
+                QCOMPARE(pixel, chosen);
+            else if (x < bar + red)
+                QCOMPARE(pixel, QColor(255, 0, 0));
+            else // the ground is grey, lighter at the bottom
+                QVERIFY(pixel.saturation() == 0
+                    && image.pixelColor(x, 19).value() > image.pixelColor(x, 0).value());
+        }
+    }
+}
+
+void AppearanceTest::sheetShowsTheScheme()
+{
+    JobApplication app;
+    auto &controller = app.launch();
+    controller.colorBottomBar = QColor(1, 2, 3);
+    open(app);
+    QVERIFY(inSheet<QCheckBox>(app, "check_Alternating_Rows")->isChecked());
+    QCOMPARE(inSheet<ColourWell>(app, "colorListBackground")->colour(), QColor(82, 82, 82));
+    QCOMPARE(inSheet<ColourWell>(app, "colorListForeground")->colour(), QColor(Qt::white));
+    QCOMPARE(inSheet<ColourWell>(app, "colorToolbar")->colour(), blueGrey);
+    QCOMPARE(inSheet<ColourWell>(app, "colorBottomBar")->colour(), QColor(1, 2, 3));
+    QCOMPARE(inSheet<ColourWell>(app, "colorSpaceOccupied")->colour(), QColor(Qt::blue));
+    for (const auto *button : controller.windowColors->findChildren<QAbstractButton *>()) {
+        QVERIFY(!button->toolTip().isEmpty());
+        QVERIFY(!button->text().isEmpty() || !button->accessibleName().isEmpty());
+    }
+    QVERIFY(QTest::qWaitForWindowActive(controller.windowColors));
+    QCOMPARE(QApplication::focusWidget()->objectName(), u"btnOK"_s);
+}
+
+void AppearanceTest::okTakesOver()
+{
+    JobApplication app;
+    auto &controller = app.launch();
+    open(app);
+    const QPointer<Window_Colors> sheet = controller.windowColors;
+    inSheet<ColourWell>(app, "colorSpaceOccupied")->setColour(QColor(255, 128, 0));
+    inSheet<QCheckBox>(app, "check_Alternating_Rows")->setChecked(false);
+    click(app, "btnOK");
+    QVERIFY(!controller.windowColors);
+    QTRY_VERIFY(!sheet);
+    QCOMPARE(controller.colorSpaceOccupiedBar, QColor(255, 128, 0));
+    QCOMPARE(controller.b_List_Alternating_Rows, 0);
+    QCOMPARE(storedAlternating(), u"0"_s);
+    const auto text = stored(ColourScheme::valueKey(Role::SpaceOccupiedBar));
+    QCOMPARE(ColourScheme::fromText(text)->toColour(), QColor(255, 128, 0));
+    // What was not changed keeps all its digits.
+    for (const Role role : { Role::TableBackground, Role::TableForeground, Role::Toolbar, Role::BottomBar })
+        QCOMPARE(stored(ColourScheme::valueKey(role)), ColourScheme::toText(ColourScheme::shipped(role)));
+}
+
+void AppearanceTest::cancelLeavesEverything()
+{
+    JobApplication app;
+    auto &controller = app.launch();
+    open(app);
+    inSheet<ColourWell>(app, "colorToolbar")->setColour(Qt::red);
+    inSheet<QCheckBox>(app, "check_Alternating_Rows")->setChecked(false);
+    QTest::keyClick(controller.windowColors, Qt::Key_Escape);
+    QVERIFY(!controller.windowColors);
+    QCOMPARE(controller.colorToolbar, blueGrey);
+    QCOMPARE(controller.b_List_Alternating_Rows, 1);
+    QCOMPARE(storedAlternating(), u"1"_s);
+    QCOMPARE(stored(ColourScheme::valueKey(Role::Toolbar)),
+        ColourScheme::toText(ColourScheme::shipped(Role::Toolbar)));
+}
+
+void AppearanceTest::originalThenCancel()
+{
+    JobApplication app;
+    auto &controller = app.launch();
+    open(app);
+    inSheet<ColourWell>(app, "colorToolbar")->setColour(Qt::red);
+    inSheet<ColourWell>(app, "colorListBackground")->setColour(QColor(0, 64, 0));
+    inSheet<QCheckBox>(app, "check_Alternating_Rows")->setChecked(false);
+    click(app, "btnOK");
+    QTest::qWait(200);
+
+    open(app);
+    click(app, "btnOriginal");
+    QCOMPARE(controller.colorToolbar, blueGrey);
+    QVERIFY(inSheet<QCheckBox>(app, "check_Alternating_Rows")->isChecked());
+    QCOMPARE(inSheet<ColourWell>(app, "colorToolbar")->colour(), blueGrey);
+    QCOMPARE(controller.b_List_Alternating_Rows, 0);
+    click(app, "btnCancel");
+    QCOMPARE(storedAlternating(), u"1"_s);
+    for (const Role role : ColourScheme::roles)
+        QCOMPARE(stored(ColourScheme::valueKey(role)), ColourScheme::toText(ColourScheme::shipped(role)));
+    // The window still has the old look: nobody told its tables.
+    QTest::qWait(200);
+    QCOMPARE(controller.b_List_Alternating_Rows, 0);
+    QCOMPARE(
+        app.element<ListTableView>("tableviewAudioFiles")->palette().color(QPalette::Base), QColor(0, 64, 0));
+    QVERIFY(!app.element<ListTableView>("tableviewAudioFiles")->alternatingRowColors());
+    // A redraw, whatever causes it, shows the shipped colour.
+    QCOMPARE(edge(app.element<QWidget>("view_Toolbar_Audio_BG")), blueGrey);
+}
+
+void AppearanceTest::originalThenOk()
+{
+    JobApplication app;
+    auto &controller = app.launch();
+    controller.colorTableForeground = Qt::red;
+    controller.b_List_Alternating_Rows = 0;
+    open(app);
+    click(app, "btnOriginal");
+    click(app, "btnOK");
+    QCOMPARE(controller.colorTableForeground, QColor(Qt::white));
+    QCOMPARE(controller.b_List_Alternating_Rows, 1);
+    QTRY_VERIFY(app.element<ListTableView>("tableviewDataFolders")->alternatingRowColors());
+    for (const Role role : ColourScheme::roles)
+        QCOMPARE(stored(ColourScheme::valueKey(role)), ColourScheme::toText(ColourScheme::shipped(role)));
+}
+
+void AppearanceTest::damagedColourStaysUnset()
+{
+    store(ColourScheme::markerKey(Role::Toolbar), u"Recorded"_s);
+    store(ColourScheme::valueKey(Role::Toolbar), u"no colour at all"_s);
+    store(ColourScheme::markerKey(Role::TableForeground), u"Recorded"_s);
+    store(u"Quendral_Corvalis_b_List_Alternating_Rows"_s, u"0"_s);
+    JobApplication app;
+    auto &controller = app.launch();
+    QVERIFY(!controller.colorToolbar.isValid());
+    QVERIFY(!controller.colorTableForeground.isValid());
+    QCOMPARE(controller.colorBottomBar, blueGrey);
+    QVERIFY(app.add({ app.file(u"a.mp3"_s) })); // and everything still draws
+    app.window->grab();
+    QCOMPARE(stored(ColourScheme::valueKey(Role::Toolbar)), u"no colour at all"_s);
+    open(app);
+    QVERIFY(!inSheet<ColourWell>(app, "colorToolbar")->colour().isValid());
+    controller.windowColors->grab();
+    click(app, "btnOK");
+    QVERIFY(!controller.colorToolbar.isValid());
+    QCOMPARE(stored(ColourScheme::valueKey(Role::Toolbar)), u"no colour at all"_s);
+}
+
+void AppearanceTest::strangeAlternatingValue()
+{
+    store(u"Quendral_Corvalis_b_List_Alternating_Rows"_s, u"2"_s);
+    JobApplication app;
+    auto &controller = app.launch();
+    QTest::qWait(300);
+    const auto *table = app.element<ListTableView>("tableviewAudioFiles");
+    QCOMPARE(table->palette().color(QPalette::Base), QColor(Qt::white));
+    QVERIFY(!table->alternatingRowColors());
+    QCOMPARE(controller.cellTextColour(), QColor(Qt::black));
+    open(app);
+    QVERIFY(!inSheet<QCheckBox>(app, "check_Alternating_Rows")->isChecked());
+}
+
+void AppearanceTest::wellAsksForAColour()
+{
+    JobApplication app;
+    app.launch();
+    open(app);
+    auto *well = inSheet<ColourWell>(app, "colorToolbar");
+    well->click();
+    const QPointer<QColorDialog> dialog = well->findChild<QColorDialog *>(u"colourDialog"_s);
+    QVERIFY(dialog);
+    QCOMPARE(dialog->currentColor(), blueGrey);
+    dialog->setCurrentColor(QColor(11, 22, 33));
+    dialog->accept();
+    QCOMPARE(well->colour(), QColor(11, 22, 33));
+    QCOMPARE(app.controller->colorToolbar, blueGrey); // until OK
+    QTRY_VERIFY(!dialog);
+    well->click();
+    well->findChild<QColorDialog *>(u"colourDialog"_s)->reject();
+    QCOMPARE(well->colour(), QColor(11, 22, 33));
+}
+
+void AppearanceTest::openingTwiceReplacesTheSheet()
+{
+    JobApplication app;
+    auto &controller = app.launch();
+    open(app);
+    const QPointer<Window_Colors> first = controller.windowColors;
+    controller.OnToolsColors();
+    QVERIFY(!first);
+    QVERIFY(controller.windowColors && controller.windowColors->isVisible());
+    controller.Cancel_Window_Colors();
+    controller.Cancel_Window_Colors();
+    QVERIFY(!controller.windowColors);
+}
+
+QTEST_MAIN(AppearanceTest)
+#include "AppearanceTest.moc"

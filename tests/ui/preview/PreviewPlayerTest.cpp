@@ -1,0 +1,327 @@
+// How the player plays: rates, places, ends, controls.
+#include "ui/preview/PreviewWindow.h"
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+class PreviewPlayerTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(makeMedia(m_folder.path())); }
+    void rateMovesPositionAndPicture_data();
+    void rateMovesPositionAndPicture();
+    void transportSteps();
+    void titleIsPauseOnlyAtNormalSpeed();
+    void stopsAtBothEnds();
+    void playAtTheEndRestarts();
+    void currentTimeGoesToWholeSeconds_data();
+    void currentTimeGoesToWholeSeconds();
+    void sliderSeeks();
+    void slidersFollow();
+    void keys();
+    void propertiesTellTheirChanges();
+    void closingTakesEverythingAway();
+
+private:
+    QString file(const char *name) const { return m_folder.filePath(QLatin1StringView(name)); }
+    static QString playAt(const PreviewWindow &player, int presses, double rate, bool isFilm);
+    QTemporaryDir m_folder;
+};
+
+void PreviewPlayerTest::rateMovesPositionAndPicture_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("presses"); // of fast forward, negative of rewind; 0 plays
+    QTest::addColumn<double>("rate");
+    for (const char *name : { "film.mp4", "film.mpg", "film.ts", "sound.mp3" }) {
+        const auto row = [name](int presses, double rate) {
+            QTest::addRow("%s at %g", name, rate) << QString::fromLatin1(name) << presses << rate;
+        };
+        row(0, 1);
+        row(1, 2);
+        row(2, 4);
+        row(3, 6);
+        row(5, 10);
+        row(-1, -2);
+        row(-2, -4);
+    }
+}
+
+/// Plays at a rate for about a second. Empty where position and picture moved as they should, else what they
+/// did.
+QString PreviewPlayerTest::playAt(const PreviewWindow &player, int presses, double rate, bool isFilm)
+{
+    player.setCurrentTime(rate < 0 ? 11 : 1);
+    if (presses == 0)
+        player.play()->click();
+    for (int i = 0; i < std::abs(presses); ++i)
+        (presses > 0 ? player.forward() : player.rewind())->click();
+    if (player.rate() != rate)
+        return u"the rate is %1"_s.arg(player.rate());
+
+    const double begin = player.currentTime();
+    if (!QTest::qWaitFor([&] { return std::abs(player.currentTime() - begin) > 0.05; }))
+        return u"nothing moves"_s;
+    QElapsedTimer clock;
+    clock.start();
+    const double first = player.currentTime();
+    const double span = std::min(6.0, std::abs(rate) * 1.2);
+    if (!QTest::qWaitFor(
+            [&] { return std::abs(player.currentTime() - first) > span || player.rate() != rate; }, 10'000)
+        || player.rate() != rate)
+        return u"it stopped at %1"_s.arg(player.currentTime());
+    const double passed = static_cast<double>(clock.nsecsElapsed()) / 1e9;
+    const double measured = (player.currentTime() - first) / passed;
+    if (measured / rate < 0.7 || measured / rate > 1.3)
+        return u"the measured rate is %1"_s.arg(measured);
+    const double shown = isFilm ? player.pictureTime() : player.currentTime();
+    if ((shown - begin) * rate <= 0 || std::abs(shown - player.currentTime()) > 0.3 * std::abs(rate) + 0.3)
+        return u"the picture of %1 is shown at %2"_s.arg(shown).arg(player.currentTime());
+    return {};
+}
+
+void PreviewPlayerTest::rateMovesPositionAndPicture()
+{
+    QFETCH(QString, name);
+    QFETCH(int, presses);
+    QFETCH(double, rate);
+    PreviewWindow player(m_folder.filePath(name));
+    QTRY_VERIFY(player.isReady());
+    // On a machine that is busy with other things a second may pass without a chance to decode: it may try
+    // again.
+    QString trouble;
+    for (int attempt = 0; attempt < 6; ++attempt) {
+        trouble = playAt(player, presses, rate, name.startsWith("film"_L1));
+        if (trouble.isEmpty())
+            return;
+        if (player.rate() != 1)
+            player.play()->click();
+        player.play()->click();
+        QTest::qWait(500);
+    }
+    QFAIL(qPrintable(trouble));
+}
+
+void PreviewPlayerTest::transportSteps()
+{
+    PreviewWindow player(file("film.mp4"));
+    QTRY_VERIFY(player.isReady());
+    for (const double rate : { 2.0, 4.0, 6.0, 8.0, 10.0 }) {
+        player.forward()->click();
+        QCOMPARE(player.rate(), rate);
+    }
+    for (const double rate : { -2.0, -4.0, -6.0 }) {
+        player.rewind()->click();
+        QCOMPARE(player.rate(), rate);
+    }
+    player.forward()->click();
+    QCOMPARE(player.rate(), 2.0);
+    player.play()->click();
+    QCOMPARE(player.rate(), 1.0);
+    player.rewind()->click();
+    QCOMPARE(player.rate(), -2.0);
+    player.play()->click();
+    QCOMPARE(player.rate(), 1.0);
+    player.play()->click();
+    QCOMPARE(player.rate(), 0.0);
+}
+
+void PreviewPlayerTest::titleIsPauseOnlyAtNormalSpeed()
+{
+    PreviewWindow player(file("film.mp4"));
+    QCOMPARE(player.play()->text(), u"Play"_s);
+    QTRY_VERIFY(player.isReady());
+    QCOMPARE(player.play()->text(), u"Play"_s);
+    player.play()->click();
+    QCOMPARE(player.play()->text(), u"Pause"_s);
+    QCOMPARE(player.play()->accessibleName(), u"Pause"_s);
+    player.forward()->click();
+    QCOMPARE(player.play()->text(), u"Play"_s);
+    QCOMPARE(player.find<QLabel>("rateLabel")->text(), u"2×"_s);
+    player.rewind()->click();
+    QCOMPARE(player.play()->text(), u"Play"_s);
+    QCOMPARE(player.find<QLabel>("rateLabel")->text(), u"−2×"_s);
+    player.play()->click();
+    QCOMPARE(player.play()->text(), u"Pause"_s);
+    QCOMPARE(player.find<QLabel>("rateLabel")->text(), QString());
+    player.play()->click();
+    QCOMPARE(player.play()->text(), u"Play"_s);
+}
+
+void PreviewPlayerTest::stopsAtBothEnds()
+{
+    PreviewWindow player(file("film.mp4"));
+    QTRY_VERIFY(player.isReady());
+    player.setCurrentTime(2);
+    player.rewind()->click();
+    QTRY_COMPARE(player.rate(), 0.0);
+    QCOMPARE(player.currentTime(), 0.0);
+    QTRY_VERIFY(std::abs(player.pictureTime()) < 0.2);
+
+    for (int i = 0; i < 6; ++i) // 12, faster than the library goes by itself
+        player.forward()->click();
+    QTRY_COMPARE(player.rate(), 0.0);
+    QCOMPARE(player.currentTime(), player.duration());
+    player.forward()->click(); // there is nothing more
+    QTRY_COMPARE(player.rate(), 0.0);
+    QCOMPARE(player.currentTime(), player.duration());
+    player.rewind()->click();
+    QTRY_VERIFY(player.currentTime() < player.duration() - 1);
+    QCOMPARE(player.rate(), -2.0);
+}
+
+void PreviewPlayerTest::playAtTheEndRestarts()
+{
+    PreviewWindow player(file("film.mp4"));
+    QTRY_VERIFY(player.isReady());
+    for (int round = 0; round < 2; ++round) {
+        player.setCurrentTime(11);
+        player.play()->click();
+        QCOMPARE(player.rate(), 1.0);
+        QTRY_COMPARE(player.rate(), 0.0);
+        QCOMPARE(player.play()->text(), u"Play"_s);
+        QCOMPARE(player.currentTime(), player.duration());
+        player.play()->click();
+        QCOMPARE(player.rate(), 1.0);
+        QVERIFY(player.currentTime() < 1);
+        QTRY_VERIFY(player.currentTime() > 0.5);
+        QVERIFY(player.currentTime() < 11);
+        QCOMPARE(player.rate(), 1.0);
+        player.play()->click();
+    }
+}
+
+void PreviewPlayerTest::currentTimeGoesToWholeSeconds_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : { "film.mp4", "film.mpg", "film.ts", "film.avi", "film.wmv", "film.flv" })
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void PreviewPlayerTest::currentTimeGoesToWholeSeconds()
+{
+    QFETCH(QString, name);
+    PreviewWindow player(m_folder.filePath(name));
+    QTRY_VERIFY(player.isReady());
+    for (const auto &[asked, expected] :
+        { std::pair{ 7.9, 7.0 }, { 3.0, 3.0 }, { 10.5, 10.0 }, { 1.0, 1.0 } }) {
+        player.setCurrentTime(asked);
+        QCOMPARE(player.currentTime(), expected);
+        QTRY_VERIFY2(std::abs(player.pictureTime() - expected) < 0.1,
+            qPrintable(u"%1 shows %2"_s.arg(expected).arg(player.pictureTime())));
+        QCOMPARE(player.currentTime(), expected);
+    }
+    player.setCurrentTime(-5);
+    QCOMPARE(player.currentTime(), 0.0);
+    player.setCurrentTime(1e9);
+    QCOMPARE(player.currentTime(), player.duration());
+    player.setCurrentTime(std::nan(""));
+    QCOMPARE(player.currentTime(), player.duration());
+}
+
+void PreviewPlayerTest::sliderSeeks()
+{
+    PreviewWindow player(file("film.mp4"));
+    QTRY_VERIFY(player.isReady());
+    auto *slider = player.find<QAbstractSlider>("timeSlider");
+    QCOMPARE(slider->maximum() / 1000.0, player.duration());
+    QTest::mouseClick(slider, Qt::LeftButton, {}, QPoint(slider->width() / 2, slider->height() / 2));
+    QVERIFY(std::abs(player.currentTime() - 6) <= 1);
+    QCOMPARE(player.currentTime(), std::trunc(player.currentTime()));
+    const double target = player.currentTime();
+    QTRY_VERIFY(std::abs(player.pictureTime() - target) < 0.1);
+    QTest::mouseClick(slider, Qt::LeftButton, {}, QPoint(slider->width() - 1, slider->height() / 2));
+    QVERIFY(player.currentTime() >= 11);
+    QTest::mouseClick(slider, Qt::LeftButton, {}, QPoint(1, slider->height() / 2));
+    QCOMPARE(player.currentTime(), 0.0);
+}
+
+void PreviewPlayerTest::slidersFollow()
+{
+    PreviewWindow player(file("film.mp4"));
+    QTRY_VERIFY(player.isReady());
+    auto *slider = player.find<QAbstractSlider>("timeSlider");
+    player.play()->click();
+    QTRY_VERIFY(slider->property("seconds").toDouble() > 1);
+    QCOMPARE(player.rate(), 1.0);
+    QTRY_COMPARE(player.find<QLabel>("elapsedLabel")->text(), u"0:02"_s);
+    QCOMPARE(player.find<QLabel>("durationLabel")->text(), u"0:12"_s);
+
+    auto *volume = player.find<QAbstractSlider>("volumeSlider");
+    QCOMPARE(volume->value(), 100);
+    player->setProperty("volume", 0.25F);
+    QCOMPARE(volume->value(), 25);
+    volume->setValue(60);
+    QCOMPARE(player->property("volume").toFloat(), 0.6F);
+    player->setProperty("volume", 7.0F);
+    QCOMPARE(player->property("volume").toFloat(), 1.0F);
+    player->setProperty("volume", -1.0F);
+    QCOMPARE(player->property("volume").toFloat(), 0.0F);
+}
+
+void PreviewPlayerTest::keys()
+{
+    PreviewWindow player(file("film.mp4"));
+    QTRY_VERIFY(player.isReady());
+    QTest::keyClick(player.window(), Qt::Key_Space);
+    QCOMPARE(player.rate(), 1.0);
+    QTest::keyClick(player.window(), Qt::Key_Space);
+    QCOMPARE(player.rate(), 0.0);
+    player.setCurrentTime(0);
+    QTest::keyClick(player.window(), Qt::Key_Right);
+    QCOMPARE(player.currentTime(), 5.0);
+    QTest::keyClick(player.window(), Qt::Key_Right);
+    QTest::keyClick(player.window(), Qt::Key_Right);
+    QCOMPARE(player.currentTime(), std::trunc(player.duration()));
+    QTest::keyClick(player.window(), Qt::Key_Left);
+    QCOMPARE(player.currentTime(), std::trunc(player.duration()) - 5);
+    QTest::keyClick(player.window(), Qt::Key_Down);
+    QCOMPARE(player->property("volume").toFloat(), 0.95F);
+    QTest::keyClick(player.window(), Qt::Key_Escape);
+    QVERIFY(!player->isVisible());
+    QCOMPARE(player->result(), 1);
+}
+
+void PreviewPlayerTest::propertiesTellTheirChanges()
+{
+    PreviewWindow player(file("film.mp4"));
+    QSignalSpy duration(player.window(), SIGNAL(durationChanged(double)));
+    QSignalSpy time(player.window(), SIGNAL(currentTimeChanged(double)));
+    QSignalSpy volume(player.window(), SIGNAL(volumeChanged(float)));
+    QCOMPARE(player.duration(), 0.0);
+    QTRY_VERIFY(player.isReady());
+    QVERIFY(!duration.isEmpty());
+    QVERIFY(std::abs(player.duration() - 12) < 0.1);
+    time.clear();
+    player.play()->click();
+    QTRY_VERIFY(time.size() > 5);
+    player->setProperty("volume", 0.5F);
+    player->setProperty("volume", 0.5F);
+    QCOMPARE(volume.size(), 1);
+    QCOMPARE(player->property("volume").toFloat(), 0.5F);
+}
+
+void PreviewPlayerTest::closingTakesEverythingAway()
+{
+    PreviewWindow player(file("film.mp4"));
+    QTRY_VERIFY(player.isReady());
+    player.play()->click();
+    player->close();
+    QCOMPARE(player->result(), 1);
+    QCOMPARE(player.duration(), 0.0);
+    QCOMPARE(player.currentTime(), 0.0);
+    QVERIFY(!player.isReady());
+    player.setCurrentTime(3);
+    player->setProperty("volume", 0.5F);
+    QTest::keyClick(player.window(), Qt::Key_Space);
+    QTest::qWait(250);
+    QCOMPARE(player.rate(), 0.0);
+}
+
+QTEST_MAIN(PreviewPlayerTest)
+#include "PreviewPlayerTest.moc"

@@ -1,20 +1,23 @@
 # shellcheck shell=bash
 # UDisks2, which mounts discs on a desktop, is asked to unmount them. Needs a system bus and UDisks2.
 
-udisks=/usr/libexec/udisks2/udisksd
-service=""
-if ! pgrep -x udisksd >/dev/null; then
-    $udisks >"$scratch/udisks.log" 2>&1 &
-    service=$!
-    until_true 20 udisksctl status >/dev/null 2>&1
-fi
+services=()
+# serve NAME PROGRAM: start a service of the system bus where none runs.
+serve() {
+    ! pgrep -x "$1" >/dev/null || return 0
+    "$2" >"$scratch/$1.log" 2>&1 &
+    services+=($!)
+}
+serve polkitd /usr/lib/polkit-1/polkitd
+serve udisksd /usr/libexec/udisks2/udisksd
+until_true 20 udisksctl status >/dev/null 2>&1
 
 through_udisks() {
     put_in dvd+r
     small_folder f
     call drutil burn f -drive "$number"
     expect_status 0
-    udisksctl mount -b "$device" >mounted || fail "UDisks2 does not mount: $(cat "$scratch/udisks.log")"
+    udisksctl mount -b "$device" >mounted || fail "UDisks2 does not mount: $(cat "$scratch/udisksd.log")"
     # With nothing but udisksctl to be found, umount cannot have been it.
     mkdir only
     ln -s "$(command -v udisksctl)" only/
@@ -29,7 +32,8 @@ check eject-through-udisks through_udisks
 
 udisks_in_use() {
     call drutil tray close -drive "$number"
-    udisksctl mount -b "$device" >mounted || fail "UDisks2 does not mount"
+    # The kernel asks the drive for news every two seconds.
+    until_true 15 udisksctl mount -b "$device" || fail "UDisks2 does not mount"
     local place
     place=$(findmnt -n -o TARGET -S "$device")
     (cd "$place" && exec sleep 100) &
@@ -42,4 +46,4 @@ udisks_in_use() {
     expect_refusal 1 'mounted at .* cannot be unmounted: close the programs'
 }
 check udisks-volume-in-use udisks_in_use
-[ -z "$service" ] || { kill "$service"; wait "$service"; }
+[ ${#services[@]} = 0 ] || { kill "${services[@]}"; wait "${services[@]}"; } 2>/dev/null

@@ -76,10 +76,10 @@ check ram-sigkill-in-mid-burn killed
 
 erase_full_stopped() {
     in_background drutil erase full -drive "$number"
-    until_writing
+    until_writing Erasing
     kill -TERM "$job"
     end_of_job 60
-    expect_refusal 143 'has to be erased before it can be used'
+    expect_refusal 143 'Stopped\. What the disc in drive . holds is incomplete; it can be written again'
     expect_medium 'erasable, overwritable'
 }
 check ram-erase-full-stopped erase_full_stopped

@@ -123,6 +123,6 @@ build_guest() {
     local folder=$1
     unpack_packages "$folder" && unpack_kernel "$folder" && finish_tree "$folder/root" && make_initrd "$folder" || return 1
     mke2fs -q -t ext4 -O ^has_journal -m 0 -L labroot -E lazy_itable_init=1,root_owner=0:0 \
-        -d "$folder/root" "$folder/root.img" 14G || return 1
+        -d "$folder/root" "$folder/root.img" 14G >/dev/null || return 1
     rm -rf "$folder/root" "$folder/initrd" "$folder/status" "$folder/none"
 }

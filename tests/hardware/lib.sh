@@ -51,11 +51,11 @@ check() {
     rm -rf "$work"
 }
 
-# call COMMAND...: run it for at most three minutes; its exit status and its two outputs are what
+# call COMMAND...: run it for at most five minutes; its exit status and its two outputs are what
 # expect_* looks at.
 call() {
     echo "\$ $*"
-    timeout -k 10 180 "$@" >out 2>err
+    timeout -k 10 300 "$@" >out 2>err
     status=$?
     tail -n 12 out
     cat err

@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2154,SC2034,SC2317
 # UDisks2, which mounts discs on a desktop, is asked to unmount them. Needs a system bus and UDisks2.
 
 services=()

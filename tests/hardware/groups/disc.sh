@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2154,SC2034,SC2317
 # A burner and write-once discs: what is reported, written and read back. Needs root.
 
 list_columns() {

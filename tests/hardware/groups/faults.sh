@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2154,SC2034,SC2317
 # What goes wrong with drives: others who use them, missing permission, stopped and killed writes, sources
 # that change, cables. Needs root and write-once discs.
 

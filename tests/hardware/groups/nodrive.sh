@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2154,SC2034,SC2317
 # A machine without any drive.
 
 none_listed() {

@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2154,SC2034,SC2317
 # A drive that refuses RESERVE TRACK, and with it disc at once: another way of writing is taken.
 
 fall_back() {

@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2154,SC2034,SC2317
 # A DVD-RAM, which is overwritten in place; the drive of the guest refuses SET STREAMING and FORMAT UNIT.
 
 status_fresh() { expect_medium 'Type: DVD-RAM ' 'Writability: erasable, overwritable' "Name: $device$"; }

@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2154,SC2034,SC2317
 # Two drives with a blank disc in each: numbers, and drives that come and go. For the guest only: it takes a
 # drive away from the kernel and finds it again.
 

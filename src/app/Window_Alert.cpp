@@ -55,6 +55,7 @@ void Window_Alert::showTexts(const Alert &alert)
     if (!report)
         return;
     QPlainTextEdit *const field = m_ui->textReport;
+    field->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     field->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     field->setPlainText(longMessage ? alert.message : alert.informative);
     field->setAccessibleName(longMessage ? tr("Report") : alert.message);

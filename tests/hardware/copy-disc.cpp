@@ -16,7 +16,11 @@ namespace {
 
 class Person : public Questions {
 public:
-    Person(QString folder, QString command) : m_folder(std::move(folder)), m_command(std::move(command)) {}
+    Person(QString folder, QString command)
+        : m_folder(std::move(folder))
+        , m_command(std::move(command))
+    {
+    }
 
     int ask(const Alert &alert, QWidget *) override
     {
@@ -25,10 +29,10 @@ public:
         // An alert that is no question about the disc is a failure, and so is a question asked again.
         if (!alert.message.startsWith(u"Insert a writable media"_s) || std::exchange(m_changed, true))
             ::_exit(1);
-        return QProcess::execute(u"bash"_s, {u"-c"_s, m_command}) == 0 ? 0 : 1;
+        return QProcess::execute(u"bash"_s, { u"-c"_s, m_command }) == 0 ? 0 : 1;
     }
 
-    QList<QUrl> choose(const OpenPanel &, QWidget *) override { return {QUrl::fromLocalFile(m_folder)}; }
+    QList<QUrl> choose(const OpenPanel &, QWidget *) override { return { QUrl::fromLocalFile(m_folder) }; }
 
 private:
     const QString m_folder;
@@ -50,7 +54,8 @@ int main(int argc, char **argv)
     Person person(arguments.at(1), arguments.at(2));
     MainWindow window;
     AppDelegate controller(&window, Surroundings::ofThisMachine(&person));
-    QObject::connect(&controller, &AppDelegate::operationCompleted, &application, [] { QApplication::exit(0); });
+    QObject::connect(
+        &controller, &AppDelegate::operationCompleted, &application, [] { QApplication::exit(0); });
     controller.awakeFromNib();
     controller.applicationDidFinishLaunching();
     QTimer::singleShot(0, &controller, &AppDelegate::OnActionDataCopyDisc);

@@ -33,7 +33,7 @@ check() {
         echo "ended with an error: $(tail -1 "$work/log")" >"$work/why"
     left=$(pgrep -x drutil; pgrep -x hdiutil; pgrep -x corvalis)
     if [ -n "$left" ]; then
-        [ -s "$work/why" ] || echo "left running:" $left >"$work/why"
+        [ -s "$work/why" ] || echo "left running: ${left//$'\n'/ }" >"$work/why"
         # shellcheck disable=SC2086 # process numbers
         kill -9 $left
     fi
@@ -199,7 +199,8 @@ compare_disc() {
     digests "$1" >sent
     digests "$point" >found
     umount "$point" || fail "the disc cannot be unmounted"
-    [ -s sent ] && cmp sent found || fail "other files on the disc: $(diff sent found | head -3)"
+    [ -s sent ] || fail "nothing was sent"
+    cmp sent found || fail "other files on the disc: $(diff sent found | head -3)"
 }
 
 # tray_unlocked: the drive itself opens when it is told to. udev locks it on its own account as soon as it

@@ -23,8 +23,8 @@ check application-data-dvd data_job
 mp3_job() {
     put_in dvd+r
     sine "A tone.wav" 440 6
-    sine "-Another.flac" 660 5
-    call corvalis --burn "MP3 DVD" "A tone.wav" "$PWD/-Another.flac"
+    sine "-Another.m4a" 660 5
+    call corvalis --burn "MP3 DVD" "A tone.wav" "$PWD/-Another.m4a"
     expect_status 0
     expect_out 'Operation complete'
     mount -o ro "$device" "$point" || fail "the disc cannot be mounted"

@@ -168,7 +168,7 @@ pulled() {
     until_writing
     pull_drive
     end_of_job 60
-    expect_refusal 1 'The write to drive . failed|is gone'
+    expect_refusal 1 'The connection to drive . was lost during the write; check its cable'
     call drutil list
     expect_status 0
     expect_no_out '^[1-9a-z]'

@@ -1,4 +1,4 @@
-// What Joliet can hold of a file name (Joliet Specification, "Allowed Character Set").
+// What Joliet can hold of a file name (Joliet, "Allowed Character Set").
 #pragma once
 
 #include <string_view>

@@ -207,7 +207,7 @@ private Q_SLOTS:
             const auto *field = alert->findChild<QPlainTextEdit *>();
             QVERIFY(field && field->isVisible());
             seen = field->toPlainText() == QString::fromUtf8(discs::blankCD) && field->isReadOnly()
-                && field->fontMetrics().horizontalAdvance(u'i') == field->fontMetrics().horizontalAdvance(u'M') && (field->textInteractionFlags() & Qt::TextSelectableByMouse)
+                && QFontInfo(field->font()).fixedPitch() && (field->textInteractionFlags() & Qt::TextSelectableByMouse)
                 && (field->textInteractionFlags() & Qt::TextSelectableByKeyboard);
             const auto buttons = alert->findChildren<QAbstractButton *>();
             seen = seen && buttons.size() == 1 && buttons.first()->text() == u"OK"_s;

@@ -1,7 +1,8 @@
 // Erase, eject, load and disc information, from the tools tab and the menu.
+#include "app/Window_Alert.h"
 #include "support/JobApplication.h"
+#include "support/Person.h"
 
-#include <QFontInfo>
 #include <QMenu>
 #include <QPlainTextEdit>
 
@@ -200,24 +201,22 @@ private Q_SLOTS:
         WindowQuestions windows;
         app.around.questions = &windows;
         ready(app, discs::blankCD);
-        bool seen = false;
-        QTimer::singleShot(300, this, [&seen] {
-            QWidget *alert = QApplication::activeModalWidget();
-            QVERIFY(alert);
+        person::Expect<Window_Alert> information([](Window_Alert *alert) {
             const auto *field = alert->findChild<QPlainTextEdit *>();
             QVERIFY(field && field->isVisible());
-            seen = field->toPlainText() == QString::fromUtf8(discs::blankCD) && field->isReadOnly()
-                && QFontInfo(field->font()).fixedPitch() && (field->textInteractionFlags() & Qt::TextSelectableByMouse)
-                && (field->textInteractionFlags() & Qt::TextSelectableByKeyboard);
-            const auto buttons = alert->findChildren<QAbstractButton *>();
-            seen = seen && buttons.size() == 1 && buttons.first()->text() == u"OK"_s;
+            QCOMPARE(field->toPlainText(), QString::fromUtf8(discs::blankCD));
+            QVERIFY(field->isReadOnly());
+            const QFontMetrics metrics = field->fontMetrics();
+            QCOMPARE(metrics.horizontalAdvance(u"iiii"_s), metrics.horizontalAdvance(u"MMMM"_s));
+            QVERIFY(field->textInteractionFlags() & Qt::TextSelectableByMouse);
+            QVERIFY(field->textInteractionFlags() & Qt::TextSelectableByKeyboard);
+            const auto buttons = alert->findChildren<QPushButton *>();
+            QCOMPARE(buttons.size(), 1);
+            QCOMPARE(buttons.first()->text(), u"OK"_s);
             QTest::keyClick(alert, Qt::Key_Return);
-            if (alert->isVisible())
-                alert->close();
         });
         app.press("toolbar_btn_Tools_Disc_Info");
-        QVERIFY(seen);
-        QVERIFY(!QApplication::activeModalWidget());
+        QVERIFY(information.happened());
     }
 
     void everyToolSpeaksToTheChosenDrive()

@@ -10,8 +10,8 @@ class IsoImagesTest : public QObject {
     {
         app.hdiutil.run("tool=$0\n[ \"$1\" = makehybrid ] && { ls -A \"$(dirname \"$3\")\" > \"$0.before\"; "
                         "echo image > \"$3\"; }\n"
-                        "[ -e \"$0.slow\" ] && "
-                        + app.waitFor("done"));
+                        "if [ -e \"$0.slow\" ]; then\n"
+                        + app.waitFor("done") + "fi\n");
         app.launch();
         app.trigger("submenuItemTabISO");
         QVERIFY(QDir(app.media.path()).mkdir(u"source"_s));

@@ -21,7 +21,7 @@ foreach(program drutil hdiutil)
     install(TARGETS ${program} RUNTIME DESTINATION ${CORVALIS_LIBEXEC})
   endif()
 endforeach()
-install(FILES ${CMAKE_BINARY_DIR}/libexec/corvalis/ffmpeg DESTINATION ${CORVALIS_LIBEXEC}) # a link, kept as one
+install(PROGRAMS ${CMAKE_BINARY_DIR}/libexec/corvalis/ffmpeg DESTINATION ${CORVALIS_LIBEXEC})
 
 install(FILES src/ui/icons/corvalis.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES ${packaging}/corvalis.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)

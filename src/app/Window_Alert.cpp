@@ -57,7 +57,6 @@ void Window_Alert::showTexts(const Alert &alert)
     QPlainTextEdit *const field = m_ui->textReport;
     field->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     field->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    field->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     field->setPlainText(longMessage ? alert.message : alert.informative);
     field->setAccessibleName(longMessage ? tr("Report") : alert.message);
     field->setMinimumSize(field->fontMetrics().averageCharWidth() * 80, field->fontMetrics().lineSpacing() * 12);

@@ -21,7 +21,7 @@ const QList<Music> music {
     { u"-acodec copy.m4a"_s, "-f lavfi -i sine=frequency=550:duration=5 -ac 2 -ar 48000 -c:a aac" },
     { u"日本の歌 Ωmega ñ.wma"_s, "-f lavfi -i sine=frequency=660:duration=4.1 -ac 2 -c:a wmav2" },
     { u"two\nlines  & 100%1.wav"_s, "-f lavfi -i sine=frequency=770:duration=6 -ar 48000 -ac 1 -c:a pcm_s16le" },
-    { u" blank first.mp2"_s, "-f lavfi -i sine=frequency=880:duration=4.5 -ar 44100 -ac 2 -c:a mp2" },
+    { u" blank first "_s + QString(237, u'x') + u".mp2"_s, "-f lavfi -i sine=frequency=880:duration=4.5 -ar 44100 -ac 2 -c:a mp2" },
 };
 
 QStringList names()

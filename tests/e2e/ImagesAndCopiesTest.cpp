@@ -24,12 +24,35 @@ class ImagesAndCopiesTest : public QObject {
     {
         person::choose(machine.window.get(), "submenuItemTabISO");
         auto first = std::make_unique<person::Expect<QFileDialog>>(
-            [&](QFileDialog *panel) { person::openFolder(panel, source); });
+            [&](QFileDialog *panel) { WholeMachine::markFolder(panel, source); });
         machine.press("toolbar_btn_ISO_Create_ISO");
         QVERIFY(first->happened());
         person::Expect<QFileDialog> second([&](QFileDialog *panel) { person::openFolder(panel, destination); });
         QVERIFY(machine.completes());
         QVERIFY(second.happened());
+    }
+
+    static QByteArray bigEndian(quint64 value, int bytes)
+    {
+        QByteArray number;
+        for (int byte = bytes - 1; byte >= 0; --byte)
+            number.append(static_cast<char>(value >> (8 * byte) & 0xff));
+        return number;
+    }
+
+    /// A disk image of the kind that ends with a trailer, whose one run of blocks is packed with zlib.
+    static QByteArray compressedImage()
+    {
+        const QByteArray packed(4096, 'p');
+        const QByteArray run = bigEndian(0x80000005, 4) + bigEndian(0, 4) + bigEndian(0, 8) + bigEndian(400, 8)
+            + bigEndian(0, 8) + bigEndian(4096, 8);
+        const QByteArray table = QByteArray("mish").leftJustified(204, '\0') + run + bigEndian(0xffffffff, 4)
+            + QByteArray(36, '\0');
+        const QByteArray list = "<plist><dict><data>" + table.toBase64() + "</data></dict></plist>";
+        QByteArray trailer = QByteArray("koly").leftJustified(512, '\0');
+        trailer.replace(216, 8, bigEndian(4096, 8));
+        trailer.replace(224, 8, bigEndian(static_cast<quint64>(list.size()), 8));
+        return packed + list + trailer;
     }
 
     static void writeImage(WholeMachine &machine, const QString &folder, const QString &name)
@@ -102,10 +125,7 @@ private Q_SLOTS:
     void aCompressedImageIsRefusedWithAdvice()
     {
         WholeMachine machine;
-        // The last 512 bytes of such an image begin with "koly".
-        QByteArray image(100'000, 'c');
-        image += QByteArray("koly\0\0\0\4\0\0\2\0", 12) + QByteArray(500, 0);
-        makeFile(machine.mediaPath(u"packed.dmg"_s), image);
+        makeFile(machine.mediaPath(u"packed.dmg"_s), compressedImage());
         writeImage(machine, machine.media.path(), u"packed.dmg"_s);
         QVERIFY(machine.completes());
         QVERIFY2(machine.trouble().contains(u"compressed"_s), qUtf8Printable(machine.trouble()));
@@ -129,7 +149,7 @@ private Q_SLOTS:
         QVERIFY(machine.recorder.status().contains("not writable"));
 
         auto dialog = std::make_unique<person::Expect<QFileDialog>>(
-            [&](QFileDialog *panel) { person::openFolder(panel, volume); });
+            [&](QFileDialog *panel) { WholeMachine::markFolder(panel, volume); });
         machine.press("toolbar_btn_Audio_Copy_Disc");
         QVERIFY(dialog->happened());
         dialog.reset();

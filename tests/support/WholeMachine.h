@@ -130,10 +130,31 @@ public:
     /// Presses a button and answers the dialog for a folder that comes.
     void chooseFolder(const char *button, const QString &place)
     {
-        person::Expect<QFileDialog> dialog([&](QFileDialog *panel) { person::openFolder(panel, place); });
+        person::Expect<QFileDialog> dialog([&](QFileDialog *panel) { markFolder(panel, place); });
         press(button);
         if (!dialog.happened())
             qWarning() << "no dialog asked for" << place;
+    }
+
+    /// Goes to the folder that holds `place`, marks `place` in the list and confirms.
+    static void markFolder(QFileDialog *dialog, const QString &place)
+    {
+        dialog->setDirectory(QFileInfo(place).path());
+        auto *list = dialog->findChild<QTreeView *>(QStringLiteral("treeView"));
+        const bool marked = QTest::qWaitFor(
+            [&] {
+                const QAbstractItemModel *model = list->model();
+                for (int row = 0; row < model->rowCount(list->rootIndex()); ++row) {
+                    const QModelIndex index = model->index(row, 0, list->rootIndex());
+                    if (index.data().toString() == QFileInfo(place).fileName())
+                        person::clickRow(list, index);
+                }
+                return dialog->selectedFiles() == QStringList(place);
+            },
+            10'000);
+        if (!marked)
+            qWarning() << "the dialog does not let mark" << place;
+        person::pressTitled(dialog, QStringLiteral("Choose"));
     }
 
     [[nodiscard]] bool completes()
@@ -196,12 +217,13 @@ inline QByteArray difference(const QString &one, const QString &other)
 /// What ffprobe says of the first stream of a kind ("v" or "a"), "key=value|key=value".
 inline QString stream(const QString &file, const QString &kind, const QString &entries)
 {
-    return QString::fromUtf8(runWell(QStringLiteral("ffprobe"),
+    QString line = QString::fromUtf8(runWell(QStringLiteral("ffprobe"),
                                  { QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-select_streams"),
                                      kind + QStringLiteral(":0"), QStringLiteral("-show_entries"),
                                      QStringLiteral("stream=") + entries, QStringLiteral("-of"),
                                      QStringLiteral("compact=p=0"), file }))
-        .section(QLatin1Char('\n'), 0, 0);
+                       .section(QLatin1Char('\n'), 0, 0);
+    return line.endsWith(QLatin1Char('|')) ? line.chopped(1) : line; // side data of a stream add an empty field
 }
 
 } // namespace reader

@@ -8,6 +8,7 @@
 #include <grp.h>
 #include <sys/stat.h>
 #include <thread>
+#include <unistd.h>
 
 namespace engine::drive {
 
@@ -62,6 +63,18 @@ Result<void> checkFree(const std::string &device, const std::string &driveName)
         std::this_thread::sleep_for(100ms);
     }
     return openError(device, driveName, failure, groupOf(device));
+}
+
+bool isGone(const std::string &device)
+{
+    using namespace std::chrono_literals;
+    constexpr int attempts = 10;
+    for (int i = 0; i < attempts; ++i) {
+        if (::access(device.c_str(), F_OK) != 0)
+            return true;
+        std::this_thread::sleep_for(100ms);
+    }
+    return false;
 }
 
 } // namespace engine::drive

@@ -15,4 +15,8 @@ Error openError(
 /// does after each change of the medium). The device is closed again. A mounted one is not free.
 Result<void> checkFree(const std::string &device, const std::string &driveName);
 
+/// True when the node of a drive that just failed has gone, or goes within a second: the kernel takes it away
+/// a moment after the first command that fails.
+bool isGone(const std::string &device);
+
 } // namespace engine::drive

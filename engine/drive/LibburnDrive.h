@@ -62,6 +62,7 @@ public:
         bool well = false;
         int signal = 0; ///< the stop signal that ended it
         bool sourceFailed = false;
+        bool gone = false; ///< the drive has left the machine; set by whoever knows its device
         std::uint64_t sectors = 0; ///< how far the drive was seen
         LibburnMessage message; ///< the gravest message of a failure
     };

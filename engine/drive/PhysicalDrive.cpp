@@ -87,11 +87,12 @@ Result<void> PhysicalLease::write(Job &job, const report::Medium &medium, const 
         if (!tracks)
             return tracks.error();
         burn_drive_set_speed(m_drive->handle(), 0, attempt.speed);
-        const LibburnDrive::Outcome outcome =
+        LibburnDrive::Outcome outcome =
             m_drive->write(*tracks, attempt.mode, job.phase, family, job.sourceFailed, control);
         if (outcome.well)
             return {};
-        const bool again = untouched(outcome, medium);
+        outcome.gone = outcome.signal == 0 && !outcome.sourceFailed && isGone(m_device);
+        const bool again = !outcome.gone && untouched(outcome, medium);
         const auto next = nextAttempt(attempt, outcome.message, job.audio, medium.speeds);
         if (!again || !next)
             return writeFailure(outcome, job.sourceOutcome(), m_name, leftOf(medium, !again));
@@ -293,7 +294,8 @@ Result<void> PhysicalDrive::insert(report::MediumKind)
 
 Result<std::string> PhysicalDrive::folder() const
 {
-    return Error{ Exit::failed, "The discs of " + name() + " lie in no folder: only those of a virtual recorder do." };
+    return Error{ Exit::failed,
+        "The discs of " + name() + " lie in no folder: only those of a virtual recorder do." };
 }
 
 } // namespace engine::drive

@@ -53,6 +53,9 @@ Error writeFailure(
         return { source.error().exit, withoutFullStop(source.error().message) + "." + state };
     if (outcome.sourceFailed)
         return { Exit::failed, "The data for the disc ended too early." + state };
+    if (outcome.gone)
+        return { Exit::failed,
+            "The connection to " + driveName + " was lost during the write; check its cable." + state };
     const int failure = outcome.message.failure;
     if (failure == ENOSPC || failure == EDQUOT || failure == EFBIG)
         return { Exit::failed,

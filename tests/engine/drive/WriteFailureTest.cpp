@@ -57,6 +57,11 @@ private Q_SLOTS:
         QTest::newRow("drive")
             << outcome(0, false, sense) << QString() << int(Left::spoilt) << 1
             << u"The write to drive 1 failed (SCSI error on write(16,16): [3 0C 00] Medium error. Write error). The disc in drive 1 is spoilt."_s;
+        LibburnDrive::Outcome unplugged = outcome(0, false, sense);
+        unplugged.gone = true;
+        QTest::newRow("unplugged")
+            << unplugged << QString() << int(Left::spoilt) << 1
+            << u"The connection to drive 1 was lost during the write; check its cable. The disc in drive 1 is spoilt."_s;
         QTest::newRow("no word") << outcome(0, false, {}) << QString() << int(Left::blank) << 1
                                  << u"The write to drive 1 failed. The disc in drive 1 is still blank."_s;
     }

@@ -1,17 +1,12 @@
 // drutil: the drives of this machine and the media in them.
-#include "base/Words.h"
 #include "drive/Burn.h"
 #include "drive/Drives.h"
+#include "program/Program.h"
+#include "program/Session.h"
 #include "report/DriveList.h"
-#include "report/ProgressText.h"
 #include "report/StatusText.h"
 
-#include <algorithm>
 #include <array>
-#include <cerrno>
-#include <csignal>
-#include <cstdio>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,8 +15,17 @@ namespace {
 
 using namespace engine;
 using drive::Drive;
+using program::Arguments;
+using program::Option;
+using program::print;
+using program::printReport;
+using program::Session;
+using program::usageError;
+using program::Verb;
 
-constexpr const char *helpText = R"(Usage: drutil VERB [ARGUMENT...] [-drive N]
+std::string helpText()
+{
+    return R"(Usage: drutil VERB [ARGUMENT...] [-drive N]
 
   list                          list the drives
   status                        tell about the medium in the drive
@@ -31,7 +35,8 @@ constexpr const char *helpText = R"(Usage: drutil VERB [ARGUMENT...] [-drive N]
   tray eject|close              open or close the tray
   folder                        tell where the discs of a virtual recorder lie
   insert KIND                   put a blank into a virtual recorder; KIND is one of
-                                %s, none
+                                )"
+        + report::insertNames() + R"(, none
   --help, --version
 
 N is the character at the start of the drive's line in 'drutil list'. It may be left
@@ -44,59 +49,12 @@ case, =only hides the physical drives.
 Exit status: 0 success, 1 failure, 2 wrong arguments, 3 no such drive or no disc,
 130 and 143 ended by SIGINT and SIGTERM.
 )";
-
-/// The command line, taken apart.
-struct Arguments {
-    std::string verb;
-    std::vector<std::string> operands;
-    std::string driveNumber;
-    bool audio = false;
-    bool verify = true;
-};
-
-struct Verb {
-    const char *name;
-    const char *usage;
-    std::size_t operands;
-    Result<void> (*run)(const Arguments &);
-};
-
-Error usageError(std::string message)
-{
-    return { Exit::usage, std::move(message) };
 }
 
-void print(const std::string &text)
+auto chosenDrive(const Arguments &arguments)
 {
-    std::fwrite(text.data(), 1, text.size(), stdout);
-    std::fflush(stdout);
+    return drive::driveNumbered(arguments.valueOf("-drive"));
 }
-
-Result<void> printReport(const std::string &text)
-{
-    print(text);
-    if (std::ferror(stdout))
-        return Error{ Exit::failed, "The report cannot be written to the output: " + reason(errno) + "." };
-    return {};
-}
-
-/// Progress lines on standard output and the stop signals, for the time of one operation.
-class Session {
-public:
-    drive::Control control()
-    {
-        return { [this](const report::Progress &progress, unsigned unitBytes) {
-                    if (const auto line =
-                            m_pacer.next(progress, unitBytes, report::ProgressPacer::Clock::now()))
-                        print(*line + '\n');
-                },
-            [this] { return m_signals.caught(); } };
-    }
-
-private:
-    drive::StopSignals m_signals;
-    report::ProgressPacer m_pacer;
-};
 
 Result<void> list(const Arguments &)
 {
@@ -111,7 +69,7 @@ Result<void> list(const Arguments &)
 
 Result<void> status(const Arguments &arguments)
 {
-    const auto drive = drive::driveNumbered(arguments.driveNumber);
+    const auto drive = chosenDrive(arguments);
     if (!drive)
         return drive.error();
     const auto lease = (*drive)->acquire(drive::Purpose::look);
@@ -125,19 +83,17 @@ Result<void> status(const Arguments &arguments)
 
 Result<void> burnDisc(const Arguments &arguments)
 {
-    const auto drive = drive::driveNumbered(arguments.driveNumber);
+    const auto drive = chosenDrive(arguments);
     if (!drive)
         return drive.error();
     Session session;
-    drive::BurnOptions options;
-    options.verify = arguments.verify;
-    options.control = session.control();
-    options.note = [](const std::string &line) { print(line + '\n'); };
-    const auto operation = arguments.audio ? drive::burnAudioFolder : drive::burnFolder;
-    auto done = operation(**drive, arguments.operands.front(), options);
+    const bool audio = arguments.has("-audio");
+    const bool verify = !audio && !arguments.has("-noverify");
+    const auto operation = audio ? drive::burnAudioFolder : drive::burnFolder;
+    auto done = operation(**drive, arguments.operands.front(), session.burnOptions(verify));
     if (done)
         print("Done: the disc in " + (*drive)->name() + " is written"
-            + (arguments.audio || !arguments.verify ? ".\n" : " and was compared.\n"));
+            + (verify ? " and was compared.\n" : ".\n"));
     return done;
 }
 
@@ -146,7 +102,7 @@ Result<void> erase(const Arguments &arguments)
     const std::string &mode = arguments.operands.front();
     if (mode != "full" && mode != "quick")
         return usageError("An erase is either 'full' or 'quick'.");
-    const auto drive = drive::driveNumbered(arguments.driveNumber);
+    const auto drive = chosenDrive(arguments);
     if (!drive)
         return drive.error();
     Session session;
@@ -162,7 +118,7 @@ Result<void> tray(const Arguments &arguments)
     const std::string &motion = arguments.operands.front();
     if (motion != "eject" && motion != "close")
         return usageError("A tray is told to 'eject' or to 'close'.");
-    const auto drive = drive::driveNumbered(arguments.driveNumber);
+    const auto drive = chosenDrive(arguments);
     if (!drive)
         return drive.error();
     return motion == "eject" ? (*drive)->eject() : (*drive)->close();
@@ -170,7 +126,7 @@ Result<void> tray(const Arguments &arguments)
 
 Result<void> folder(const Arguments &arguments)
 {
-    const auto drive = drive::driveNumbered(arguments.driveNumber);
+    const auto drive = chosenDrive(arguments);
     if (!drive)
         return drive.error();
     const Result<std::string> path = (*drive)->folder();
@@ -185,106 +141,36 @@ Result<void> insert(const Arguments &arguments)
     const auto kind = report::kindOfInsertName(name);
     if (!kind && name != "none")
         return usageError("The kind of a blank is one of " + report::insertNames() + ", none.");
-    const auto drive = drive::driveNumbered(arguments.driveNumber);
+    const auto drive = chosenDrive(arguments);
     if (!drive)
         return drive.error();
     return (*drive)->insert(kind.value_or(report::MediumKind::none));
 }
 
+bool isDriveNumber(std::string_view value)
+{
+    return value.size() == 1;
+}
+
+constexpr Option driveOption{ "-drive",
+    "-drive wants the one character that 'drutil list' prints for the drive.", isDriveNumber };
+constexpr std::array options{ driveOption };
+constexpr std::array burnOptions{ driveOption, Option{ "-audio" }, Option{ "-noverify" } };
+
 constexpr std::array verbs{
-    Verb{ "list", "list", 0, list },
-    Verb{ "status", "status [-drive N]", 0, status },
-    Verb{ "burn", "burn [-audio] [-noverify] FOLDER [-drive N]", 1, burnDisc },
-    Verb{ "erase", "erase full|quick [-drive N]", 1, erase },
-    Verb{ "tray", "tray eject|close [-drive N]", 1, tray },
-    Verb{ "folder", "folder [-drive N]", 0, folder },
-    Verb{ "insert", "insert KIND [-drive N]", 1, insert },
+    Verb{ "list", "list", 0, options, list },
+    Verb{ "status", "status [-drive N]", 0, options, status },
+    Verb{ "burn", "burn [-audio] [-noverify] FOLDER [-drive N]", 1, burnOptions, burnDisc },
+    Verb{ "erase", "erase full|quick [-drive N]", 1, options, erase },
+    Verb{ "tray", "tray eject|close [-drive N]", 1, options, tray },
+    Verb{ "folder", "folder [-drive N]", 0, options, folder },
+    Verb{ "insert", "insert KIND [-drive N]", 1, options, insert },
 };
-
-const Verb *verbNamed(std::string_view name)
-{
-    const auto verb = std::ranges::find(verbs, name, [](const Verb &v) { return std::string_view(v.name); });
-    return verb == verbs.end() ? nullptr : &*verb;
-}
-
-/// Reads one option at `at`, and moves `at` behind it.
-Result<void> readOption(const std::vector<std::string> &words, std::size_t &at, Arguments &arguments)
-{
-    const std::string &word = words[at++];
-    const bool burns = arguments.verb == "burn";
-    if (word == "-drive") {
-        if (at == words.size() || words[at].size() != 1)
-            return usageError("-drive wants the one character that 'drutil list' prints for the drive.");
-        arguments.driveNumber = words[at++];
-        return {};
-    }
-    if (burns && word == "-audio")
-        arguments.audio = true;
-    else if (burns && word == "-noverify")
-        arguments.verify = false;
-    else
-        return usageError("An option of " + arguments.verb + " is not known: " + engine::quoted(word)
-            + (burns ? " (put ./ before the name of a folder)." : "."));
-    return {};
-}
-
-Result<Arguments> parse(const std::vector<std::string> &words)
-{
-    Arguments arguments;
-    arguments.verb = words.front();
-    const Verb *verb = verbNamed(arguments.verb);
-    if (!verb)
-        return usageError("There is no such verb: " + engine::quoted(arguments.verb) + ".");
-    bool options = true;
-    for (std::size_t at = 1; at < words.size();) {
-        const std::string &word = words[at];
-        if (options && word == "--") {
-            options = false;
-            ++at;
-        } else if (options && word.size() > 1 && word.front() == '-') {
-            if (auto read = readOption(words, at, arguments); !read)
-                return read.error();
-        } else {
-            arguments.operands.push_back(word);
-            ++at;
-        }
-    }
-    if (arguments.operands.size() != verb->operands)
-        return usageError(arguments.operands.size() < verb->operands ? "An argument is missing."
-                                                                     : "There are too many arguments.");
-    return arguments;
-}
-
-int fail(const Error &error, const char *usage)
-{
-    std::string text = "drutil: " + error.message + '\n';
-    if (error.exit == Exit::usage)
-        text += std::string("Usage: drutil ") + usage + '\n';
-    std::fwrite(text.data(), 1, text.size(), stderr);
-    return static_cast<int>(error.exit);
-}
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    // Whoever reads our output may go away at any time; that is no reason to break off a write.
-    std::signal(SIGPIPE, SIG_IGN);
-    const std::vector<std::string> words(argv + 1, argv + argc);
-    if (words.empty())
-        return fail(usageError("A verb is missing."), "VERB [ARGUMENT...] [-drive N]");
-    if (words.front() == "--help" || words.front() == "-h") {
-        std::printf(helpText, report::insertNames().c_str());
-        return 0;
-    }
-    if (words.front() == "--version") {
-        print("drutil (Corvalis) " CORVALIS_VERSION "\n");
-        return 0;
-    }
-    const Verb *verb = verbNamed(words.front());
-    const Result<Arguments> arguments = parse(words);
-    const Result<void> done = arguments ? verb->run(*arguments) : Result<void>(arguments.error());
-    if (!done)
-        return fail(done.error(), verb ? verb->usage : "VERB [ARGUMENT...] [-drive N]");
-    return 0;
+    const program::Program drutil{ "drutil", "VERB [ARGUMENT...] [-drive N]", helpText(), verbs };
+    return program::run(drutil, { argv + (argc > 0), argv + argc });
 }

@@ -36,6 +36,44 @@ Exit status: 0 success, 1 failure, 2 wrong arguments, 3 no disc to burn to,
 130 and 143 ended by SIGINT and SIGTERM.
 )";
 
+/// How the folder is read and its image written, with progress lines and until a signal comes.
+image::IsoOptions imageOptions(Session &session, const std::uint64_t &size)
+{
+    image::IsoOptions options;
+    options.links = image::Links::follow;
+    options.stop = [&session] { return session.caught() != 0; };
+    options.progress = [control = session.control(), &size](std::uint64_t bytes) {
+        report::Progress progress;
+        progress.phase = report::Phase::writing;
+        progress.done = bytes;
+        progress.total = size;
+        control.report(progress, 0);
+    };
+    return options;
+}
+
+Result<void> makeImage(const std::string &folder, const std::string &path, Session &session)
+{
+    std::uint64_t size = 0;
+    session.control().report({}, 0);
+    auto image = image::IsoImage::fromFolder(folder, imageOptions(session, size));
+    if (!image)
+        return image.error();
+    for (const std::string &note : image->notes())
+        print(note + '\n');
+    size = std::uint64_t{ image->blockCount() } * image::blockSize;
+    auto file = image::NewFile::create(path, size);
+    if (!file)
+        return file.error();
+    if (auto written = image->writeTo(file->fd(), path); !written)
+        return written;
+    if (auto kept = file->keep(); !kept)
+        return kept;
+    print("Done: " + quoted(path) + " holds " + std::to_string(image->fileCount())
+        + (image->fileCount() == 1 ? " file in " : " files in ") + sizeText(size) + ".\n");
+    return {};
+}
+
 Result<void> makeHybrid(const Arguments &arguments)
 {
     const std::string path = arguments.valueOf("-o");
@@ -45,31 +83,11 @@ Result<void> makeHybrid(const Arguments &arguments)
         return usageError("Both -iso and -joliet are needed; no other kind of image can be made.");
     if (auto absent = image::checkAbsent(path); !absent)
         return absent;
-    const Session session;
-    image::IsoOptions options;
-    options.links = image::Links::follow;
-    options.stop = [&session] { return session.caught() != 0; };
-    const auto stopped = [&](const Error &error) {
-        return session.caught() == 0
-            ? error
-            : drive::stoppedBy(session.caught(), "Stopped: " + quoted(path) + " was not made.");
-    };
-    auto image = image::IsoImage::fromFolder(arguments.operands.front(), options);
-    if (!image)
-        return stopped(image.error());
-    for (const std::string &note : image->notes())
-        print(note + '\n');
-    const std::uint64_t size = std::uint64_t{ image->blockCount() } * image::blockSize;
-    auto file = image::NewFile::create(path, size);
-    if (!file)
-        return file.error();
-    if (auto written = image->writeTo(file->fd(), path); !written)
-        return stopped(written.error());
-    if (auto kept = file->keep(); !kept)
-        return kept;
-    print("Done: " + quoted(path) + " holds " + std::to_string(image->fileCount())
-        + (image->fileCount() == 1 ? " file in " : " files in ") + sizeText(size) + ".\n");
-    return {};
+    Session session;
+    auto made = makeImage(arguments.operands.front(), path, session);
+    if (!made && made.error().exit == Exit::interrupted)
+        return drive::stoppedBy(session.caught(), "Stopped: " + quoted(path) + " was not made.");
+    return made;
 }
 
 Result<void> burnImage(const Arguments &arguments)
@@ -87,11 +105,11 @@ Result<void> burnImage(const Arguments &arguments)
     return done;
 }
 
-constexpr std::array imageOptions{ Option{ "-o", "-o wants the name of the image." }, Option{ "-iso" },
+constexpr std::array makingOptions{ Option{ "-o", "-o wants the name of the image." }, Option{ "-iso" },
     Option{ "-joliet" } };
 
 constexpr std::array verbs{
-    Verb{ "makehybrid", "makehybrid -o IMAGE SOURCE -iso -joliet", 1, imageOptions, makeHybrid },
+    Verb{ "makehybrid", "makehybrid -o IMAGE SOURCE -iso -joliet", 1, makingOptions, makeHybrid },
     Verb{ "burn", "burn IMAGE", 1, {}, burnImage },
 };
 

@@ -27,16 +27,18 @@ Error writeError(const std::string &name, int error)
 
 } // namespace
 
-ImageFile::ImageFile(int fd, std::string name, std::function<bool()> stop)
+ImageFile::ImageFile(
+    int fd, std::string name, std::function<bool()> stop, std::function<void(std::uint64_t)> progress)
     : m_fd(fd)
     , m_name(std::move(name))
     , m_stop(std::move(stop))
+    , m_progress(std::move(progress))
 {
 }
 
 Result<void> ImageFile::write(std::span<const std::byte> bytes)
 {
-    if (auto ok = checkStop(); !ok)
+    if (auto ok = goOn(); !ok)
         return ok;
     while (!bytes.empty()) {
         const ssize_t done = ::write(m_fd, bytes.data(), bytes.size());
@@ -45,6 +47,7 @@ Result<void> ImageFile::write(std::span<const std::byte> bytes)
         if (done < 0)
             return writeError(m_name, errno);
         bytes = bytes.subspan(static_cast<std::size_t>(done));
+        m_written += static_cast<std::uint64_t>(done);
     }
     return {};
 }
@@ -53,7 +56,7 @@ Result<void> ImageFile::copy(
     int source, std::uint64_t size, const std::function<Error(int error)> &unreadable)
 {
     while (size > 0) {
-        if (auto ok = checkStop(); !ok)
+        if (auto ok = goOn(); !ok)
             return ok;
         const auto part = static_cast<std::size_t>(std::min(size, copySize));
         const ssize_t done = copy_file_range(source, nullptr, m_fd, nullptr, part, 0);
@@ -62,6 +65,7 @@ Result<void> ImageFile::copy(
         // Other file systems, the end of the source, or a failure: the plain way tells which.
         if (done <= 0)
             return copyByHand(source, size, unreadable);
+        m_written += static_cast<std::uint64_t>(done);
         size -= static_cast<std::uint64_t>(done);
     }
     return {};
@@ -86,8 +90,11 @@ Result<void> ImageFile::copyByHand(
     return {};
 }
 
-Result<void> ImageFile::checkStop() const
+/// Tells how far it is, and whether to go on.
+Result<void> ImageFile::goOn() const
 {
+    if (m_progress)
+        m_progress(m_written);
     if (m_stop && m_stop())
         return Error{ Exit::interrupted, "Writing " + quoted(m_name) + " was interrupted." };
     return {};

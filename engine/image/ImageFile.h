@@ -16,7 +16,9 @@ namespace engine::image {
 /// for is Exit::interrupted.
 class ImageFile {
 public:
-    ImageFile(int fd, std::string name, std::function<bool()> stop);
+    /// `progress` is told now and then how many bytes are written; it and `stop` may be empty.
+    ImageFile(
+        int fd, std::string name, std::function<bool()> stop, std::function<void(std::uint64_t)> progress);
 
     /// Writes all of `bytes`.
     Result<void> write(std::span<const std::byte> bytes);
@@ -26,13 +28,15 @@ public:
     Result<void> copy(int source, std::uint64_t size, const std::function<Error(int error)> &unreadable);
 
 private:
-    Result<void> checkStop() const;
+    Result<void> goOn() const;
     Result<void> copyByHand(
         int source, std::uint64_t size, const std::function<Error(int error)> &unreadable);
 
     int m_fd;
     std::string m_name;
     std::function<bool()> m_stop;
+    std::function<void(std::uint64_t)> m_progress;
+    std::uint64_t m_written = 0;
     std::unique_ptr<std::byte[]> m_buffer; ///< of copyByHand()
 };
 

@@ -36,8 +36,9 @@ std::string nameOf(const std::string &folder)
 /// The image piece by piece. A shared object: the image's owner and libburn both keep it alive.
 class IsoImage::Stream {
 public:
-    Stream(FolderTree read, std::function<bool()> stopAsked)
-        : stop(std::move(stopAsked))
+    Stream(FolderTree read, const IsoOptions &options)
+        : stop(options.stop)
+        , progress(options.progress)
         , tree(std::move(read))
     {
     }
@@ -111,6 +112,7 @@ public:
     }
 
     const std::function<bool()> stop;
+    const std::function<void(std::uint64_t)> progress;
     const FolderTree tree;
     std::uint32_t blocks = 0;
     std::vector<std::string> notes;
@@ -156,7 +158,7 @@ Result<IsoImage> IsoImage::fromFolder(const std::string &folder, const IsoOption
     auto tree = FolderTree::read(folder, options);
     if (!tree)
         return tree.error();
-    auto stream = std::make_shared<Stream>(std::move(*tree), options.stop);
+    auto stream = std::make_shared<Stream>(std::move(*tree), options);
     if (auto ok = stream->begin(options); !ok)
         return ok.error();
     return IsoImage(std::move(stream));
@@ -215,7 +217,7 @@ Result<void> IsoImage::outcome() const
 
 Result<void> IsoImage::writeTo(int fd, const std::string &destination)
 {
-    ImageFile file(fd, destination, m_stream->stop);
+    ImageFile file(fd, destination, m_stream->stop, m_stream->progress);
     for (;;) {
         const auto piece = m_stream->next(FolderReader::Large::open);
         if (!piece)

@@ -30,6 +30,8 @@ struct IsoOptions {
     /// Asked now and then while the folder is read and the image is written; true ends both with
     /// Exit::interrupted. Called on the thread that called fromFolder() or writeTo(). May be empty.
     std::function<bool()> stop;
+    /// Told by writeTo(), several times a second, how many bytes of the image are written. May be empty.
+    std::function<void(std::uint64_t bytes)> progress;
 };
 
 /// The image of one folder: the tree is read once, the exact size is known, and the data is read

@@ -31,38 +31,68 @@ Result<void> checkRoom(int fd, const std::string &path, std::uint64_t size)
             + sizeText(room) + " free; free some space or choose another place." };
 }
 
+Error notCreated(const std::string &path, int error)
+{
+    const char *advice =
+        error == ENAMETOOLONG ? "; choose a shorter name." : "; choose a folder that you may write into.";
+    return { Exit::failed, quoted(path) + " cannot be created: " + reason(error) + advice };
+}
+
+std::string linkOf(int fd)
+{
+    return "/proc/self/fd/" + std::to_string(fd);
+}
+
+/// A file without a name in the folder of `path`; -1 where there can be none, or where it could not get a
+/// name later.
+int openNameless(const std::string &path)
+{
+    const std::size_t slash = path.rfind('/');
+    const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
+    const int fd = open(folder.c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, 0666);
+    if (fd < 0 || access(linkOf(fd).c_str(), F_OK) == 0)
+        return fd;
+    close(fd);
+    return -1;
+}
+
 } // namespace
 
 Result<void> checkAbsent(const std::string &path)
 {
     struct stat info { };
-    return lstat(path.c_str(), &info) == 0 ? Result<void>(exists(path)) : Result<void>();
+    if (lstat(path.c_str(), &info) == 0)
+        return exists(path);
+    return errno == ENOENT ? Result<void>() : notCreated(path, errno);
 }
 
 Result<NewFile> NewFile::create(const std::string &path, std::uint64_t size)
 {
-    const int fd = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (fd < 0 && errno == EEXIST)
-        return exists(path);
+    if (auto absent = checkAbsent(path); !absent)
+        return absent.error();
+    int fd = openNameless(path);
+    const bool named = fd < 0;
+    if (named)
+        fd = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     if (fd < 0)
-        return Error{ Exit::failed,
-            quoted(path) + " cannot be created: " + reason(errno)
-                + "; choose a folder that you may write into." };
-    NewFile file(path, fd);
+        return errno == EEXIST ? exists(path) : notCreated(path, errno);
+    NewFile file(path, fd, named);
     if (auto ok = checkRoom(fd, path, size); !ok)
         return ok.error();
     return file;
 }
 
-NewFile::NewFile(std::string path, int fd)
+NewFile::NewFile(std::string path, int fd, bool named)
     : m_path(std::move(path))
     , m_fd(fd)
+    , m_named(named)
 {
 }
 
 NewFile::NewFile(NewFile &&other) noexcept
     : m_path(std::move(other.m_path))
     , m_fd(std::exchange(other.m_fd, -1))
+    , m_named(other.m_named)
 {
 }
 
@@ -70,12 +100,15 @@ NewFile::~NewFile()
 {
     if (m_fd < 0)
         return;
-    unlink(m_path.c_str());
+    if (m_named)
+        unlink(m_path.c_str());
     close(m_fd);
 }
 
 Result<void> NewFile::keep()
 {
+    if (!m_named && linkat(AT_FDCWD, linkOf(m_fd).c_str(), AT_FDCWD, m_path.c_str(), AT_SYMLINK_FOLLOW) != 0)
+        return errno == EEXIST ? exists(m_path) : notCreated(m_path, errno);
     if (close(std::exchange(m_fd, -1)) == 0)
         return {};
     const int error = errno;

@@ -8,11 +8,13 @@
 
 namespace engine::image {
 
-/// A new file that is removed again unless keep() was called. Never touches a file that was there before.
+/// A new file that is gone again unless keep() was called. Never touches a file that was there before.
+/// Where the file system allows it, the file gets its name only in keep(): a program that is killed leaves
+/// nothing behind then.
 class NewFile {
 public:
-    /// Creates the file for `size` bytes to come. Errors: it exists, its folder is not writable, the file
-    /// system has less room.
+    /// Creates the file for `size` bytes to come. Errors: it exists, its name cannot be, its folder is not
+    /// writable, the file system has less room.
     static Result<NewFile> create(const std::string &path, std::uint64_t size);
 
     NewFile(NewFile &&other) noexcept;
@@ -21,16 +23,18 @@ public:
 
     int fd() const { return m_fd; }
 
-    /// Closes the file and lets it stay. An error of a network file system may show only here.
+    /// Closes the file and lets it stay. Errors: something of its name has come meanwhile; and what a network
+    /// file system tells only here.
     Result<void> keep();
 
 private:
-    NewFile(std::string path, int fd);
+    NewFile(std::string path, int fd, bool named);
     std::string m_path;
     int m_fd;
+    bool m_named; ///< keep() has nothing left to do but to close
 };
 
-/// Fails when something of the name `path` exists, whatever it is.
+/// Fails when something of the name `path` exists, whatever it is, or cannot be there.
 Result<void> checkAbsent(const std::string &path);
 
 } // namespace engine::image

@@ -18,6 +18,36 @@ class MakehybridTest : public QObject {
             program(), { u"makehybrid"_s, u"-o"_s, text(image), text(source), u"-iso"_s, u"-joliet"_s });
     }
 
+    /// A folder whose image takes a while to write.
+    static void makeSlowFolder(const Scratch &scratch)
+    {
+        QVERIFY(makeFolder(scratch.path("t")));
+        QVERIFY(sparseFile(text(scratch.path("t/large")), 3000LL * 1000 * 1000));
+    }
+
+    /// Starts to make i.iso of the folder t and waits until there is something of it, named or not.
+    static std::unique_ptr<QProcess> startMaking(const Scratch &scratch)
+    {
+        auto process = std::make_unique<QProcess>();
+        process->start(program(),
+            { u"makehybrid"_s, u"-o"_s, text(scratch.path("i.iso")), text(scratch.path("t")), u"-iso"_s,
+                u"-joliet"_s });
+        const auto begun = [&] {
+            const QDir open(u"/proc/%1/fd"_s.arg(process->processId()));
+            for (const QFileInfo &file : open.entryInfoList(QDir::Files | QDir::System)) {
+                struct stat info { };
+                const bool image = file.symLinkTarget().contains(u"/#"_s)
+                    || file.symLinkTarget() == text(scratch.path("i.iso"));
+                if (image && stat(file.filePath().toLocal8Bit().constData(), &info) == 0 && info.st_size > 0)
+                    return true;
+            }
+            return false;
+        };
+        if (!QTest::qWaitFor([&] { return begun() || process->state() == QProcess::NotRunning; }, 60000))
+            qWarning("no image was begun");
+        return process;
+    }
+
 private Q_SLOTS:
     void options_data()
     {
@@ -40,7 +70,7 @@ private Q_SLOTS:
         const Ran ran = runProgram(program(), QStringList{ u"makehybrid"_s } + arguments);
         QCOMPARE(ran.err, QString());
         QCOMPARE(ran.exit, 0);
-        QVERIFY2(ran.out.startsWith(u"Done: "), qPrintable(ran.out));
+        QVERIFY2(ran.out.contains(u"\nDone: "), qPrintable(ran.out));
         QVERIFY(extractJoliet(scratch.path("i.iso"), scratch.path("joliet")));
         QCOMPARE(difference(list(scratch.path("Some Folder")), list(scratch.path("joliet"))), QByteArray());
     }
@@ -146,6 +176,10 @@ private Q_SLOTS:
         const Ran readOnly = make("/proc/i.iso", scratch.path("t"));
         QCOMPARE(readOnly.exit, 1);
         QVERIFY2(readOnly.err.contains(u"/proc/i.iso\" cannot be created"), qPrintable(readOnly.err));
+        const Ran longName = make(scratch.path(std::string(256, 'i')), scratch.path("t"));
+        QCOMPARE(longName.exit, 1);
+        QVERIFY2(longName.err.contains(u"cannot be created: file name too long; choose a shorter name"),
+            qPrintable(longName.err));
     }
 
     void destinationWithoutRoom()
@@ -186,20 +220,85 @@ private Q_SLOTS:
         QFETCH(int, signal);
         QFETCH(int, exit);
         Scratch scratch;
-        QVERIFY(makeFolder(scratch.path("t")));
-        QVERIFY(sparseFile(text(scratch.path("t/large")), 3000LL * 1000 * 1000));
-        QProcess process;
-        process.start(program(),
-            { u"makehybrid"_s, u"-o"_s, text(scratch.path("i.iso")), text(scratch.path("t")), u"-iso"_s,
-                u"-joliet"_s });
-        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(text(scratch.path("i.iso"))).size() > 0, 60000);
-        kill(pid_t(process.processId()), signal);
-        kill(pid_t(process.processId()), signal);
-        QVERIFY(process.waitForFinished(60000));
-        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(process.exitCode(), exit);
+        makeSlowFolder(scratch);
+        const auto process = startMaking(scratch);
+        kill(pid_t(process->processId()), signal);
+        kill(pid_t(process->processId()), signal);
+        QVERIFY(process->waitForFinished(60000));
+        QCOMPARE(process->exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process->exitCode(), exit);
         QVERIFY(access(scratch.path("i.iso").c_str(), F_OK) != 0);
-        QVERIFY(process.readAllStandardError().contains("Stopped"));
+        QVERIFY(process->readAllStandardError().contains("Stopped"));
+    }
+
+    void aKilledProgramLeavesNothing()
+    {
+        Scratch scratch;
+        makeSlowFolder(scratch);
+        const auto process = startMaking(scratch);
+        kill(pid_t(process->processId()), SIGKILL);
+        QVERIFY(process->waitForFinished(60000));
+        QCOMPARE(process->exitStatus(), QProcess::CrashExit);
+        // Where a file cannot be without a name, nobody is left to remove it.
+        const int nameless = open(scratch.path().c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, 0600);
+        QCOMPARE(access(scratch.path("i.iso").c_str(), F_OK) != 0, nameless >= 0);
+        close(nameless);
+    }
+
+    void whatComesMeanwhileIsNotTouched()
+    {
+        Scratch scratch;
+        makeSlowFolder(scratch);
+        const auto process = startMaking(scratch);
+        if (access(scratch.path("i.iso").c_str(), F_OK) == 0)
+            return; // the name is taken from the start here
+        QVERIFY(makeFile(scratch.path("i.iso"), "precious"));
+        QVERIFY(process->waitForFinished(240000));
+        QCOMPARE(process->exitCode(), 1);
+        QVERIFY(process->readAllStandardError().contains("i.iso\" exists already"));
+        QCOMPARE(contentOf(scratch.path("i.iso")), std::string("precious"));
+    }
+
+    void withoutNamelessFilesTheImageHasItsNameAtOnce_data()
+    {
+        QTest::addColumn<QString>("limit");
+        QTest::addColumn<int>("exit");
+        QTest::newRow("well") << u"unlimited"_s << 0;
+        QTest::newRow("full") << u"2000"_s << 1;
+    }
+
+    void withoutNamelessFilesTheImageHasItsNameAtOnce()
+    {
+        QFETCH(QString, limit);
+        QFETCH(int, exit);
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("t/file"), std::string(5000000, 'x')));
+        // Without /proc a file cannot get its name later.
+        const QString script = u"mount -t tmpfs none /proc && ulimit -f $4 && "
+                               "exec \"$1\" makehybrid -o \"$2\" \"$3\" -iso -joliet"_s;
+        const Ran ran = runProgram(u"unshare"_s,
+            { u"--map-root-user"_s, u"--mount"_s, u"sh"_s, u"-c"_s, script, u"sh"_s, program(),
+                text(scratch.path("i.iso")), text(scratch.path("t")), limit });
+        QVERIFY2(ran.exit == exit, qPrintable(ran.err));
+        QCOMPARE(access(scratch.path("i.iso").c_str(), F_OK) == 0, exit == 0);
+        if (exit == 0)
+            QVERIFY(extractRockRidge(scratch.path("i.iso"), scratch.path("out")));
+    }
+
+    void theWayIsTold()
+    {
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("t/file"), std::string(5000000, 'x')));
+        const QStringList lines = make(scratch.path("i.iso"), scratch.path("t")).out.split(u'\n');
+        QCOMPARE(lines.size(), 4);
+        QCOMPARE(lines.at(0), u"Preparing"_s);
+        QVERIFY2(lines.at(1).startsWith(u"Writing: "_s), qPrintable(lines.at(1)));
+        QVERIFY2(lines.at(2).endsWith(u" holds 1 file in 5.4 MB."_s), qPrintable(lines.at(2)));
+        struct stat info { };
+        QCOMPARE(stat(scratch.path("i.iso").c_str(), &info), 0);
+        const mode_t mask = umask(0);
+        umask(mask);
+        QCOMPARE(info.st_mode & 07777, 0666 & ~mask);
     }
 
     void nobodyReadsTheOutput()

@@ -1,5 +1,6 @@
 #include "drive/Drives.h"
 
+#include "base/Words.h"
 #include "drive/PhysicalDrive.h"
 #include "drive/RecorderFolder.h"
 #include "drive/VirtualDrive.h"
@@ -32,6 +33,12 @@ void number(DriveList &drives)
         drives.resize(report::maximumDrives);
     for (std::size_t i = 0; i < drives.size(); ++i)
         drives[i]->setNumber(report::driveNumber(i));
+}
+
+Result<report::Medium> mediumIn(Drive &drive)
+{
+    const auto lease = drive.acquire(Purpose::look);
+    return lease ? (*lease)->medium() : lease.error();
 }
 
 Result<DriveList> findDrives(bool createRecorder)
@@ -89,7 +96,7 @@ Result<std::unique_ptr<Drive>> driveNumbered(std::string_view number)
     const std::size_t index = number.empty() ? 0 : report::driveIndex(number).value_or(report::maximumDrives);
     if (index >= drives->size())
         return Error{ Exit::noDisc,
-            "There is no drive of that number: 'drutil list' shows those there are." };
+            "There is no drive " + quoted(number) + ": 'drutil list' shows those there are." };
     return std::move((*drives)[index]);
 }
 
@@ -98,17 +105,17 @@ Result<std::unique_ptr<Drive>> defaultBurner()
     Result<DriveList> drives = allDrives();
     if (!drives)
         return drives.error();
+    std::string silent;
     for (std::unique_ptr<Drive> &drive : *drives) {
-        // A drive that is busy or damaged is no reason not to take the next one.
-        const auto lease = drive->acquire(Purpose::look);
-        if (!lease)
-            continue;
-        const Result<report::Medium> medium = (*lease)->medium();
+        const Result<report::Medium> medium = mediumIn(*drive);
         if (medium && (report::canWriteNow(*medium) || report::canErase(*medium)))
             return std::move(drive);
+        // A drive that is busy or damaged is no reason not to take the next one.
+        if (!medium)
+            silent += ' ' + medium.error().message;
     }
     return Error{ Exit::noDisc,
-        "No drive holds a disc that can be written: insert a blank or erasable one." };
+        "No drive holds a disc that can be written: insert a blank or erasable one." + silent };
 }
 
 } // namespace engine::drive

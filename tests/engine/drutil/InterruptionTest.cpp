@@ -194,6 +194,27 @@ private Q_SLOTS:
         QVERIFY(m_drutil->state().contains("state=spoilt"));
     }
 
+    void aBlockThatTurnsBadIsNamed()
+    {
+        QVERIFY(m_drutil->insert(u"dvd-r"_s));
+        auto burn = startBurn();
+        // A block that is written already, long before it is compared.
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(disc()).size() > 301 * 2048, 60000);
+        QFile file(disc());
+        QVERIFY(file.open(QFile::ReadWrite) && file.seek(300 * 2048 + 7));
+        QCOMPARE(file.write("bad"), qint64(3));
+        file.close();
+        QVERIFY(burn->waitForFinished(120000));
+        QCOMPARE(burn->exitCode(), 1);
+        const QString said = QString::fromUtf8(burn->readAllStandardError());
+        QVERIFY2(QRegularExpression(
+                     u"^drutil: The disc in drive . does not hold what was sent: block 300 differs; "
+                     "write another disc\\.\n$"_s)
+                     .match(said)
+                     .hasMatch(),
+            qPrintable(said));
+    }
+
     void aFileThatVanishesIsNamed()
     {
         // The second file is opened long after the first was begun.

@@ -88,6 +88,7 @@ private Q_SLOTS:
         row("no drive character", { u"status"_s, u"-drive"_s, u"A"_s }, 3);
         row("long number", { u"status"_s, u"-drive"_s, u"11"_s }, 2);
         row("number missing", { u"status"_s, u"-drive"_s }, 2);
+        row("two numbers", { u"status"_s, u"-drive"_s, u"1"_s, u"-drive"_s, u"1"_s }, 2);
         row("operand missing", { u"burn"_s }, 2);
         row("operands too many", { u"burn"_s, u"a"_s, u"b"_s }, 2);
         row("operand not wanted", { u"list"_s, u"all"_s }, 2);
@@ -112,6 +113,28 @@ private Q_SLOTS:
         QCOMPARE(ran.err.isEmpty(), exit == 0);
         QCOMPARE(ran.err.contains(u"\nUsage: drutil "_s), exit == 2);
         QCOMPARE(ran.err.count(u'\n'), exit == 0 ? 0 : exit == 2 ? 2 : 1);
+    }
+
+    void aDriveThatIsNotThereIsNamed_data()
+    {
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("digit") << u"9"_s << u"drive \"9\""_s;
+        QTest::newRow("capital") << u"A"_s << u"drive \"A\""_s;
+        QTest::newRow("line break") << u"\n"_s << u"drive \"\\x0a\""_s;
+    }
+
+    void aDriveThatIsNotThereIsNamed()
+    {
+        QFETCH(QString, number);
+        QFETCH(QString, name);
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        for (const QStringList &verb : { QStringList{ u"status"_s }, QStringList{ u"tray"_s, u"eject"_s },
+                 QStringList{ u"erase"_s, u"full"_s }, QStringList{ u"burn"_s, QDir::homePath() } }) {
+            const Ran ran = (*m_drutil)(verb + QStringList{ u"-drive"_s, number });
+            QCOMPARE(ran.exit, 3);
+            QVERIFY2(ran.err.contains(name), qPrintable(ran.err));
+        }
     }
 
     // None of the words that callers search a status for may be in the error of one.

@@ -2,6 +2,8 @@
 #include "../drutil/Drutil.h"
 #include "../image/Trees.h"
 
+#include <sys/file.h>
+
 using namespace Qt::StringLiterals;
 
 class BurnTest : public QObject {
@@ -122,6 +124,22 @@ private Q_SLOTS:
         QCOMPARE(burn(scratch.path("i.iso")).exit, 0);
         QCOMPARE(burn(scratch.path("i.iso")).exit, 3);
         QCOMPARE(contentOf(disc()).substr(0, 4096), std::string(4096, 'x'));
+    }
+
+    void aBusyRecorderIsTold()
+    {
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("i.iso"), std::string(4096, 'x')));
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        const int held = open(m_drutil->recorder().toLocal8Bit().constData(), O_RDONLY | O_CLOEXEC);
+        QCOMPARE(flock(held, LOCK_EX), 0);
+        const Ran ran = burn(scratch.path("i.iso"));
+        close(held);
+        QCOMPARE(ran.exit, 3);
+        QVERIFY2(ran.err.contains(u"No drive holds a disc that can be written"_s)
+                && QRegularExpression(u"drive ., is busy with another program"_s).match(ran.err).hasMatch(),
+            qPrintable(ran.err));
+        QCOMPARE(ran.err.count(u'\n'), 1);
     }
 
     void missingImage()

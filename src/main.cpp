@@ -2,6 +2,7 @@
 #include "app/AppDelegate.h"
 #include "app/BatchRun.h"
 #include "app/MainWindow.h"
+#include "app/Surface.h"
 #include "ui/SymbolIcon.h"
 
 #include <QApplication>
@@ -13,7 +14,6 @@
 #include <csignal>
 #include <cstdio>
 #include <optional>
-
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -32,7 +32,7 @@ constexpr int wrongArguments = 2;
 /// Asked to end, the program ends at once and with success, as it does from its menu.
 void endOnSignals()
 {
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+    for (const int signal : { SIGINT, SIGTERM, SIGHUP })
         std::signal(signal, [](int) { ::_exit(0); });
 }
 
@@ -44,28 +44,6 @@ void allowDeepTrees()
         limit.rlim_cur = limit.rlim_max;
         ::setrlimit(RLIMIT_NOFILE, &limit);
     }
-}
-
-/// A batch run needs no display, and neither does asking for help.
-void chooseDisplay(int argc, char **argv)
-{
-    bool windowless = false;
-    for (int i = 1; i < argc; ++i) {
-        const QByteArrayView argument(argv[i]);
-        if (argument == "--show")
-            return;
-        windowless = windowless || argument.startsWith("--burn") || argument == "--help" || argument == "-h"
-            || argument == "--version" || argument == "-v";
-    }
-    if (!windowless)
-        return;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // What windows cannot do where nobody sees them is no news for a person at a terminal.
-    static QtMessageHandler others = nullptr;
-    others = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context, const QString &text) {
-        if (!text.startsWith(u"This plugin does not support"_s))
-            others(type, context, text);
-    });
 }
 
 void refuseUnreadableNames(int argc, char **argv)
@@ -95,13 +73,15 @@ std::optional<BatchJob> readCommandLine(const QCoreApplication &application)
     parser.setApplicationDescription(u"Prepares and writes optical discs."_s);
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption burn(u"burn"_s, u"Make a disc of kind <project> from the files and end."_s, u"project"_s);
+    const QCommandLineOption burn(
+        u"burn"_s, u"Make a disc of kind <project> from the files and end."_s, u"project"_s);
     const QCommandLineOption show(u"show"_s, u"Do so in the window, which stays."_s);
-    parser.addOptions({burn, show});
-    parser.addPositionalArgument(u"FILE"_s, u"Files, or folders for a data disc, in the order of the disc."_s, u"[FILE...]"_s);
+    parser.addOptions({ burn, show });
+    parser.addPositionalArgument(
+        u"FILE"_s, u"Files, or folders for a data disc, in the order of the disc."_s, u"[FILE...]"_s);
     if (!parser.parse(application.arguments()))
         refuse(parser.errorText());
-    if (parser.isSet(u"help"_s))
+    if (parser.isSet(u"help"_s) || parser.isSet(u"help-all"_s))
         parser.showHelp(0);
     if (parser.isSet(u"version"_s))
         parser.showVersion();
@@ -110,7 +90,7 @@ std::optional<BatchJob> readCommandLine(const QCoreApplication &application)
             refuse(u"files and --show go with --burn."_s);
         return std::nullopt;
     }
-    BatchJob job{projectNamed(parser.value(burn)), {}, parser.isSet(show)};
+    BatchJob job{ projectNamed(parser.value(burn)), {}, parser.isSet(show) };
     for (const QString &path : parser.positionalArguments())
         job.paths.append(QDir::cleanPath(QDir::current().absoluteFilePath(path)));
     if (const QString objection = BatchRun::objection(job); !objection.isEmpty())
@@ -120,6 +100,7 @@ std::optional<BatchJob> readCommandLine(const QCoreApplication &application)
 
 int runWindow()
 {
+    endOnSignals();
     WindowQuestions questions;
     MainWindow window;
     AppDelegate controller(&window, Surroundings::ofThisMachine(&questions));
@@ -130,13 +111,19 @@ int runWindow()
 
 int runBatch(const BatchJob &job)
 {
+    surface::hush();
+    // Whoever reads the progress may stop reading; that is no reason to spoil a disc.
+    std::signal(SIGPIPE, SIG_IGN);
     BatchQuestions questions(job.show);
     MainWindow window;
     Surroundings around = Surroundings::ofThisMachine(&questions);
     const auto exitProcess = around.exitProcess;
-    // The only way to an exit in a batch run but its own end is an alert of the start-up.
-    around.exitProcess = [exitProcess, &questions](int status) { exitProcess(questions.alerted() ? 1 : status); };
+    bool completed = false;
+    // However it ends, only a job that came to its end is a success.
+    around.exitProcess = [exitProcess, &completed](int) { exitProcess(completed ? 0 : 1); };
     AppDelegate controller(&window, around);
+    QObject::connect(
+        &controller, &AppDelegate::operationCompleted, &window, [&completed] { completed = true; });
     BatchRun batch(job, &controller, &questions, exitProcess);
     controller.awakeFromNib();
     controller.applicationDidFinishLaunching();
@@ -149,15 +136,18 @@ int runBatch(const BatchJob &job)
 int main(int argc, char **argv)
 {
     allowDeepTrees();
+    surface::knowHome();
     refuseUnreadableNames(argc, argv);
-    chooseDisplay(argc, argv);
+    const surface::Place place = surface::choose(argc, argv);
     QApplication application(argc, argv);
+    surface::chosen(place);
     QCoreApplication::setApplicationName(u"corvalis"_s);
     QGuiApplication::setApplicationDisplayName(u"Corvalis"_s);
     QGuiApplication::setDesktopFileName(u"corvalis"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVALIS_VERSION));
     QApplication::setWindowIcon(applicationIcon());
-    endOnSignals();
     const std::optional<BatchJob> job = readCommandLine(application);
+    if (place == surface::Place::DisplayMissing)
+        surface::endWithoutDisplay();
     return job ? runBatch(*job) : runWindow();
 }

@@ -21,6 +21,8 @@
 
 using namespace Qt::StringLiterals;
 
+Q_LOGGING_CATEGORY(files, "corvalis.files")
+
 namespace {
 
 /// The path of one of our tools: the system's where it has one, else the one built or installed with us.
@@ -161,7 +163,7 @@ void AppDelegate::RemoveAllContentInFolder(const QString &folder)
 {
     compilation::emptyFolder(QFile::encodeName(folder).toStdString(), [this](const std::string &failure) {
         const QString text = QString::fromStdString(failure);
-        qWarning().noquote() << u"oops: %1"_s.arg(text);
+        qCWarning(files).noquote() << u"oops: %1"_s.arg(text);
         activityLog->note(tr("A file in a working folder could not be removed"), text);
     });
 }

@@ -14,9 +14,23 @@
 
 #include <cstdio>
 
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The columns of the terminal on standard output; 0 where there is no terminal.
+int terminalWidth()
+{
+    winsize size{};
+    if (!::isatty(STDOUT_FILENO))
+        return 0;
+    return ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : 80;
+}
+
+} // namespace
 
 int BatchQuestions::ask(const Alert &alert, QWidget *over)
 {
@@ -118,7 +132,7 @@ void BatchRun::completed()
 void BatchRun::end(int status)
 {
     m_progress.stop();
-    if (!m_lastLine.isEmpty() && ::isatty(STDOUT_FILENO))
+    if (!m_lastLine.isEmpty() && terminalWidth() > 0)
         std::printf("\n");
     std::fflush(stdout);
     if (status != 0 && !m_job.show)
@@ -149,7 +163,11 @@ void BatchRun::printLine(const QString &line)
     if (line == m_lastLine)
         return;
     m_lastLine = line;
-    // On a terminal one line is written over and over; elsewhere each is a line of its own.
-    std::printf(::isatty(STDOUT_FILENO) ? "\r\033[K%s" : "%s\n", qUtf8Printable(line));
+    // On a terminal one line is written over and over, which only works as long as it does not wrap;
+    // elsewhere each is a line of its own.
+    if (const int width = terminalWidth())
+        std::printf("\r\033[K%s", qUtf8Printable(line.left(width - 1)));
+    else
+        std::printf("%s\n", qUtf8Printable(line));
     std::fflush(stdout);
 }

@@ -1,4 +1,5 @@
 // The program as a process: how it ends, and what it answers on the command line.
+#include "app/Surface.h"
 #include "runner/StatusSheets.h"
 #include "support/Person.h"
 #include "support/ProgramFolder.h"
@@ -9,6 +10,10 @@
 #include <QTest>
 
 #include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -59,6 +64,7 @@ private Q_SLOTS:
     void endsWhileAToolWorks();
     void signalEndsTheWindow_data();
     void signalEndsTheWindow();
+    void signalEndsABatchRunAtWork_data() { signalEndsTheWindow_data(); }
     void signalEndsABatchRunAtWork();
     void emptiesItsFoldersAtTheNextStart();
 
@@ -75,6 +81,13 @@ private Q_SLOTS:
     void debugIsOffInABatchRun();
     void burnsWithoutADisplay();
     void missingToolStillEndsTheJob();
+    void onlyOwnWordsInABatchRun();
+    void nobodyReadsTheProgress();
+    void progressFitsTheTerminal();
+
+    void withoutADisplay_data();
+    void withoutADisplay();
+    void withoutAHome();
 };
 
 void ProgramTest::endsWhileAToolWorks_data()
@@ -124,6 +137,7 @@ void ProgramTest::signalEndsTheWindow()
 
 void ProgramTest::signalEndsABatchRunAtWork()
 {
+    QFETCH(int, signal);
     ProgramFolder folder;
     folder.drutil.print(u"status"_s, "Type: CD-R\noverwritable\n");
     folder.drutil.run(works);
@@ -131,8 +145,11 @@ void ProgramTest::signalEndsABatchRunAtWork()
     folder.start({ u"--burn"_s, u"MP3 CD"_s, folder.home(u"song.mp3"_s) });
     QTRY_VERIFY_WITH_TIMEOUT(contentOf(folder.drutil.path() + u".pid"_s).endsWith('\n'), 20'000);
     QCOMPARE(folder.process.state(), QProcess::Running);
-    folder.process.terminate();
-    QCOMPARE(folder.ended(), 0);
+    ::kill(static_cast<pid_t>(folder.process.processId()), signal);
+    // Whoever waits for the disc must not take it for done.
+    QVERIFY(folder.process.waitForFinished(30'000));
+    QCOMPARE(folder.process.exitStatus(), QProcess::CrashExit);
+    QCOMPARE(folder.process.exitCode(), signal);
     const qint64 tool = contentOf(folder.drutil.path() + u".pid"_s).trimmed().toLongLong();
     QVERIFY(lives(tool));
     ::kill(static_cast<pid_t>(tool), SIGKILL);
@@ -331,9 +348,6 @@ void ProgramTest::burnsWithoutADisplay()
     QCOMPARE(
         folder.drutil.runs(u"burn"_s), QList<QStringList>({ { u"burn"_s, audio, u"-drive"_s, u"1"_s } }));
     QVERIFY(folder.process.readAllStandardOutput().contains("Operation complete\n"));
-    // Without --burn a display is needed, and its absence is told.
-    QVERIFY(folder.run({}) != 0);
-    QVERIFY(!folder.errors().isEmpty());
 }
 
 void ProgramTest::missingToolStillEndsTheJob()
@@ -345,6 +359,115 @@ void ProgramTest::missingToolStillEndsTheJob()
     QCOMPARE(folder.run({ u"--burn"_s, u"MP3 CD"_s, folder.home(u"song.mp3"_s) }), 0);
     QVERIFY(!folder.errors().isEmpty());
     QCOMPARE(folder.drutil.runs(u"burn"_s).size(), 1);
+}
+
+void ProgramTest::onlyOwnWordsInABatchRun()
+{
+    ProgramFolder folder;
+    folder.drutil.print(u"status"_s, "Type: CD-R\noverwritable\n");
+    makeFile(folder.home(u"song.mp3"_s));
+    // What a scheduled job has: no runtime folder, no locale.
+    QProcessEnvironment environment = folder.process.processEnvironment();
+    environment.remove(u"XDG_RUNTIME_DIR"_s);
+    environment.insert(u"LC_ALL"_s, u"C"_s);
+    folder.process.setProcessEnvironment(environment);
+    QCOMPARE(folder.run({ u"--burn"_s, u"MP3 CD"_s, folder.home(u"song.mp3"_s) }), 0);
+    QCOMPARE(folder.errors(), QString());
+    // What cannot be removed from a working folder is told all the same.
+    QVERIFY(QDir(folder.home(u"Documents/CorvalisVideo"_s)).removeRecursively());
+    QVERIFY(QFile::link(u"/proc/self/ns"_s, folder.home(u"Documents/CorvalisVideo"_s)));
+    QCOMPARE(folder.run({ u"--burn"_s, u"MP3 CD"_s, folder.home(u"song.mp3"_s) }), 0);
+    QVERIFY(folder.errors().contains(u"oops: "_s));
+}
+
+void ProgramTest::nobodyReadsTheProgress()
+{
+    ProgramFolder folder;
+    folder.drutil.print(u"status"_s, "Type: CD-R\noverwritable\n");
+    makeFile(folder.home(u"song.mp3"_s));
+    folder.start({ u"--burn"_s, u"MP3 CD"_s, folder.home(u"song.mp3"_s) });
+    QVERIFY(folder.process.waitForStarted());
+    folder.process.closeReadChannel(QProcess::StandardOutput);
+    QCOMPARE(folder.ended(), 0);
+    QCOMPARE(folder.drutil.runs(u"burn"_s).size(), 1);
+}
+
+void ProgramTest::progressFitsTheTerminal()
+{
+    const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY);
+    QVERIFY(terminal >= 0 && ::grantpt(terminal) == 0 && ::unlockpt(terminal) == 0);
+    const winsize size{ 24, 30, 0, 0 };
+    QCOMPARE(::ioctl(terminal, TIOCSWINSZ, &size), 0);
+    ProgramFolder folder;
+    folder.drutil.print(u"status"_s, "Type: CD-R\noverwritable\n");
+    folder.drutil.run(
+        "case \"$1\" in burn) echo 'a line that is longer than the terminal is wide'; sleep 1;; esac");
+    makeFile(folder.home(u"song.mp3"_s));
+    folder.process.setStandardOutputFile(QString::fromLocal8Bit(::ptsname(terminal)));
+    QCOMPARE(folder.run({ u"--burn"_s, u"MP3 CD"_s, folder.home(u"song.mp3"_s) }), 0);
+    // With its last writer gone, a terminal has no end but an error.
+    QByteArray shown;
+    char piece[4096];
+    while (const ssize_t count = qMax(ssize_t(0), ::read(terminal, piece, sizeof piece)))
+        shown.append(piece, count);
+    ::close(terminal);
+    QVERIFY2(shown.contains("Writing: a line that is longe"), shown.constData());
+    QVERIFY2(shown.endsWith("Operation complete\r\n"), shown.constData());
+    // One line, written over and over.
+    QCOMPARE(shown.count('\n'), 1);
+    for (QByteArray line : shown.trimmed().split('\r')) {
+        line.replace("\033[K", "");
+        QVERIFY2(line.size() < 30, line.constData());
+    }
+}
+
+void ProgramTest::withoutADisplay_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("display");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("told");
+    const QString noDisplay = u"there is no display"_s;
+    const QStringList shown{ u"--show"_s, u"--burn"_s, u"Data CD"_s, u"/"_s };
+    QTest::newRow("window") << QStringList() << QString() << 1 << noDisplay;
+    QTest::newRow("window, display gone") << QStringList() << u":987"_s << 1 << noDisplay;
+    QTest::newRow("shown job") << shown << QString() << 1 << noDisplay;
+    QTest::newRow("shown job, display gone") << shown << u":987"_s << 1 << noDisplay;
+    QTest::newRow("unknown option") << QStringList{ u"--bake"_s } << QString() << 2 << u"bake"_s;
+    QTest::newRow("file") << QStringList{ u"song.mp3"_s } << QString() << 2 << u"--burn"_s;
+    QTest::newRow("file that looks like an option")
+        << QStringList{ u"--burn"_s, u"Data CD"_s, u"--"_s, u"--show"_s } << QString() << 2 << u"--show"_s;
+    for (const auto &help : { u"-h"_s, u"--help"_s, u"--help-all"_s, u"-v"_s, u"--version"_s })
+        QTest::newRow(qPrintable(help)) << QStringList{ help } << u":987"_s << 0 << QString();
+}
+
+void ProgramTest::withoutADisplay()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, display);
+    QFETCH(QString, told);
+    ProgramFolder folder;
+    QProcessEnvironment environment = folder.process.processEnvironment();
+    environment.remove(u"QT_QPA_PLATFORM"_s);
+    if (!display.isEmpty())
+        environment.insert(u"DISPLAY"_s, display);
+    folder.process.setProcessEnvironment(environment);
+    QTEST(folder.run(arguments), "status");
+    const QString said = folder.errors();
+    QVERIFY2(told.isEmpty() ? said.isEmpty() : said.contains(told), qPrintable(said));
+    QVERIFY(folder.drutil.runs().isEmpty());
+}
+
+void ProgramTest::withoutAHome()
+{
+    const QByteArray home = qgetenv("HOME");
+    surface::knowHome();
+    QCOMPARE(qgetenv("HOME"), home);
+    qunsetenv("HOME");
+    surface::knowHome();
+    const QByteArray found = qgetenv("HOME");
+    qputenv("HOME", home);
+    QCOMPARE(found, QByteArray(::getpwuid(::getuid())->pw_dir));
 }
 
 int main(int argc, char **argv)

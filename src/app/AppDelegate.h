@@ -183,6 +183,7 @@ public:
     void emptyAllLists();
     void showTab(int index);
     void didSelectTab(int index); ///< what follows from showing a tab
+    void offerKinds(int tab); ///< names the menu items of the tab's kinds of disc
     void offerListActions(int tab); ///< enables the menu items that the tab has a use for
     QString selectedPage() const; ///< identifier of the selected tab, "1" to "5"
 

@@ -180,8 +180,21 @@ void AppDelegate::didSelectTab(int index)
     offerListActions(index);
 }
 
+void AppDelegate::offerKinds(int tab)
+{
+    QAction *const items[] = {ui->menuitemKind1, ui->menuitemKind2, ui->menuitemKind3};
+    for (int variant = 0; variant < 3; ++variant) {
+        const ProjectType *type = projects::byVariant(tab, variant);
+        items[variant]->setVisible(type);
+        if (type)
+            items[variant]->setText(type->name);
+    }
+    ui->submenuKind->menuAction()->setEnabled(tab <= 2);
+}
+
 void AppDelegate::offerListActions(int tab)
 {
+    offerKinds(tab);
     const bool media = tab <= 1;
     const bool list = tab <= 2;
     for (QAction *action : {ui->menuitemAddFolder, ui->menuitemCopyDisc, ui->menuitemBurn, ui->menuitemDelete,
@@ -191,8 +204,9 @@ void AppDelegate::offerListActions(int tab)
         action->setEnabled(media);
     for (QAction *action : {ui->menuitemAddFiles, ui->menuitemSort1, ui->menuitemSort2})
         action->setEnabled(list);
-    ui->menuitemAddFiles->setText(media ? tr("&Add Files…") : tr("&Add Folder…"));
+    ui->menuitemAddFiles->setText(tab == 2 ? tr("&Add Folder…") : tr("&Add Files…"));
     ui->menuitemAddFolder->setVisible(tab != 2);
+    ui->submenuSort->menuAction()->setEnabled(list);
     ui->menuitemSort1->setText(media ? tr("&File") : tr("&Folder"));
     ui->menuitemSort2->setText(media ? tr("&Duration") : tr("&Size"));
     ui->menuitemSort3->setVisible(media);

@@ -153,6 +153,13 @@ void AppDelegate::connectMenus()
                 (this->*row.handlers.at(static_cast<std::size_t>(tab)))();
         });
     }
+    QAction *const kinds[] = {ui->menuitemKind1, ui->menuitemKind2, ui->menuitemKind3};
+    for (int variant = 0; variant < 3; ++variant) {
+        connect(kinds[variant], &QAction::triggered, this, [this, variant] {
+            if (const ProjectType *type = projects::byVariant(ui->tabviewMain->currentIndex(), variant))
+                chooseVariant(type->code);
+        });
+    }
     for (const BlankRow &row : blanks) {
         connect(ui->*row.item, &QAction::triggered, this,
                 [this, row] { OnMenuDriveInsertBlank(QString::fromLatin1(row.kind)); });

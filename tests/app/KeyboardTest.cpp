@@ -14,6 +14,8 @@
 #include <QMenuBar>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -41,7 +43,9 @@ private Q_SLOTS:
     void mnemonicsAreUnique();
     void expectedShortcuts_data();
     void expectedShortcuts();
+    void everyItemHasKeys();
     void everyItemIsInAMenu();
+    void noMenuSaysTheSameTwice();
     void pressableThingsHaveNames();
     void buttonsArePushButtons();
     void burnButtonIsNamedAsItIsTitled();
@@ -122,6 +126,41 @@ void KeyboardTest::expectedShortcuts()
 {
     QFETCH(QByteArray, item);
     QTEST(m_app->element<QAction>(item.constData())->shortcut().toString(), "keys");
+}
+
+void KeyboardTest::everyItemHasKeys()
+{
+    // What destroys without asking, and what is rarely wanted, is not had by one slip of a finger: a letter
+    // in its menu chooses it.
+    const QStringList byLetter{ u"menuitemErase"_s, u"menuitemInsert"_s, u"menuitemHelp"_s };
+    for (const QMenu *menu : m_app->window->findChildren<QMenu *>()) {
+        for (const QAction *action : menu->actions()) {
+            if (action->isSeparator() || action->menu())
+                continue;
+            const bool letter = std::ranges::any_of(
+                byLetter, [action](const QString &name) { return action->objectName().startsWith(name); });
+            const bool reached = !action->shortcut().isEmpty()
+                || (letter && !QKeySequence::mnemonic(action->text()).isEmpty());
+            QVERIFY2(reached, qPrintable(described(action)));
+        }
+    }
+}
+
+void KeyboardTest::noMenuSaysTheSameTwice()
+{
+    for (int tab = 0; tab < 5; ++tab) {
+        person::clickTab(m_app->element<QTabWidget>("tabviewMain"), tab);
+        for (const QMenu *menu : m_app->window->findChildren<QMenu *>()) {
+            QSet<QString> taken;
+            for (const QAction *action : menu->actions()) {
+                if (action->isSeparator() || !action->isVisible())
+                    continue;
+                const QString text = action->text().remove(u'&');
+                QVERIFY2(!taken.contains(text), qPrintable(menu->objectName() + u": "_s + text));
+                taken.insert(text);
+            }
+        }
+    }
 }
 
 void KeyboardTest::everyItemIsInAMenu()

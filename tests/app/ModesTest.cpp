@@ -7,6 +7,7 @@
 #include "support/TestApplication.h"
 #include "ui_MainWindow.h"
 
+#include <QMenu>
 #include <QRadioButton>
 #include <QTest>
 
@@ -70,6 +71,9 @@ private Q_SLOTS:
     void quitFromTheSheet();
     void modeButton_data();
     void modeButton();
+    void kindByKeys_data();
+    void kindByKeys();
+    void kindsWithoutAList();
     void modeButtonKeepsTheList();
     void tabsByClick();
     void tabsByMenu();
@@ -351,6 +355,43 @@ void ModesTest::modeButton()
     bordered[mode.tab] = text(mode.button);
     QCOMPARE(borderedButtons(), bordered);
     QCOMPARE(controller().i_Type_of_New_Disc, 1);
+}
+
+void ModesTest::kindByKeys_data()
+{
+    sheetConfirmed_data();
+}
+
+void ModesTest::kindByKeys()
+{
+    QFETCH(int, row);
+    const Mode &mode = modes[row];
+    person::clickTab(m_app->element<QTabWidget>("tabviewMain"), mode.tab);
+    // From another kind, so that something has to happen.
+    person::press(QKeySequence(mode.variant == 0 ? u"Alt+2"_s : u"Alt+1"_s));
+    QTRY_VERIFY(title() != text(mode.title));
+    person::press(QKeySequence(u"Alt+%1"_s.arg(mode.variant + 1)));
+    QTRY_COMPARE(title(), text(mode.title));
+    QVERIFY(borderedButtons().contains(text(mode.button)));
+    // In the menu as it is called on its button.
+    const auto *item = m_app->window->findChild<QAction *>(u"menuitemKind%1"_s.arg(mode.variant + 1));
+    QCOMPARE(item->text(), m_app->element<BarButton>(mode.button)->text());
+}
+
+void ModesTest::kindsWithoutAList()
+{
+    person::clickTab(m_app->element<QTabWidget>("tabviewMain"), 3);
+    person::press(QKeySequence(u"Alt+2"_s));
+    QTest::qWait(50);
+    QCOMPARE(title(), u"Burn Audio CD"_s);
+    QCOMPARE(controller().i_Audio_Type, 0);
+    QVERIFY(!m_app->element<QMenu>("submenuKind")->menuAction()->isEnabled());
+    // The video tab has two kinds.
+    person::clickTab(m_app->element<QTabWidget>("tabviewMain"), 1);
+    QVERIFY(m_app->element<QMenu>("submenuKind")->menuAction()->isEnabled());
+    person::press(QKeySequence(u"Alt+3"_s));
+    QTest::qWait(50);
+    QCOMPARE(title(), u"Burn Video DVD"_s);
 }
 
 void ModesTest::modeButtonKeepsTheList()

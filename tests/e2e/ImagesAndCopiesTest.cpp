@@ -24,7 +24,7 @@ class ImagesAndCopiesTest : public QObject {
     {
         person::choose(machine.window.get(), "submenuItemTabISO");
         auto first = std::make_unique<person::Expect<QFileDialog>>(
-            [&](QFileDialog *panel) { WholeMachine::markFolder(panel, source); });
+            [&](QFileDialog *panel) { person::markFolder(panel, source); });
         machine.press("toolbar_btn_ISO_Create_ISO");
         QVERIFY(first->happened());
         person::Expect<QFileDialog> second([&](QFileDialog *panel) { person::openFolder(panel, destination); });
@@ -149,7 +149,7 @@ private Q_SLOTS:
         QVERIFY(machine.recorder.status().contains("not writable"));
 
         auto dialog = std::make_unique<person::Expect<QFileDialog>>(
-            [&](QFileDialog *panel) { WholeMachine::markFolder(panel, volume); });
+            [&](QFileDialog *panel) { person::markFolder(panel, volume); });
         machine.press("toolbar_btn_Audio_Copy_Disc");
         QVERIFY(dialog->happened());
         dialog.reset();

@@ -170,13 +170,22 @@ inline void pressTitled(const QWidget *dialog, const QString &title)
     qWarning() << "there is no button" << title;
 }
 
+/// Pastes a path into the name field of a file dialog.
+inline void pastePath(QFileDialog *dialog, const QString &path)
+{
+    auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    if (!awaitKeyboard(dialog))
+        qWarning() << "the dialog does not get the keyboard";
+    name->setFocus();
+    name->setText(path);
+}
+
 /// Goes to `folder` in a file dialog by pasting its path, then marks the files with these names in the list,
 /// in this order, and presses Open.
 inline void openFiles(QFileDialog *dialog, const QString &folder, const QStringList &names)
 {
-    auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
     auto *list = dialog->findChild<QTreeView *>(QStringLiteral("treeView"));
-    name->setText(folder);
+    pastePath(dialog, folder);
     pressTitled(dialog, QStringLiteral("Open"));
     const auto row = [list](const QString &file) {
         const QAbstractItemModel *model = list->model();
@@ -224,8 +233,28 @@ inline QStringList shownFiles(QFileDialog *dialog, const QString &folder, const 
 /// Pastes a folder's path into a dialog that asks for a folder, and confirms.
 inline void openFolder(QFileDialog *dialog, const QString &folder)
 {
-    auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-    name->setText(folder);
+    pastePath(dialog, folder);
+    pressTitled(dialog, QStringLiteral("Choose"));
+}
+
+/// Goes to the folder that holds `place`, marks `place` in the list and confirms.
+inline void markFolder(QFileDialog *dialog, const QString &place)
+{
+    dialog->setDirectory(QFileInfo(place).path());
+    auto *list = dialog->findChild<QTreeView *>(QStringLiteral("treeView"));
+    const bool marked = QTest::qWaitFor(
+        [&] {
+            const QAbstractItemModel *model = list->model();
+            for (int row = 0; row < model->rowCount(list->rootIndex()); ++row) {
+                const QModelIndex index = model->index(row, 0, list->rootIndex());
+                if (index.data().toString() == QFileInfo(place).fileName())
+                    clickRow(list, index);
+            }
+            return dialog->selectedFiles() == QStringList(place);
+        },
+        10'000);
+    if (!marked)
+        qWarning() << "the dialog does not let mark" << place;
     pressTitled(dialog, QStringLiteral("Choose"));
 }
 

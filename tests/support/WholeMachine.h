@@ -130,31 +130,10 @@ public:
     /// Presses a button and answers the dialog for a folder that comes.
     void chooseFolder(const char *button, const QString &place)
     {
-        person::Expect<QFileDialog> dialog([&](QFileDialog *panel) { markFolder(panel, place); });
+        person::Expect<QFileDialog> dialog([&](QFileDialog *panel) { person::markFolder(panel, place); });
         press(button);
         if (!dialog.happened())
             qWarning() << "no dialog asked for" << place;
-    }
-
-    /// Goes to the folder that holds `place`, marks `place` in the list and confirms.
-    static void markFolder(QFileDialog *dialog, const QString &place)
-    {
-        dialog->setDirectory(QFileInfo(place).path());
-        auto *list = dialog->findChild<QTreeView *>(QStringLiteral("treeView"));
-        const bool marked = QTest::qWaitFor(
-            [&] {
-                const QAbstractItemModel *model = list->model();
-                for (int row = 0; row < model->rowCount(list->rootIndex()); ++row) {
-                    const QModelIndex index = model->index(row, 0, list->rootIndex());
-                    if (index.data().toString() == QFileInfo(place).fileName())
-                        person::clickRow(list, index);
-                }
-                return dialog->selectedFiles() == QStringList(place);
-            },
-            10'000);
-        if (!marked)
-            qWarning() << "the dialog does not let mark" << place;
-        person::pressTitled(dialog, QStringLiteral("Choose"));
     }
 
     [[nodiscard]] bool completes()

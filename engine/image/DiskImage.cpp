@@ -20,8 +20,10 @@ namespace {
 // The trailer of a UDIF file, big-endian.
 constexpr std::size_t trailerSize = 512;
 constexpr std::size_t dataForkOffsetAt = 24;
+constexpr std::size_t dataForkLengthAt = 32;
 constexpr std::size_t xmlOffsetAt = 216;
 constexpr std::size_t xmlLengthAt = 224;
+constexpr std::size_t sectorCountAt = 492;
 
 // A table of block runs.
 constexpr std::size_t tableSectorAt = 8;
@@ -110,17 +112,23 @@ bool isPlainUdif(const ReadAt &readAt, std::string_view trailer, std::uint64_t s
         return false;
     const std::string list = readText(readAt, xmlOffset, xmlLength);
     static constexpr std::string_view open = "<data>", close = "</data>";
+    bool described = false;
     for (std::size_t at = list.find(open); at != std::string::npos; at = list.find(open, at)) {
         at += open.size();
         const std::size_t end = list.find(close, at);
         if (end == std::string::npos)
             break;
         const std::string table = decodeBase64(std::string_view(list).substr(at, end - at));
-        if (table.size() >= runsAt && table.starts_with("mish") && !isPlainTable(table, dataFork))
+        const bool describes = table.size() >= runsAt && table.starts_with("mish");
+        if (describes && !isPlainTable(table, dataFork))
             return false;
+        described = described || describes;
         at = end;
     }
-    return true;
+    // Older files keep their tables in a resource fork; what takes less room than its sectors is packed.
+    return described
+        || (dataFork == 0
+            && number(trailer, dataForkLengthAt, 8) == number(trailer, sectorCountAt, 8) * sectorBytes);
 }
 
 const char *advice(DiskImageKind kind)

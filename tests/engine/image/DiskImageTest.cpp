@@ -43,6 +43,17 @@ class DiskImageTest : public QObject {
         return file + list + trailer;
     }
 
+    /// A UDIF file without a property list, whose `sectors` sectors lie in 8 of them.
+    static std::string udifWithoutList(std::uint64_t sectors)
+    {
+        std::string trailer =
+            "koly" + big(4, 4) + big(512, 4) + big(1, 4) + big(0, 8) + big(0, 8) + big(8 * 512, 8);
+        trailer.resize(492);
+        trailer += big(sectors, 8);
+        trailer.resize(512);
+        return std::string(8 * 512, 'd') + trailer;
+    }
+
     static DiskImageKind kindOf(const std::string &file)
     {
         const ReadAt readAt = [&file](
@@ -79,6 +90,8 @@ private Q_SLOTS:
         row("moved", udif(8, { { raw, 0, 8, 512 }, { end, 8, 0, 0 } }), DiskImageKind::compressed);
         row("data not at the start", udif(8, { { raw, 0, 8, 0 }, { end, 8, 0, 0 } }, 4096),
             DiskImageKind::compressed);
+        row("raw, no property list", udifWithoutList(8), DiskImageKind::plain);
+        row("packed, no property list", udifWithoutList(20), DiskImageKind::compressed);
         std::string lying = udif(8, { { raw, 0, 8, 0 } });
         lying.replace(lying.size() - 512 + 224, 8, big(~0ULL, 8));
         row("property list beyond the end", lying, DiskImageKind::compressed);

@@ -50,15 +50,6 @@ std::uint64_t roomOn(const Medium &medium)
     return report::canErase(medium) ? std::max(medium.capacity, medium.free) : medium.free;
 }
 
-Result<void> checkSize(std::uint64_t needed, std::uint64_t room, const std::string &driveName)
-{
-    if (needed <= room)
-        return {};
-    return Error{ Exit::failed,
-        "The data need " + std::to_string(needed) + " blocks, and the disc in " + driveName + " has room for "
-            + std::to_string(room) + ": take something out, or insert a larger disc." };
-}
-
 /// Makes a rewritable medium that is not blank blank.
 Result<void> eraseFirst(Lease &lease, const Medium &medium, const BurnOptions &options)
 {
@@ -109,7 +100,7 @@ Result<void> burnContent(
     const Result<Content> data = prepare();
     if (!data)
         return data.error();
-    if (auto fits = checkSize((*data)->blocks(), roomOn(medium), drive.name()); !fits)
+    if (auto fits = checkRoom((*data)->blocks(), roomOn(medium), drive.name()); !fits)
         return fits;
     auto done = eraseFirst(**lease, medium, options);
     if (done)
@@ -126,7 +117,7 @@ Result<void> checkAudioMedium(
             "An audio disc needs a CD, and there is a " + std::string(report::factsOf(medium.kind).type)
                 + " in " + driveName + ": insert a blank CD-R or CD-RW." };
     // The pause of track 1 lies before the blocks that a disc counts.
-    return checkSize(disc.sectorCount() - audio::firstPause, roomOn(medium), driveName);
+    return checkRoom(disc.sectorCount() - audio::firstPause, roomOn(medium), driveName);
 }
 
 } // namespace

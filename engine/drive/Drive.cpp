@@ -20,4 +20,13 @@ Error stoppedBy(int signal, std::string message)
     return { signal == SIGINT ? Exit::interrupted : Exit::terminated, std::move(message) };
 }
 
+Result<void> checkRoom(std::uint64_t needed, std::uint64_t room, const std::string &driveName)
+{
+    if (needed <= room)
+        return {};
+    return Error{ Exit::failed,
+        "The data need " + std::to_string(needed) + " blocks, and the disc in " + driveName + " has room for "
+            + std::to_string(room) + ": take something out, or insert a larger disc." };
+}
+
 } // namespace engine::drive

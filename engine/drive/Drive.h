@@ -42,6 +42,9 @@ struct Control {
 /// The error of an operation that `signal` (SIGINT, SIGTERM) ended; `message` is taken as it is.
 Error stoppedBy(int signal, std::string message);
 
+/// Whether `needed` blocks fit into `room` blocks; the error has both figures.
+Result<void> checkRoom(std::uint64_t needed, std::uint64_t room, const std::string &driveName);
+
 /// The content of a data disc: a known number of blocks that can be streamed.
 class DiscData {
 public:

@@ -126,15 +126,61 @@ report::Phase phaseOf(burn_drive_status status, report::Phase busy)
     }
 }
 
-report::Progress progressOf(const burn_progress &p, report::Phase phase, report::Family family)
+/// How far an operation has come. libburn counts the sectors of each track anew, and tells of none while the
+/// drive closes the session.
+class Count {
+public:
+    Count(std::span<const Track> tracks, unsigned unitBytes)
+    {
+        for (const Track &track : tracks) {
+            burn_source *source = track.source.get();
+            m_starts.push_back(m_total);
+            m_total += (static_cast<std::uint64_t>(source->get_size(source)) + unitBytes - 1) / unitBytes;
+        }
+    }
+
+    void update(const burn_progress &p)
+    {
+        auto done = static_cast<std::uint64_t>(std::max(p.sector, 0));
+        if (m_starts.empty())
+            m_total = static_cast<std::uint64_t>(std::max(p.sectors, 0));
+        else
+            done +=
+                m_starts.at(std::min(static_cast<std::size_t>(std::max(p.track, 0)), m_starts.size() - 1));
+        // A short track is filled up by libburn, and a count that goes back helps nobody.
+        m_done = std::max(m_done, std::min(done, m_total));
+    }
+
+    std::uint64_t done() const { return m_done; }
+    std::uint64_t total() const { return m_total; }
+    bool allWritten() const { return !m_starts.empty() && m_done == m_total; }
+
+private:
+    std::vector<std::uint64_t> m_starts; ///< of each track; none for an erase
+    std::uint64_t m_total = 0;
+    std::uint64_t m_done = 0;
+};
+
+/// A DVD goes back to "writing" for a moment between closing its track and its session. A drive that has got
+/// everything empties its buffer and writes the lead-out of a session at once; libburn calls that writing,
+/// too.
+report::Phase nextPhase(report::Phase last, report::Phase told, const Count &count)
+{
+    const bool closing =
+        last == report::Phase::closing || (told == report::Phase::writing && count.allWritten());
+    return closing ? report::Phase::closing : told;
+}
+
+report::Progress progressOf(
+    const burn_progress &p, const Count &count, report::Phase phase, report::Family family)
 {
     report::Progress progress;
     progress.phase = phase;
     progress.family = family;
     if (phase == report::Phase::closing)
         return progress;
-    progress.done = static_cast<std::uint64_t>(std::max(p.sector, 0));
-    progress.total = static_cast<std::uint64_t>(std::max(p.sectors, 0));
+    progress.done = count.done();
+    progress.total = count.total();
     if (phase == report::Phase::writing)
         progress.bufferPercent = bufferPercent(p.buffer_capacity, p.buffer_available);
     return progress;
@@ -204,24 +250,24 @@ LibburnMessage LibburnDrive::takeMessage()
     return first;
 }
 
-LibburnDrive::Outcome LibburnDrive::wait(Stop stop, report::Phase busy, report::Family family,
-    unsigned unitBytes, const std::function<bool()> &sourceFailed, const Control &control)
+LibburnDrive::Outcome LibburnDrive::wait(Stop stop, const Task &task, const Control &control)
 {
     Outcome outcome;
     auto pause = 1ms;
     bool cancelled = false;
-    report::Phase phase = busy;
+    report::Phase phase = task.phase;
+    Count count(task.tracks, task.unitBytes);
     burn_progress p{};
     for (burn_drive_status status; (status = burn_drive_get_status(handle(), &p)) != BURN_DRIVE_IDLE;) {
         if (status != BURN_DRIVE_SPAWNING) {
-            outcome.sectors = std::max(outcome.sectors, static_cast<std::uint64_t>(std::max(p.sector, 0)));
-            // A DVD goes back to "writing" for a moment between closing its track and its session.
-            phase = phase == report::Phase::closing ? phase : phaseOf(status, busy);
-            control.report(progressOf(p, phase, family), unitBytes);
+            count.update(p);
+            outcome.sectors = count.done();
+            phase = nextPhase(phase, phaseOf(status, task.phase), count);
+            control.report(progressOf(p, count, phase, task.family), task.unitBytes);
         }
         if (outcome.signal == 0)
             outcome.signal = control.stopped();
-        outcome.sourceFailed = outcome.sourceFailed || (sourceFailed && sourceFailed());
+        outcome.sourceFailed = outcome.sourceFailed || (task.sourceFailed && task.sourceFailed());
         if (stop == Stop::cancels && !cancelled && (outcome.signal != 0 || outcome.sourceFailed)) {
             burn_drive_cancel(handle());
             cancelled = true;
@@ -229,7 +275,7 @@ LibburnDrive::Outcome LibburnDrive::wait(Stop stop, report::Phase busy, report::
         std::this_thread::sleep_for(pause);
         pause = std::min(pause * 2, 100ms);
     }
-    outcome.sourceFailed = outcome.sourceFailed || (sourceFailed && sourceFailed());
+    outcome.sourceFailed = outcome.sourceFailed || (task.sourceFailed && task.sourceFailed());
     outcome.message = takeMessage();
     outcome.well = !cancelled && !outcome.sourceFailed && burn_drive_wrote_well(handle()) != 0;
     return outcome;
@@ -255,12 +301,15 @@ LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, Writ
         return refused;
     }
     burn_disc_write(options.get(), layout.disc());
-    return wait(Stop::cancels, phase, family, audio ? audio::sectorSize : blockBytes, sourceFailed, control);
+    return wait(Stop::cancels,
+        { phase, family, static_cast<unsigned>(audio ? audio::sectorSize : blockBytes), tracks,
+            sourceFailed },
+        control);
 }
 
 LibburnDrive::Outcome LibburnDrive::waitForErase(const Control &control)
 {
-    return wait(Stop::waits, report::Phase::erasing, report::Family::none, 0, {}, control);
+    return wait(Stop::waits, { report::Phase::erasing, report::Family::none, 0, {}, {} }, control);
 }
 
 std::size_t LibburnDrive::read(std::uint64_t block, std::span<std::byte> buffer)

@@ -87,8 +87,16 @@ private:
     /// What a stop signal does: ends the operation, or is only noted.
     enum class Stop { cancels, waits };
 
-    Outcome wait(Stop stop, report::Phase busy, report::Family family, unsigned unitBytes,
-        const std::function<bool()> &sourceFailed, const Control &control);
+    /// What is waited for.
+    struct Task {
+        report::Phase phase;
+        report::Family family;
+        unsigned unitBytes; ///< of a sector
+        std::span<const Track> tracks; ///< none for an erase
+        std::function<bool()> sourceFailed;
+    };
+
+    Outcome wait(Stop stop, const Task &task, const Control &control);
 
     burn::burn_drive_info *m_infos;
     std::string m_name;

@@ -107,6 +107,9 @@ Result<void> PhysicalLease::writeData(DiscData &data, BlockDigests &sent, const 
     const Result<report::Medium> now = medium();
     if (!now)
         return now.error();
+    // A format sets spare blocks aside, and how many is known only now.
+    if (auto fits = checkRoom(data.blocks(), now->free, m_name); !fits)
+        return fits;
     const auto tapState = std::make_shared<TapState>();
     Job job;
     job.tracks = [&]() -> Result<std::vector<Track>> {
@@ -168,9 +171,8 @@ Result<void> PhysicalLease::formatIfNeeded(const Control &control)
     off_t size = 0;
     unsigned spare = 0;
     int formats = 0;
-    const int profile = profileOf(*m_drive);
-    if (!needsFormat(
-            profile, burn_disc_get_formats(m_drive->handle(), &status, &size, &spare, &formats) > 0, status))
+    const bool answered = burn_disc_get_formats(m_drive->handle(), &status, &size, &spare, &formats) > 0;
+    if (!needsFormat(profileOf(*m_drive), answered, status))
         return {};
     constexpr int defaultSize = 3 << 1;
     constexpr int noCertification = 1 << 6;

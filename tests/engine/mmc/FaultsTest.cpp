@@ -1,0 +1,231 @@
+// Drives that refuse, fail, or go away, and what is tried next and said.
+#include "Session.h"
+
+#include <chrono>
+#include <semaphore>
+
+using namespace Qt::StringLiterals;
+using namespace mmc;
+
+namespace {
+
+constexpr Sense powerCalibration{ 3, 0x73, 0x03 };
+constexpr Sense writeError{ 3, 0x0c, 0x00 };
+constexpr Sense refused{ 5, 0x20, 0x00 };
+
+bool isWrite(const Command &command)
+{
+    return command.opcode() == write10 || command.opcode() == write12;
+}
+
+/// The speeds that were asked for, without repetition.
+QList<int> speedsOf(const Drive &drive)
+{
+    QList<int> found;
+    for (const Command &command : drive.commands) {
+        const bool streaming = command.opcode() == setStreaming;
+        if (!streaming && command.opcode() != setSpeed)
+            continue;
+        const int speed = int(streaming ? command.dataNumber(20, 4) : command.number(4, 2));
+        if (found.isEmpty() || found.last() != speed)
+            found.append(speed);
+    }
+    return found;
+}
+
+} // namespace
+
+class FaultsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aPowerCalibrationErrorLowersTheSpeed_data()
+    {
+        QTest::addColumn<int>("profile");
+        for (const auto &[name, profile] :
+            { std::pair{ "CD-R", cdR }, { "DVD-R", dvdR }, { "DVD+R", dvdPlusR }, { "DVD+RW", dvdPlusRw } })
+            QTest::newRow(name) << int(profile);
+    }
+
+    void aPowerCalibrationErrorLowersTheSpeed()
+    {
+        QFETCH(int, profile);
+        Session session({ profile });
+        session.drive.refuse = [&](const Command &command) -> std::optional<Sense> {
+            if (isWrite(command) && session.drive.writeSpeed > 2770)
+                return powerCalibration;
+            return {};
+        };
+        QCOMPARE(sentence(session.burn()), QString());
+        QCOMPARE(speedsOf(session.drive), (QList<int>{ 11080, 5540, 2770 }));
+        QVERIFY(session.drive.content(0).contains(session.bigFile()));
+    }
+
+    void atTheLowestSpeedTheErrorIsTold()
+    {
+        Session session({ dvdR });
+        session.drive.refuse = [](const Command &command) -> std::optional<Sense> {
+            return isWrite(command) ? std::optional(powerCalibration) : std::nullopt;
+        };
+        const QString said = sentence(session.burn());
+        QVERIFY2(said.contains(u"Power calibration area error"_s), qPrintable(said));
+        QVERIFY2(said.endsWith(u"The disc in drive 1 is still blank."_s), qPrintable(said));
+        QCOMPARE(speedsOf(session.drive), (QList<int>{ 11080, 5540, 2770 }));
+        QVERIFY(!session.drive.trayLocked);
+    }
+
+    void aDriveThatRefusesToReserveWritesIncrementally_data()
+    {
+        QTest::addColumn<int>("profile");
+        QTest::addColumn<int>("refusal");
+        QTest::newRow("CD-R") << int(cdR) << int(sendCueSheet);
+        QTest::newRow("DVD-R") << int(dvdR) << int(reserveTrack);
+        QTest::newRow("DVD+R") << int(dvdPlusR) << int(reserveTrack);
+        QTest::newRow("BD-R") << int(bdR) << int(reserveTrack);
+    }
+
+    void aDriveThatRefusesToReserveWritesIncrementally()
+    {
+        QFETCH(int, profile);
+        QFETCH(int, refusal);
+        Session session({ profile });
+        session.drive.refuse = [refusal](const Command &command) -> std::optional<Sense> {
+            return command.opcode() == refusal ? std::optional(refused) : std::nullopt;
+        };
+        QCOMPARE(sentence(session.burn()), QString());
+        QVERIFY(session.drive.content(0).contains(session.bigFile()));
+        QCOMPARE(session.drive.disc.state, State::complete);
+    }
+
+    // What took blocks is not begun again.
+    void anErrorInMidWriteSpoilsADiscThatIsWrittenOnce()
+    {
+        Session session({ dvdPlusR });
+        session.drive.refuse = [](const Command &command) -> std::optional<Sense> {
+            return isWrite(command) && command.number(2, 4) >= 640 ? std::optional(writeError)
+                                                                     : std::nullopt;
+        };
+        const QString said = sentence(session.burn(700));
+        QVERIFY2(said.startsWith(u"The write to drive 1 failed (SCSI error on write(640,16): [3 0C 00]"_s),
+            qPrintable(said));
+        QVERIFY2(said.endsWith(u"The disc in drive 1 is spoilt."_s), qPrintable(said));
+        QCOMPARE(session.drive.disc.blocks.lastKey(), 639);
+        QVERIFY(!session.drive.trayLocked);
+    }
+
+    void anErrorInMidWriteLeavesARewritableDiscUsable()
+    {
+        for (const int profile : { cdRw, dvdRwSequential, dvdPlusRw, bdRe }) {
+            Session session({ profile });
+            session.drive.refuse = [](const Command &command) -> std::optional<Sense> {
+                return isWrite(command) && command.number(2, 4) - 640 < 1000 ? std::optional(writeError)
+                                                                               : std::nullopt;
+            };
+            QVERIFY(sentence(session.burn(700)).startsWith(u"The write to drive 1 failed"_s));
+            session.drive.refuse = {};
+            QCOMPARE(sentence(session.burn(100)), QString());
+        }
+    }
+
+    void aStopEndsTheWriteAndUnlocksTheTray()
+    {
+        Session session({ dvdPlusR });
+        std::binary_semaphore asked(0);
+        bool written = false;
+        session.stopAt = [&] {
+            if (written)
+                asked.release();
+            return std::exchange(written, false);
+        };
+        session.drive.refuse = [&](const Command &command) -> std::optional<Sense> {
+            if (isWrite(command) && command.number(2, 4) == 160) {
+                written = true;
+                (void)asked.try_acquire_for(std::chrono::seconds(30));
+            }
+            return {};
+        };
+        const auto done = session.burn(700);
+        QVERIFY(!done);
+        QCOMPARE(int(done.error().exit), 143);
+        QCOMPARE(sentence(done), u"Stopped. The disc in drive 1 is spoilt."_s);
+        QVERIFY(session.drive.disc.blocks.size() < 700);
+        QVERIFY(!session.drive.trayLocked);
+    }
+
+    void theCableIsPulled()
+    {
+        Session session({ dvdPlusR });
+        session.drive.refuse = [&, pulled = false](const Command &command) mutable -> std::optional<Sense> {
+            if (!pulled && isWrite(command) && command.number(2, 4) >= 320) {
+                pulled = true;
+                session.drive.unplug();
+            }
+            return {};
+        };
+        QCOMPARE(sentence(session.burn(700)),
+            u"The connection to drive 1 was lost during the write; check its cable. The disc in drive 1 is spoilt."_s);
+    }
+
+    void whatCannotBeReadBackIsNamed()
+    {
+        Session session({ cdR });
+        session.drive.refuse = [](const Command &command) -> std::optional<Sense> {
+            const quint32 last = command.opcode() == read10 ? command.number(2, 4) + command.number(7, 2) : 0;
+            return last > 123 ? std::optional(Sense{ 3, 0x11, 0x05 }) : std::nullopt;
+        };
+        const QString said = sentence(session.burn());
+        QVERIFY2(said.contains(u"123"_s), qPrintable(said));
+        QVERIFY(!session.drive.trayLocked);
+    }
+
+    void whatWasWrittenWronglyIsNamed()
+    {
+        Session session({ dvdR });
+        session.drive.refuse = [&](const Command &command) -> std::optional<Sense> {
+            if (command.opcode() == synchronizeCache && session.drive.disc.blocks.contains(77))
+                session.drive.disc.blocks[77][5] = char(~session.drive.disc.blocks[77].at(5));
+            return {};
+        };
+        const QString said = sentence(session.burn());
+        QVERIFY2(said.contains(u"77"_s), qPrintable(said));
+    }
+
+    void anEmptyDriveAndAnOpenTray()
+    {
+        Session session({});
+        QCOMPARE(session.status().trimmed(), u"Type: No Media Inserted"_s);
+        auto done = session.burn();
+        QCOMPARE(int(done.error().exit), 3);
+        QCOMPARE(sentence(done),
+            u"There is no disc in drive 1, or its tray is open: insert one and close the tray."_s);
+        session.drive.disc.profile = cdR;
+        session.drive.trayOpen = true;
+        QCOMPARE(session.status().trimmed(), u"Type: No Media Inserted"_s);
+        QVERIFY(session.drive.trayOpen);
+    }
+
+    // A drive in a notebook cannot pull its tray in; the finished disc lies in the open one.
+    void aTrayThatDoesNotComeInIsNoFailure()
+    {
+        Session session({ dvdPlusR });
+        session.options.verify = false;
+        session.drive.refuse = [&](const Command &command) -> std::optional<Sense> {
+            if (command.opcode() == startStop && (command.number(4, 1) & 3) == 3 && session.drive.trayOpen)
+                return Sense{ 5, 0x24, 0x00 };
+            return {};
+        };
+        QCOMPARE(sentence(session.burn()), QString());
+        QVERIFY(session.drive.trayOpen);
+        QVERIFY(!session.drive.trayLocked);
+    }
+
+    void anUnknownMediumIsNotWritten()
+    {
+        Session session({ 0x51 }); // HD DVD-R
+        QVERIFY(session.status().contains(u"not writable"_s));
+        QVERIFY(sentence(session.burn()).contains(u"cannot be written any more"_s));
+    }
+};
+
+QTEST_GUILESS_MAIN(FaultsTest)
+#include "FaultsTest.moc"

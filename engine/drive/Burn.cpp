@@ -39,6 +39,10 @@ Result<void> checkWritable(const Medium &medium, const std::string &driveName)
         return noDisc(driveName);
     if (report::canWriteNow(medium) || report::canErase(medium))
         return {};
+    if (medium.kind == report::MediumKind::unknown)
+        return Error{ Exit::failed,
+            "The disc in " + driveName
+                + " is of a kind that cannot be written: insert a blank CD, DVD or BD." };
     return Error{ Exit::failed,
         "The " + std::string(report::factsOf(medium.kind).type) + " in " + driveName
             + " cannot be written any more: insert a blank or rewritable disc." };

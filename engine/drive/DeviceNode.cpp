@@ -6,6 +6,8 @@
 #include <chrono>
 #include <fcntl.h>
 #include <grp.h>
+#include <linux/cdrom.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
@@ -36,7 +38,7 @@ Error openError(
     case EPERM:
         return { Exit::failed,
             "You may not use " + device + " (" + driveName
-                + "): log in at this machine itself, or have yourself added" + " to the group " + group
+                + "): log in at this machine itself, or have yourself added to the group " + group
                 + " and log in again." };
     case ENOENT:
     case ENODEV:
@@ -63,6 +65,21 @@ Result<void> checkFree(const std::string &device, const std::string &driveName)
         std::this_thread::sleep_for(100ms);
     }
     return openError(device, driveName, failure, groupOf(device));
+}
+
+Tray trayOf(const std::string &device)
+{
+    const Fd fd(::open(device.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    switch (fd ? ::ioctl(fd.get(), CDROM_DRIVE_STATUS, CDSL_CURRENT) : -1) {
+    case CDS_TRAY_OPEN:
+        return Tray::open;
+    case CDS_NO_DISC:
+        return Tray::empty;
+    case CDS_DISC_OK:
+        return Tray::loaded;
+    default:
+        return Tray::unknown;
+    }
 }
 
 bool isGone(const std::string &device)

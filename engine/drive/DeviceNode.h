@@ -15,6 +15,12 @@ Error openError(
 /// does after each change of the medium). The device is closed again. A mounted one is not free.
 Result<void> checkFree(const std::string &device, const std::string &driveName);
 
+/// Where the tray is and what lies in it.
+enum class Tray { open, empty, loaded, unknown };
+
+/// What the kernel says of the tray of `device` (CDROM_DRIVE_STATUS); `unknown` when it cannot be asked.
+Tray trayOf(const std::string &device);
+
 /// True when the node of a drive that just failed has gone, or goes within a second: the kernel takes it away
 /// a moment after the first command that fails.
 bool isGone(const std::string &device);

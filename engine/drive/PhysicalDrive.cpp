@@ -275,6 +275,10 @@ Result<void> PhysicalDrive::eject()
     if (!drive)
         return drive.error();
     (*drive)->release(true);
+    if (trayOf(m_record.device) == Tray::loaded)
+        return Error{ Exit::failed,
+            "The tray of " + name()
+                + " did not open: close the programs that use the disc, or press the button of the drive." };
     return {};
 }
 
@@ -285,6 +289,8 @@ Result<void> PhysicalDrive::close()
     auto drive = LibburnDrive::grab(m_record.device, name(), true, true);
     if (!drive)
         return drive.error();
+    if (trayOf(m_record.device) == Tray::open)
+        return Error{ Exit::failed, "The tray of " + name() + " did not close: push it in by hand." };
     return {};
 }
 

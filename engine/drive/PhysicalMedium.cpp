@@ -88,8 +88,9 @@ Result<report::Medium> readMedium(LibburnDrive &drive, const std::string &device
     answers.blank = status == BURN_DISC_BLANK;
     answers.appendable = status == BURN_DISC_APPENDABLE;
     answers.suitable = status != BURN_DISC_UNSUITABLE;
-    answers.damagedTrack = (burn_disc_next_track_is_damaged(d, 0) & 1) != 0;
     answers.freeBlocks = static_cast<std::uint64_t>(burn_disc_available_space(d, nullptr)) / blockBytes;
+    // The question for the space is what makes libburn look at the open track.
+    answers.damagedTrack = (burn_disc_next_track_is_damaged(d, 0) & 1) != 0;
     int readable = 0;
     if (burn_get_read_capacity(d, &readable, 0) > 0)
         answers.readableBlocks = static_cast<std::uint64_t>(std::max(readable, 0));

@@ -102,8 +102,7 @@ private Q_SLOTS:
     {
         Session session({ dvdPlusR });
         session.drive.refuse = [](const Command &command) -> std::optional<Sense> {
-            return isWrite(command) && command.number(2, 4) >= 640 ? std::optional(writeError)
-                                                                     : std::nullopt;
+            return isWrite(command) && command.number(2, 4) >= 640 ? std::optional(writeError) : std::nullopt;
         };
         const QString said = sentence(session.burn(700));
         QVERIFY2(said.startsWith(u"The write to drive 1 failed (SCSI error on write(640,16): [3 0C 00]"_s),
@@ -119,7 +118,7 @@ private Q_SLOTS:
             Session session({ profile });
             session.drive.refuse = [](const Command &command) -> std::optional<Sense> {
                 return isWrite(command) && command.number(2, 4) - 640 < 1000 ? std::optional(writeError)
-                                                                               : std::nullopt;
+                                                                             : std::nullopt;
             };
             QVERIFY(sentence(session.burn(700)).startsWith(u"The write to drive 1 failed"_s));
             session.drive.refuse = {};
@@ -223,7 +222,44 @@ private Q_SLOTS:
     {
         Session session({ 0x51 }); // HD DVD-R
         QVERIFY(session.status().contains(u"not writable"_s));
+        QCOMPARE(sentence(session.burn()),
+            u"The disc in drive 1 is of a kind that cannot be written: insert a blank CD, DVD or BD."_s);
+    }
+
+    void aDiscWhoseLastWriteBrokeOffSaysSo()
+    {
+        Session session({ dvdPlusR, State::appendable });
+        session.drive.disc.blocks.insert(0, QByteArray(2048, 'x'));
+        session.drive.disc.damaged = true;
+        const QString status = session.status();
+        QVERIFY2(status.contains(u"State: spoilt, a write did not reach its end"_s), qPrintable(status));
+        QVERIFY2(status.contains(u"Writability: not writable"_s), qPrintable(status));
         QVERIFY(sentence(session.burn()).contains(u"cannot be written any more"_s));
+        QVERIFY(session.drive.commandsOf(write10).isEmpty());
+    }
+
+    void theTrayOpensAndCloses()
+    {
+        Session session({ cdR });
+        QCOMPARE(sentence(session.physical.eject()), QString());
+        QVERIFY(session.drive.trayOpen);
+        QCOMPARE(sentence(session.physical.close()), QString());
+        QVERIFY(!session.drive.trayOpen);
+        QVERIFY(!session.drive.trayLocked);
+    }
+
+    void aTrayThatDoesNotMoveIsTold()
+    {
+        Session session({ cdR });
+        session.drive.refuse = [](const Command &command) -> std::optional<Sense> {
+            const bool moves = command.opcode() == startStop && (command.number(4, 1) & 2) != 0;
+            return moves ? std::optional(Sense{ 5, 0x53, 0x02 }) : std::nullopt;
+        };
+        QCOMPARE(sentence(session.physical.eject()),
+            u"The tray of drive 1 did not open: close the programs that use the disc, or press the button of the drive."_s);
+        session.drive.trayOpen = true;
+        QCOMPARE(
+            sentence(session.physical.close()), u"The tray of drive 1 did not close: push it in by hand."_s);
     }
 };
 

@@ -331,9 +331,9 @@ Drive::Answer Drive::tellTrack(const Command &command)
     const bool second = disc.state == State::appendable && asked != 1;
     QByteArray data = big(34, 2) + QByteArray(34, '\0');
     data[2] = data[3] = char(second ? 2 : 1);
-    data[5] = char(4);
+    data[5] = char(disc.damaged ? 0x24 : 0x04);
     data[6] = char(open && (second || disc.state == State::blank) ? 0x41 : 1);
-    if (open) {
+    if (open && !disc.damaged) {
         data[7] = 1;
         data.replace(8, 4, big(quint32(second ? end() : 0), 4));
         data.replace(12, 4, big(quint32(end()), 4));
@@ -570,7 +570,7 @@ int requestOf(unsigned long request, void *argument)
 {
     switch (request) {
     case CDROM_DRIVE_STATUS:
-        return CDS_DISC_OK;
+        return current->trayOpen ? CDS_TRAY_OPEN : current->disc.profile == none ? CDS_NO_DISC : CDS_DISC_OK;
     case SCSI_IOCTL_GET_IDLUN:
         std::memset(argument, 0, 8);
         return 0;

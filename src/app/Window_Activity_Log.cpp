@@ -9,9 +9,11 @@
 #include <QFontDatabase>
 #include <QKeyEvent>
 #include <QSaveFile>
+#include <QScrollBar>
 #include <QTreeWidgetItem>
 
 #include <algorithm>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -30,14 +32,13 @@ Window_Activity_Log::Window_Activity_Log(ActivityLog *log, QWidget *parent)
     m_refresh.setInterval(200);
     connect(&m_refresh, &QTimer::timeout, this, &Window_Activity_Log::refresh);
     connect(m_log, &ActivityLog::changed, this, [this] {
-        if (!m_refresh.isActive())
+        if (isVisible() && !m_refresh.isActive())
             m_refresh.start();
     }, Qt::QueuedConnection);
     connect(m_ui->listRuns, &QTreeWidget::itemSelectionChanged, this, &Window_Activity_Log::showOutput);
     connect(m_ui->btnCopy, &QPushButton::clicked, this, &Window_Activity_Log::copy);
     connect(m_ui->btnSave, &QPushButton::clicked, this, &Window_Activity_Log::save);
     connect(m_ui->btnClose, &QPushButton::clicked, this, &QWidget::close);
-    refresh();
 }
 
 Window_Activity_Log::~Window_Activity_Log() = default;
@@ -48,8 +49,10 @@ void Window_Activity_Log::refresh()
     for (qsizetype position = 0; position < m_log->size(); ++position) {
         const Activity activity = m_log->at(position);
         QTreeWidgetItem *item = list->topLevelItem(static_cast<int>(position));
-        if (!item)
+        if (!item) {
             item = new QTreeWidgetItem(list);
+            item->setSizeHint(0, {0, list->fontMetrics().height() + 8});
+        }
         const bool isRun = !activity.command.isEmpty();
         item->setText(0, activity.started.toString(u"HH:mm:ss"_s));
         item->setText(1, activity.outcome.isEmpty() ? tr("is running") : activity.outcome);
@@ -65,8 +68,18 @@ void Window_Activity_Log::refresh()
 void Window_Activity_Log::showOutput()
 {
     const QString text = m_ui->listRuns->selectedItems().isEmpty() ? QString() : selectedText();
-    if (text != m_ui->textOutput->toPlainText())
-        m_ui->textOutput->setPlainText(text);
+    if (text == m_shown)
+        return;
+    // Of a tool that is still at work there will be more: whoever reads keeps the place, and whoever is at the
+    // end follows.
+    const auto heading = [](const QString &runs) { return runs.section(u'\n', 0, 0); };
+    const bool sameRun = !m_shown.isEmpty() && heading(text) == heading(m_shown);
+    QScrollBar *const bar = m_ui->textOutput->verticalScrollBar();
+    const int place = bar->value() == bar->maximum() ? std::numeric_limits<int>::max() : bar->value();
+    m_ui->textOutput->setPlainText(text);
+    if (sameRun)
+        bar->setValue(qMin(place, bar->maximum()));
+    m_shown = text;
 }
 
 QString Window_Activity_Log::selectedText() const
@@ -104,6 +117,12 @@ void Window_Activity_Log::save()
     const QString failure = saveTo(path);
     if (!failure.isEmpty())
         Window_Alert({tr("The log could not be saved"), path + u'\n' + failure, {u"Close"_s}}, this).exec();
+}
+
+void Window_Activity_Log::showEvent(QShowEvent *event)
+{
+    refresh();
+    QWidget::showEvent(event);
 }
 
 void Window_Activity_Log::keyPressEvent(QKeyEvent *event)

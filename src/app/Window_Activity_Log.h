@@ -26,6 +26,7 @@ public:
     QString saveTo(const QString &path) const;
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
@@ -37,4 +38,5 @@ private:
     ActivityLog *const m_log;
     std::unique_ptr<Ui::Window_Activity_Log> m_ui;
     QTimer m_refresh;
+    QString m_shown; ///< of the selected runs, as of the last refresh
 };

@@ -47,11 +47,14 @@ qsizetype ActivityLog::begin(const QString &program, const QStringList &argument
 
 void ActivityLog::append(qsizetype position, const QByteArray &output)
 {
-    const QMutexLocker lock(&m_mutex);
-    Activity &activity = m_activities[position];
-    const qsizetype room = qMin(keptOutput - activity.output.size(), output.size());
-    activity.output.append(output.constData(), room);
-    activity.leftOut += output.size() - room;
+    {
+        const QMutexLocker lock(&m_mutex);
+        Activity &activity = m_activities[position];
+        const qsizetype room = qMin(keptOutput - activity.output.size(), output.size());
+        activity.output.append(output.constData(), room);
+        activity.leftOut += output.size() - room;
+    }
+    Q_EMIT changed();
 }
 
 void ActivityLog::end(qsizetype position, const QString &outcome, bool troubled)

@@ -115,7 +115,8 @@ void ToolRun::finish(const ToolEnd &end)
     take(StandardOutput);
     if (processChannelMode() == SeparateChannels)
         take(StandardError);
-    m_log->end(m_position, end.text(), end.troubled(m_expectedStatus));
+    const bool troubled = end.troubled(m_expectedStatus);
+    m_log->end(m_position, !troubled && end.code != 0 ? tr("%1, as expected").arg(end.text()) : end.text(), troubled);
     Q_EMIT ended(end);
 }
 

@@ -12,6 +12,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -27,6 +28,9 @@ private Q_SLOTS:
     void logOpensFrom();
     void logListsEveryRun();
     void logFollows();
+    void logFollowsOutput();
+    void logRowsHaveRoom();
+    void logKnowsWhatIsExpected();
     void logCopies();
     void logSaves();
     void logTellsWhyItCannotBeSaved();
@@ -142,6 +146,61 @@ void WindowsTest::logFollows()
     m_app->controller->IsDriveEmpty();
     QTRY_COMPARE(list->topLevelItemCount(), 2);
     QTRY_COMPARE(list->topLevelItem(1)->text(1), u"ended without an error"_s);
+}
+
+void WindowsTest::logFollowsOutput()
+{
+    ActivityLog &activities = *m_app->controller->activityLog;
+    const qsizetype run = activities.begin(u"tool"_s, {});
+    for (int line = 0; line < 200; ++line)
+        activities.append(run, "line\n");
+    auto *list = openLog()->findChild<QTreeWidget *>(u"listRuns"_s);
+    const auto *said = m_app->controller->windowActivityLog->findChild<QPlainTextEdit *>(u"textOutput"_s);
+    person::clickRow(list, list->model()->index(static_cast<int>(run), 0));
+    QScrollBar *bar = said->verticalScrollBar();
+    QCOMPARE(bar->value(), 0);
+    // Whoever reads keeps the place.
+    bar->setValue(7);
+    activities.append(run, "10 %\r20 %\r");
+    QTRY_VERIFY(said->toPlainText().contains(u"20 %"_s));
+    QCOMPARE(bar->value(), 7);
+    // Whoever is at the end follows.
+    bar->setValue(bar->maximum());
+    activities.append(run, "more\nof\nit\nand the last line");
+    QTRY_VERIFY(said->toPlainText().contains(u"the last line"_s));
+    QCOMPARE(bar->value(), bar->maximum());
+    QVERIFY(bar->value() > 190);
+    // Another run begins at its beginning.
+    person::clickRow(list, list->model()->index(0, 0));
+    person::clickRow(list, list->model()->index(static_cast<int>(run), 0));
+    QCOMPARE(bar->value(), 0);
+    // What happens while it is closed is there when it opens again.
+    m_app->controller->windowActivityLog->close();
+    activities.append(run, "meanwhile");
+    m_app->controller->IsDriveEmpty();
+    QTest::qWait(50);
+    openLog();
+    QVERIFY(said->toPlainText().contains(u"meanwhile"_s));
+    QCOMPARE(list->topLevelItemCount(), 3);
+}
+
+void WindowsTest::logRowsHaveRoom()
+{
+    const auto *list = openLog()->findChild<QTreeWidget *>(u"listRuns"_s);
+    QVERIFY(list->visualItemRect(list->topLevelItem(0)).height() >= list->fontMetrics().height() + 8);
+}
+
+void WindowsTest::logKnowsWhatIsExpected()
+{
+    m_app->ffmpeg.run("exit 1");
+    m_app->controller->GetMediaFileDuration(u"/song.mp3"_s);
+    m_app->ffmpeg.run("exit 2");
+    m_app->controller->GetMediaFileDuration(u"/song.mp3"_s);
+    const auto *list = openLog()->findChild<QTreeWidget *>(u"listRuns"_s);
+    QCOMPARE(list->topLevelItem(1)->text(1), u"ended with status 1, as expected"_s);
+    QVERIFY(!list->topLevelItem(1)->font(1).bold());
+    QCOMPARE(list->topLevelItem(2)->text(1), u"ended with status 2"_s);
+    QVERIFY(list->topLevelItem(2)->font(1).bold());
 }
 
 void WindowsTest::logCopies()

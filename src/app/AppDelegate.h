@@ -267,7 +267,8 @@ public:
     /// What a background run is watched for beside its end: `drutil` runs have their output logged.
     enum class Output { Observed, Ignored };
     void runInBackground(const QString &program, const QStringList &arguments, Observer atEnd, Output output);
-    void transcodeAndWait(const QStringList &arguments); ///< a nested run of the event loop
+    /// Converts `subject`, in a nested run of the event loop. `expectedStatus`: how the transcoder should end.
+    void transcodeAndWait(const QStringList &arguments, const QString &subject, int expectedStatus);
     void removeObservers(); ///< no handler of an earlier run can fire any more
     void outData(runner::ToolRun *tool);
     void errData(runner::ToolRun *tool);

@@ -17,10 +17,20 @@ QString shellWord(const QString &word)
     return u'\'' + quoted.replace(u'\'', u"'\\''"_s) + u'\'';
 }
 
-QString lastLine(const QByteArray &output)
+/// The last line that says something; the transcoder ends with how far it came and that it failed,
+/// after the reason.
+QString lastReason(const QByteArray &output)
 {
-    const QByteArray lines = output.trimmed();
-    return QString::fromUtf8(lines.mid(qMax(lines.lastIndexOf('\n'), lines.lastIndexOf('\r')) + 1)).left(300);
+    static const QRegularExpression summary(u"^(Conversion failed!|(size|frame)= *\\d.*|video:\\S+ audio:.*)$"_s);
+    constexpr qsizetype most = 300;
+    for (QByteArrayView rest = QByteArrayView(output).trimmed(); !rest.isEmpty();) {
+        const qsizetype start = qMax(rest.lastIndexOf('\n'), rest.lastIndexOf('\r')) + 1;
+        const QString line = QString::fromUtf8(rest.sliced(start)).trimmed();
+        if (!summary.match(line).hasMatch())
+            return line.left(most);
+        rest = rest.first(start).trimmed();
+    }
+    return {};
 }
 
 } // namespace
@@ -33,13 +43,13 @@ QString Activity::commandLine() const
     return words.join(u' ');
 }
 
-qsizetype ActivityLog::begin(const QString &program, const QStringList &arguments)
+qsizetype ActivityLog::begin(const QString &program, const QStringList &arguments, const QString &subject)
 {
     qsizetype position = 0;
     {
         const QMutexLocker lock(&m_mutex);
         position = m_activities.size();
-        m_activities.append({QDateTime::currentDateTime(), QStringList(program) + arguments, {}, false, {}, 0});
+        m_activities.append({QDateTime::currentDateTime(), QStringList(program) + arguments, subject, {}, false, {}, 0});
     }
     Q_EMIT changed();
     return position;
@@ -71,7 +81,7 @@ void ActivityLog::note(const QString &text, const QString &detail)
 {
     {
         const QMutexLocker lock(&m_mutex);
-        m_activities.append({QDateTime::currentDateTime(), {}, text, true, detail.toUtf8(), 0});
+        m_activities.append({QDateTime::currentDateTime(), {}, {}, text, true, detail.toUtf8(), 0});
     }
     Q_EMIT changed();
 }
@@ -95,12 +105,13 @@ QStringList ActivityLog::troublesSince(qsizetype position) const
     for (const Activity &activity : m_activities.mid(position)) {
         if (!activity.troubled)
             continue;
-        const QString said = lastLine(activity.output);
-        if (activity.command.isEmpty())
+        const QString said = lastReason(activity.output);
+        if (activity.command.isEmpty()) {
             troubles.append(activity.outcome + u": "_s + said);
-        else
-            troubles.append(QFileInfo(activity.command.first()).fileName() + u": "_s
-                            + (said.isEmpty() ? activity.outcome : said));
+            continue;
+        }
+        const QString what = activity.subject.isEmpty() ? QFileInfo(activity.command.first()).fileName() : activity.subject;
+        troubles.append(what + u": "_s + (said.isEmpty() ? activity.outcome : said));
     }
     return troubles;
 }

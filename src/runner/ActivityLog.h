@@ -12,6 +12,7 @@
 struct Activity {
     QDateTime started;
     QStringList command; ///< program and arguments; empty for a note
+    QString subject; ///< what the run works on, as a person knows it; empty: nothing but the tool is known
     QString outcome; ///< how it ended, in words; empty while it runs
     bool troubled = false; ///< it did not start, crashed, was ended, or ended with another status than 0
     QByteArray output; ///< standard output and standard error as they came
@@ -32,7 +33,7 @@ public:
     using QObject::QObject;
 
     /// Adds a run that has begun and answers its position in the log.
-    qsizetype begin(const QString &program, const QStringList &arguments);
+    qsizetype begin(const QString &program, const QStringList &arguments, const QString &subject = {});
     void append(qsizetype position, const QByteArray &output);
     void end(qsizetype position, const QString &outcome, bool troubled);
 
@@ -42,8 +43,8 @@ public:
     qsizetype size() const;
     Activity at(qsizetype position) const;
 
-    /// One line for each run from `position` on that did not end well: the tool, what it said last,
-    /// or how it ended.
+    /// One line for each run from `position` on that did not end well: its subject or the tool, and the
+    /// last reason that it gave, or how it ended.
     QStringList troublesSince(qsizetype position) const;
 
     /// The whole log, or one run, as text to copy or save.

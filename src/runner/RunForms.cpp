@@ -61,10 +61,12 @@ void AppDelegate::runInBackground(const QString &program, const QStringList &arg
     run->launch();
 }
 
-void AppDelegate::transcodeAndWait(const QStringList &arguments)
+void AppDelegate::transcodeAndWait(const QStringList &arguments, const QString &subject, int expectedStatus)
 {
     terminated = false;
     auto *run = new ToolRun(sffmpegPath, arguments, activityLog, this);
+    run->setSubject(subject);
+    run->setExpectedStatus(expectedStatus);
     run->launch();
     removeObservers();
     observed = run;

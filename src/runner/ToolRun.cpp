@@ -43,7 +43,7 @@ ToolRun::~ToolRun()
 
 void ToolRun::launch()
 {
-    m_position = m_log->begin(program(), arguments());
+    m_position = m_log->begin(program(), arguments(), m_subject);
     connect(this, &QProcess::finished, this, [this] { finish(endOfChild()); });
     connect(this, &QProcess::errorOccurred, this, [this](ProcessError error) {
         if (error == FailedToStart)
@@ -55,7 +55,7 @@ void ToolRun::launch()
 QByteArray ToolRun::capture(int limit)
 {
     constexpr qsizetype most = 64 * 1024 * 1024;
-    m_position = m_log->begin(program(), arguments());
+    m_position = m_log->begin(program(), arguments(), m_subject);
     setProcessChannelMode(MergedChannels);
     start(ReadOnly);
     QByteArray printed;

@@ -34,11 +34,15 @@ struct ToolEnd {
 class ToolRun : public QProcess {
     Q_OBJECT
 public:
-    ToolRun(const QString &program, const QStringList &arguments, ActivityLog *log, QObject *parent = nullptr);
+    ToolRun(
+        const QString &program, const QStringList &arguments, ActivityLog *log, QObject *parent = nullptr);
     ~ToolRun() override;
 
     /// The status with which this tool ends when all is well; 0 unless set.
     void setExpectedStatus(int status) { m_expectedStatus = status; }
+
+    /// What the run works on, as a person knows it; told in place of the tool's name when it fails.
+    void setSubject(const QString &subject) { m_subject = subject; }
 
     /// Starts the child. ended() follows exactly once, also when it cannot be started, and never
     /// before control is back in the event loop.
@@ -68,6 +72,7 @@ private:
     ActivityLog *m_log;
     qsizetype m_position = -1;
     ToolEnd m_end;
+    QString m_subject;
     int m_expectedStatus = 0;
     bool m_finished = false;
 };

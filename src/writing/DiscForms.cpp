@@ -4,6 +4,7 @@
 #include "runner/ActivityLog.h"
 #include "runner/StatusSheets.h"
 
+#include <QFileInfo>
 #include <QProgressBar>
 
 using namespace Qt::StringLiterals;
@@ -80,7 +81,15 @@ void AppDelegate::convertList(quint64 progressMode,
         i_Orig_Duration_in_Seconds = static_cast<quint64>(file.i_Duration_in_Seconds);
         windowProgress->showItem(file.s_File_Name_With_Extension, file.i_Duration_in_Seconds);
         u_Type_Progress = progressMode;
-        transcodeAndWait(argumentsFor(file));
+        const QStringList arguments = argumentsFor(file);
+        // Nothing is written over: of two files that are converted to one name the first one is kept.
+        const bool taken = QFile::exists(arguments.last());
+        transcodeAndWait(arguments, file.s_File_Name_With_Extension.simplified(), taken ? 1 : 0);
+        if (taken) {
+            activityLog->note(tr("“%1” was left out").arg(file.s_File_Path.simplified()),
+                              tr("another entry of the list is converted to “%1” too. Rename one of the files and try again.")
+                                  .arg(QFileInfo(arguments.last()).fileName().simplified()));
+        }
         windowProgress->progressOverall()->setValue(static_cast<int>(i + 1));
     }
     Close_Window_Progress();

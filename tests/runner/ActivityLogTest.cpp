@@ -21,6 +21,7 @@ private Q_SLOTS:
     void keepsSoMuchOutput();
     void tellsTroubles_data();
     void tellsTroubles();
+    void tellsTroublesByWhatWasWorkedOn();
     void tellsTroublesOfOneJob();
     void writesARunAsText_data();
     void writesARunAsText();
@@ -145,6 +146,14 @@ void ActivityLogTest::tellsTroubles_data()
     row("it said nothing", u"/usr/bin/drutil"_s, "", true, { u"drutil: how it ended"_s });
     row("it said only line ends", u"/usr/bin/drutil"_s, "\n\r\n", true, { u"drutil: how it ended"_s });
     row("a very long line", u"ffmpeg"_s, QByteArray(5000, 'x'), true, { u"ffmpeg: "_s + QString(300, u'x') });
+    row("a reason before how far it came and that it failed", u"ffmpeg"_s,
+        "Error writing trailer: No space left on device\nsize=      64kB time=00:00:02.97 bitrate= 176.0kbits/s\r"
+        "video:0kB audio:257kB subtitle:0kB\nConversion failed!\n", true,
+        { u"ffmpeg: Error writing trailer: No space left on device"_s });
+    row("nothing but how far it came", u"ffmpeg"_s, "frame=  10 fps=0.0\rConversion failed!\n", true,
+        { u"ffmpeg: how it ended"_s });
+    row("a word that only begins so", u"ffmpeg"_s, "size= of the disc is not known\n", true,
+        { u"ffmpeg: size= of the disc is not known"_s });
     row("not UTF-8", u"ffmpeg"_s, "caf\xe9", true, { u"ffmpeg: caf\ufffd"_s });
 }
 
@@ -158,6 +167,16 @@ void ActivityLogTest::tellsTroubles()
     log.append(run, output);
     log.end(run, u"how it ended"_s, troubled);
     QTEST(log.troublesSince(0), "troubles");
+}
+
+void ActivityLogTest::tellsTroublesByWhatWasWorkedOn()
+{
+    ActivityLog log;
+    const qsizetype run = log.begin(u"/usr/bin/ffmpeg"_s, { u"-i"_s, u"/m/song.mp3"_s }, u"song.mp3"_s);
+    log.append(run, "no music\n");
+    log.end(run, u"ended with status 1"_s, true);
+    QCOMPARE(log.troublesSince(0), QStringList(u"song.mp3: no music"_s));
+    QVERIFY(log.text().contains(u"/usr/bin/ffmpeg -i /m/song.mp3"_s));
 }
 
 void ActivityLogTest::tellsTroublesOfOneJob()
@@ -187,17 +206,17 @@ void ActivityLogTest::writesARunAsText_data()
     const QString time = u"2024-02-29 13:05:09  "_s;
     const QStringList command{ u"drutil"_s, u"burn"_s, u"My Disc"_s };
     const QString line = time + u"drutil burn 'My Disc'\n    "_s;
-    QTest::newRow("is running") << Activity{ started, command, {}, false, {}, 0 } << line + u"is running\n"_s;
-    QTest::newRow("ended") << Activity{ started, command, u"ended with status 3"_s, true, "no disc\n", 0 }
+    QTest::newRow("is running") << Activity{ started, command, {}, {}, false, {}, 0 } << line + u"is running\n"_s;
+    QTest::newRow("ended") << Activity{ started, command, {}, u"ended with status 3"_s, true, "no disc\n", 0 }
                            << line + u"ended with status 3\nno disc\n"_s;
     QTest::newRow("output without a line end")
-        << Activity{ started, command, u"ended"_s, false, "50 %", 0 } << line + u"ended\n50 %\n"_s;
-    QTest::newRow("output that was not kept") << Activity{ started, command, u"ended"_s, false, "x",
+        << Activity{ started, command, {}, u"ended"_s, false, "50 %", 0 } << line + u"ended\n50 %\n"_s;
+    QTest::newRow("output that was not kept") << Activity{ started, command, {}, u"ended"_s, false, "x",
         7 } << line + u"ended\nx\n(7 more bytes of output are not kept)\n"_s;
-    QTest::newRow("a note") << Activity{ started, {}, u"Not copied"_s, true, "/a: gone", 0 }
+    QTest::newRow("a note") << Activity{ started, {}, {}, u"Not copied"_s, true, "/a: gone", 0 }
                             << time + u"Not copied\n/a: gone\n"_s;
     QTest::newRow("output that is not UTF-8")
-        << Activity{ started, {}, u"Note"_s, true, "\xff\xc3", 0 } << time + u"Note\n\ufffd\ufffd\n"_s;
+        << Activity{ started, {}, {}, u"Note"_s, true, "\xff\xc3", 0 } << time + u"Note\n\ufffd\ufffd\n"_s;
 }
 
 void ActivityLogTest::writesARunAsText()

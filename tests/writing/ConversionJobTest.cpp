@@ -174,6 +174,7 @@ private Q_SLOTS:
     void twoFilesOfOneNameAreConvertedToOneName()
     {
         JobApplication app;
+        app.convertWith("[ -e \"$output\" ] && { echo 'already exists' >&2; exit 1; }; echo converted > \"$output\"\n");
         const QStringList files{app.file(u"x/song.wav"_s), app.file(u"y/song.mp3"_s)};
         ready(app, kinds[0], files);
         app.press("btnBurn");
@@ -182,6 +183,19 @@ private Q_SLOTS:
         const QList<QStringList> expected{conversion(1, files.at(0), output), conversion(1, files.at(1), output)};
         QCOMPARE(conversions(app), expected);
         QCOMPARE(app.burned(), QStringList(u"song.wav"_s));
+        QCOMPARE(app.trouble(), u"“%1” was left out: another entry of the list is converted to “song.wav” too. "
+                                 "Rename one of the files and try again."_s.arg(files.at(1)));
+    }
+
+    void ofTwoFilesOfOneNameTheOneThatCanBeConvertedIsWritten()
+    {
+        JobApplication app;
+        app.convertWith("case \"$2\" in */x/*) echo 'no music' >&2; exit 1;; esac\necho converted > \"$output\"\n");
+        ready(app, kinds[0], {app.file(u"x/song.wav"_s), app.file(u"y/song.mp3"_s)});
+        app.press("btnBurn");
+        QVERIFY(app.completes());
+        QCOMPARE(app.burned(), QStringList(u"song.wav"_s));
+        QCOMPARE(app.trouble(), u"song.wav: no music"_s);
     }
 
     void aNameThatFillsTheFileSystemsLimitKeepsWithinIt_data()

@@ -64,9 +64,8 @@ AppDelegate::AppDelegate(MainWindow *mainWindow, Surroundings surroundings)
 AppDelegate::~AppDelegate()
 {
     // Files being measured and folders being copied report back to this object.
-    for (const auto &copy : std::as_const(stagingCopies))
-        copy->stop = true;
     QThreadPool::globalInstance()->waitForDone();
+    endStagingCopies();
     // The window may live on; its tables must not ask this object for their rows then.
     for (ListTableView *table : {ui->tableviewAudioFiles, ui->tableviewVideoFiles, ui->tableviewDataFolders})
         table->setModel(nullptr);

@@ -52,6 +52,7 @@ struct Surroundings {
     QString resources; ///< the folder of the application's own resources
     int probeLimit = 60'000; ///< ms after which a probe that gives no answer is ended
     int stagingPoll = 60'000; ///< ms between two measurements of a folder that is being copied
+    int copyEndLimit = 10'000; ///< ms that a folder copy has to stop when the disc is written
     Questions *questions = nullptr; ///< answers alerts and panels; not owned
     std::function<void(int)> exitProcess; ///< ends the process at once with this status
 
@@ -85,7 +86,7 @@ public:
     qint64 i_Data_Total_Size_in_KBytes = 0;
     bool m_b_Col1_Ascenging = true, m_b_Col2_Ascenging = false, m_b_Col3_Ascenging = false, m_b_Col4_Ascenging = false;
 
-    QList<std::shared_ptr<writing::CopyState>> stagingCopies; ///< folder copies of the present data disc
+    QList<std::shared_ptr<writing::CopyState>> stagingCopies; ///< folder copies that may still run
 
     // ---- State: drive, formats, debug
     QString s_Current_Drive_Number;
@@ -317,6 +318,7 @@ public:
     void TimerBurnDataFolder();
     void Show_Window_Data_Copy_Folders();
     void Close_Window_Data_Copy_Folders();
+    bool endStagingCopies(); ///< stops folder copies that still run and waits; false: one does not stop. Any thread
     void Show_Window_Video_Settings();
     void Close_Window_Video_Settings();
     void DuplicateMedia();

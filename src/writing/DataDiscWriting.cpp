@@ -5,6 +5,11 @@
 #include "writing/FolderStaging.h"
 #include "writing/Window_Data_Copy_Folders.h"
 
+#include <QDeadlineTimer>
+#include <QThreadPool>
+
+#include <chrono>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -58,7 +63,7 @@ void AppDelegate::Close_Window_Data_Copy_Folders()
 void AppDelegate::TimerBurnDataFolder()
 {
     for (const auto &copy : std::as_const(stagingCopies)) {
-        if (!copy->ended)
+        if (!copy->ended && !copy->stop)
             activityLog->note(tr("The disc is written before the copying of a folder has ended"), s_Data_Folder);
     }
     runInBackground(around.drutil, {u"burn"_s, s_Data_Folder, u"-drive"_s, s_Current_Drive_Number},
@@ -69,8 +74,23 @@ void AppDelegate::TimerBurnDataFolder()
 
 void AppDelegate::dataBurnTerminated()
 {
+    // Behind the working sheet: what still copies would fill the folder again after it was emptied, and
+    // emptying it of very many files takes seconds.
+    QThreadPool::globalInstance()->start([this] {
+        if (!endStagingCopies())
+            activityLog->note(tr("The copying of a folder does not end"), s_Data_Folder);
+        RemoveAllContentInFolder(s_Data_Folder);
+        QMetaObject::invokeMethod(this, &AppDelegate::taskTerminated, Qt::QueuedConnection);
+    });
+}
+
+bool AppDelegate::endStagingCopies()
+{
     for (const auto &copy : std::as_const(stagingCopies))
         copy->stop = true;
-    stagingCopies.clear();
-    finishWriting(s_Data_Folder);
+    const QDeadlineTimer deadline(around.copyEndLimit);
+    stagingCopies.removeIf([&deadline](const auto &copy) {
+        return copy->waitForEnd(std::chrono::milliseconds(deadline.remainingTime()));
+    });
+    return stagingCopies.isEmpty();
 }

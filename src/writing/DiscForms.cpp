@@ -36,16 +36,21 @@ QStringList mpegArguments(const QString &source, const QString &output, const QS
             output};
 }
 
-QString convertedPath(const QString &folder, const QString &source, QLatin1StringView extension)
+QString suffixedName(QString name, const QString &suffix)
 {
     constexpr qsizetype longestName = 255;
+    while (!name.isEmpty() && name.toUtf8().size() + suffix.toUtf8().size() > longestName)
+        name.chop(name.back().isLowSurrogate() ? 2 : 1);
+    return name + suffix;
+}
+
+QString convertedPath(const QString &folder, const QString &source, QLatin1StringView extension)
+{
     QString base = source.mid(source.lastIndexOf(u'/') + 1);
     const QString oldExtension = compilation::pathExtension(base);
     if (!oldExtension.isEmpty())
         base.chop(oldExtension.size() + 1);
-    while (base.toUtf8().size() + 1 + extension.size() > longestName)
-        base.chop(base.back().isLowSurrogate() ? 2 : 1);
-    return u"%1/%2.%3"_s.arg(folder, base, extension);
+    return u"%1/%2"_s.arg(folder, suffixedName(base, u'.' + extension));
 }
 
 } // namespace writing

@@ -7,6 +7,7 @@
 #include <climits>
 #include <cstring>
 #include <map>
+#include <thread>
 #include <vector>
 
 #include <fcntl.h>
@@ -59,6 +60,8 @@ public:
             return fail({}, errno), false;
         if (std::pair(info.st_dev, info.st_ino) == m_never)
             return fail({}, "is the folder in which the disc is gathered, and is left out"), false;
+        if (m_state.stop)
+            return false;
         if ((::mkdirat(m_to.fd(), name.c_str(), S_IRWXU) != 0 && errno != EEXIST) || !m_to.enter(name))
             return fail({}, errno), false;
         m_folders.push_back(info);
@@ -130,6 +133,8 @@ private:
     {
         std::array<char, PATH_MAX> target{};
         const ssize_t length = ::readlinkat(at.fd(), name.c_str(), target.data(), target.size() - 1);
+        if (m_state.stop)
+            return;
         if (length < 0 || ::symlinkat(target.data(), m_to.fd(), name.c_str()) != 0)
             return fail('/' + name, errno);
         const timespec times[] = {info.st_atim, info.st_mtim};
@@ -143,6 +148,9 @@ private:
         struct stat info;
         if (from < 0 || ::fstat(from, &info) != 0)
             return fail('/' + name, errno);
+        // A source on a server may answer late, when the folder of the copy has already been emptied.
+        if (m_state.stop)
+            return;
         const Descriptor to(::openat(m_to.fd(), name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
                                      S_IRUSR | S_IWUSR));
         if (to < 0)
@@ -184,11 +192,13 @@ private:
     /// Copies from `start` to `end`. A file that ends before its `size` is as long as its content.
     bool copyRange(int from, int to, off_t start, off_t end, off_t &size)
     {
+        // One call may move 2 GiB, and nothing ends it before.
+        constexpr off_t mostAtOnce = 64 << 20;
         off_t in = start;
         off_t out = start;
         while (in < end && !m_state.stop) {
             const ssize_t moved = m_canOffload
-                ? ::copy_file_range(from, &in, to, &out, static_cast<std::size_t>(end - in), 0)
+                ? ::copy_file_range(from, &in, to, &out, static_cast<std::size_t>(std::min(end - in, mostAtOnce)), 0)
                 : copyBuffer(from, to, in, out, end);
             if (moved > 0)
                 continue;
@@ -244,6 +254,14 @@ private:
 };
 
 } // namespace
+
+bool CopyState::waitForEnd(std::chrono::milliseconds limit) const
+{
+    const auto deadline = std::chrono::steady_clock::now() + limit;
+    while (!ended && std::chrono::steady_clock::now() < deadline)
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    return ended;
+}
 
 void copyFolder(const std::string &source, const std::string &destination, const std::string &never, CopyState &state,
                 const std::function<void(const std::string &)> &failed)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
@@ -10,8 +11,11 @@ namespace writing {
 
 /// What a copy has come to. Shared between the copying thread and whoever waits for it.
 struct CopyState {
-    std::atomic<bool> stop = false; ///< set it, and the copy ends; the file at hand is left out
+    std::atomic<bool> stop = false; ///< set it, and the copy ends; the file at hand is left out, and nothing new is made
     std::atomic<bool> ended = false;
+
+    /// Blocks until the copy has ended, at most `limit`. False: it still runs.
+    bool waitForEnd(std::chrono::milliseconds limit) const;
 };
 
 /// Copies the folder `source`, or the folder to which the link `source` leads, with all it holds into

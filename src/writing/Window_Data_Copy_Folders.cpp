@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "runner/ActivityLog.h"
 #include "ui_Window_Data_Copy_Folders.h"
+#include "writing/DiscForms.h"
 #include "writing/FolderStaging.h"
 
 #include <QDir>
@@ -39,11 +40,10 @@ quint64 Window_Data_Copy_Folders::folderSize(const QString &path)
 QString Window_Data_Copy_Folders::copyDestination(const QString &dataFolder, const QString &name)
 {
     const auto taken = [](const QString &path) { return QFileInfo::exists(path) || QFileInfo(path).isSymLink(); };
-    const QString target = u"%1/%2"_s.arg(dataFolder, name);
-    if (!taken(target))
+    if (!taken(u"%1/%2"_s.arg(dataFolder, name)))
         return dataFolder;
     for (qint64 n = 1;; ++n) {
-        const QString numbered = u"%1 %2"_s.arg(target, QString::number(n));
+        const QString numbered = u"%1/%2"_s.arg(dataFolder, writing::suffixedName(name, u" %1"_s.arg(n)));
         if (!taken(numbered))
             return numbered;
     }

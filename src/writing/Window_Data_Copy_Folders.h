@@ -29,7 +29,7 @@ public:
     /// Bytes below a folder, as the data list measures it. Any thread.
     static quint64 folderSize(const QString &path);
     /// Where the folder `name` is copied to when `dataFolder` may hold one of that name already: the
-    /// data folder itself, else the first free "NAME n" in it.
+    /// data folder itself, else the first free "NAME n" in it, with NAME cut where that is too long for a file system.
     static QString copyDestination(const QString &dataFolder, const QString &name);
 
 Q_SIGNALS:

@@ -116,6 +116,29 @@ private Q_SLOTS:
         QCOMPARE(contents(root), contents(source));
     }
 
+    void theJolietNamesAreThoseOfTheFiles()
+    {
+        WholeMachine machine;
+        const QString source = machine.mediaPath(u"Tree – 木"_s);
+        const QStringList names{u"plain.txt"_s,      u"O'Brien \"x\""_s,    u"-drive"_s, u"  blanks  "_s,
+                                u"$(x) `y` []|<>"_s, u"100%1 %s"_s,         u".hidden"_s, u"Case"_s,
+                                u"case"_s,           QString(100, u'x'),   u"😀😀 name"_s,
+                                u"日本語 한국어 עברית العربية ไทย Ελλάδα Россия"_s};
+        for (const QString &name : names) {
+            makeFile(source + u"/files/"_s + name, name.toUtf8());
+            makeFile(source + u"/folders/"_s + name + u"/inside"_s, name.toUtf8());
+            QDir().mkpath(source + u"/empty folders/"_s + name);
+        }
+        machine.choose(6);
+        QVERIFY(machine.addFolder(source));
+        machine.press("btnBurn");
+        QVERIFY(machine.completes());
+        QCOMPARE(machine.trouble(), QString());
+        const QString root = reader::extractedBy7z(machine.recorder.iso(), machine.media.path());
+        const QByteArray difference = reader::difference(source, root + u'/' + QFileInfo(source).fileName());
+        QVERIFY2(difference.isEmpty(), difference.constData());
+    }
+
     void severalFoldersMakeOneDisc()
     {
         WholeMachine machine;

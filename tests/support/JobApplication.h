@@ -112,6 +112,7 @@ public:
     JobApplication()
     {
         around.questions = &asked;
+        around.stagingPoll = 250; // on a machine at work a copy may have to wait that long before it begins
         insert(discs::blankCD);
         convertWith("echo converted > \"$output\"\n");
         burnWith("");

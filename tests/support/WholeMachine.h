@@ -93,7 +93,7 @@ public:
     WholeMachine()
     {
         useRealTools();
-        around.stagingPoll = 300;
+        around.stagingPoll = 1000;
         launchWithDialogs();
     }
 

@@ -1,6 +1,9 @@
 // Data discs from the window: how folders are gathered, when they count as copied, and what runs.
 #include "support/JobApplication.h"
 #include "ui/Spinner.h"
+#include "writing/FolderStaging.h"
+
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -141,18 +144,28 @@ private Q_SLOTS:
         QCOMPARE(app.trouble(), QString());
     }
 
-    void aFolderWhoseNumberDoesNotFitIntoANameIsNotLost()
+    void aFolderWhoseNumberDoesNotFitIntoANameIsNumberedAllTheSame_data()
     {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("cut");
+        QTest::newRow("letters") << QString(255, u'x') << QString(253, u'x');
+        QTest::newRow("characters of four bytes") << u"xxx"_s + u"😀"_s.repeated(63) << u"xxx"_s + u"😀"_s.repeated(62);
+    }
+    void aFolderWhoseNumberDoesNotFitIntoANameIsNumberedAllTheSame()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, cut);
         JobApplication app;
-        const QString name(255, u'x');
-        app.file(u"a/"_s + name + u"/first"_s);
-        app.file(u"b/"_s + name + u"/second"_s);
-        ready(app, {u"a/"_s + name, u"b/"_s + name});
+        for (const char *folder : {"a/", "b/", "c/"})
+            app.file(QLatin1StringView(folder) + name + u"/file"_s);
+        ready(app, {u"a/"_s + name, u"b/"_s + name, u"c/"_s + name});
         app.press("btnBurn");
         QVERIFY(app.completes());
-        QVERIFY(app.burned().contains(name + u"/first"_s));
-        const bool written = !app.burned().filter(u"/second"_s).isEmpty();
-        QVERIFY2(written || !app.trouble().isEmpty(), "the second folder is neither on the disc nor told");
+        QStringList tree{name, name + u"/file"_s};
+        for (const QString &numbered : {cut + u" 1"_s, cut + u" 2"_s})
+            tree += {numbered, numbered + u'/' + name, numbered + u'/' + name + u"/file"_s};
+        QCOMPARE(app.burned(), sorted(tree));
+        QCOMPARE(app.trouble(), QString());
     }
 
     void aFolderThatIsThereAtOnceStillTakesOneInterval()
@@ -185,7 +198,7 @@ private Q_SLOTS:
     void aFolderThatGrowsIsWaitedForUntilItHasItsSize()
     {
         JobApplication app;
-        app.around.stagingPoll = 100;
+        app.around.stagingPoll = 400;
         app.burnWith("du -sb \"$folder/slow\" | cut -f1 > \"$0.size\"\n");
         app.file(u"slow/first"_s, QByteArray(1024, 'x'));
         ready(app, {u"slow"_s});
@@ -214,6 +227,63 @@ private Q_SLOTS:
         app.press("btnBurn");
         QVERIFY(app.completes());
         QVERIFY(app.burned().contains(u"photos/beach.jpg"_s));
+    }
+
+    void aCopyThatStillRunsIsStoppedBeforeTheWorkingFolderIsEmptied()
+    {
+        JobApplication app;
+        app.file(u"photos/beach.jpg"_s);
+        ready(app, {u"photos"_s});
+        auto slow = std::make_shared<writing::CopyState>();
+        app.controller->stagingCopies.append(slow);
+        std::thread copying([slow, late = app.controller->s_Data_Folder + u"/late"_s] {
+            while (!slow->stop)
+                std::this_thread::sleep_for(std::chrono::milliseconds(5));
+            std::this_thread::sleep_for(std::chrono::milliseconds(300));
+            makeFile(late, "late");
+            slow->ended = true;
+        });
+        int ticks = 0;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] { ticks += slow->stop && app.controller->windowPerformingOperation; });
+        timer.start(10);
+        app.press("btnBurn");
+        const bool completed = app.completes();
+        slow->stop = true;
+        copying.join();
+        QVERIFY(completed);
+        QVERIFY2(ticks >= 5, "the window stood still, or was without its sheet, while the copy was waited for");
+        QCOMPARE(app.namesIn(app.controller->s_Data_Folder), QStringList());
+        QCOMPARE(app.sheets.order(), sheetsOfAJob);
+        QVERIFY2(app.trouble().contains(u"before the copying of a folder has ended"_s), qUtf8Printable(app.trouble()));
+        QCOMPARE(app.controller->stagingCopies.size(), 0);
+    }
+
+    void aLargeFolderThatIsStillCopiedLeavesNothingBehind()
+    {
+        JobApplication app;
+        app.around.stagingPoll = 1;
+        for (int i = 0; i < 5000; ++i)
+            app.file(u"photos/%1/%2"_s.arg(i / 100).arg(i), "sand");
+        ready(app, {u"photos"_s});
+        app.press("btnBurn");
+        QVERIFY(app.completes());
+        QCOMPARE(app.controller->stagingCopies.size(), 0);
+        QCOMPARE(app.namesIn(app.controller->s_Data_Folder), QStringList());
+    }
+
+    void aCopyThatDoesNotEndIsNotWaitedForWithoutEnd()
+    {
+        JobApplication app;
+        app.around.copyEndLimit = 50;
+        app.file(u"photos/beach.jpg"_s);
+        ready(app, {u"photos"_s});
+        app.controller->stagingCopies.append(std::make_shared<writing::CopyState>());
+        app.press("btnBurn");
+        QVERIFY(app.completes());
+        QVERIFY2(app.trouble().contains(u"does not end"_s), qUtf8Printable(app.trouble()));
+        QVERIFY(app.controller->stagingCopies.first()->stop);
+        QCOMPARE(app.namesIn(app.controller->s_Data_Folder), QStringList());
     }
 
     void aFolderThatHasVanishedIsToldAndTheOthersAreWritten()

@@ -609,7 +609,7 @@ void FolderStagingTest::stopsBeforeItHasBegun()
     state.stop = true;
     writing::copyFolder(scratch / "source", scratch / "disc", "/nowhere", state, [](const std::string &) {});
     QVERIFY(state.ended);
-    QVERIFY(!exists(scratch / "disc/source/file"));
+    QVERIFY(!exists(scratch / "disc/source"));
 }
 
 void FolderStagingTest::stopsBetweenFiles()

@@ -5,12 +5,18 @@
 #include "compilation/FolderNames.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
-QString Questions::unreadableNames()
+QString Questions::unusableFiles()
 {
     return QFileDialog::tr("Some files cannot be used");
+}
+
+QString Questions::otherKindText(const QStringList &extensions)
+{
+    return QFileDialog::tr("Only files with these extensions can: .%1").arg(extensions.join(u", ."_s));
 }
 
 QString Questions::unreadableNamesText()
@@ -33,8 +39,18 @@ QList<QUrl> WindowQuestions::choose(const OpenPanel &panel, QWidget *over)
     if (dialog.exec() != QDialog::Accepted)
         return {};
     m_lastFolder = dialog.directory().absolutePath();
-    QList<QUrl> chosen = dialog.chosen();
+    return usable(dialog.chosen(), panel.extensions, over);
+}
+
+QList<QUrl> WindowQuestions::usable(QList<QUrl> chosen, const QStringList &extensions, QWidget *over)
+{
     if (chosen.removeIf([](const QUrl &url) { return !compilation::isReadable(url); }) > 0)
-        ask({ unreadableNames(), unreadableNamesText(), { u"Close"_s } }, over);
+        ask({unusableFiles(), unreadableNamesText(), {u"Close"_s}}, over);
+    // A name that is typed passes the dialog's filter by.
+    const auto isOfOtherKind = [&extensions](const QUrl &url) {
+        return !extensions.isEmpty() && !extensions.contains(QFileInfo(url.fileName()).suffix(), Qt::CaseInsensitive);
+    };
+    if (chosen.removeIf(isOfOtherKind) > 0)
+        ask({unusableFiles(), otherKindText(extensions), {u"Close"_s}}, over);
     return chosen;
 }

@@ -36,12 +36,14 @@ public:
     /// without a button counts as the last one.
     virtual int ask(const Alert &alert, QWidget *over) = 0;
 
-    /// The chosen files or folder; none when the person did not confirm. All have names that are text.
+    /// The chosen files or folder; none when the person did not confirm. All have names that are text, and
+    /// one of the accepted extensions.
     virtual QList<QUrl> choose(const OpenPanel &panel, QWidget *over) = 0;
 
-    /// The two texts of the alert for files whose names are not text.
-    static QString unreadableNames();
+    /// The texts of the alerts for files whose names are not text, and for files of another kind.
+    static QString unusableFiles();
     static QString unreadableNamesText();
+    static QString otherKindText(const QStringList &extensions);
 };
 
 /// Alerts and panels as windows.
@@ -51,5 +53,8 @@ public:
     QList<QUrl> choose(const OpenPanel &panel, QWidget *over) override;
 
 private:
+    /// Leaves out what cannot be used, and tells of it.
+    QList<QUrl> usable(QList<QUrl> chosen, const QStringList &extensions, QWidget *over);
+
     QString m_lastFolder;
 };

@@ -3,8 +3,11 @@
 #include "ui/SymbolIcon.h"
 #include "ui_Window_Alert.h"
 
+#include <QClipboard>
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <QPushButton>
+#include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
@@ -52,14 +55,30 @@ void Window_Alert::showTexts(const Alert &alert)
     m_ui->labelInformative->setMinimumWidth(textWidth);
     m_ui->labelInformative->setVisible(!informativeInReport && !alert.informative.isEmpty());
     m_ui->textReport->setVisible(report);
-    if (!report)
-        return;
+    if (report)
+        showReport(longMessage ? alert.message : alert.informative, alert.fixedWidth);
+    m_ui->textReport->setAccessibleName(longMessage ? tr("Report") : alert.message);
+}
+
+void Window_Alert::showReport(const QString &text, bool columns)
+{
     QPlainTextEdit *const field = m_ui->textReport;
     field->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    field->setLineWrapMode(columns ? QPlainTextEdit::NoWrap : QPlainTextEdit::WidgetWidth);
     field->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    field->setPlainText(longMessage ? alert.message : alert.informative);
-    field->setAccessibleName(longMessage ? tr("Report") : alert.message);
-    field->setMinimumSize(field->fontMetrics().averageCharWidth() * 80, field->fontMetrics().lineSpacing() * 12);
+    field->setPlainText(text);
+    // As high as its text, within reason; the rest scrolls.
+    const int lines = static_cast<int>(qBound(qsizetype{5}, text.count(u'\n') + 2, qsizetype{14}));
+    field->setMinimumSize(field->fontMetrics().averageCharWidth() * 80, field->fontMetrics().lineSpacing() * lines);
+    field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    // Where nothing is selected, the whole report is what one wants to paste into a letter.
+    auto *copy = new QShortcut(QKeySequence::Copy, this);
+    connect(copy, &QShortcut::activated, field, [field, text] {
+        if (field->textCursor().hasSelection())
+            field->copy();
+        else
+            QGuiApplication::clipboard()->setText(text);
+    });
 }
 
 void Window_Alert::addButtons(const QStringList &titles)

@@ -23,6 +23,7 @@ public:
 
 private:
     void showTexts(const Alert &alert);
+    void showReport(const QString &text, bool columns);
     void addButtons(const QStringList &titles);
 
     std::unique_ptr<Ui::Window_Alert> m_ui;

@@ -202,7 +202,7 @@ void AppDelegate::addDroppedFiles(const QList<QUrl> &urls)
         alert(tr("Not everything can go on this list"), rule + u"\n\n"_s + namesOf(refused));
     }
     if (!unreadable.isEmpty())
-        alert(Questions::unreadableNames(), Questions::unreadableNamesText() + u"\n\n"_s + namesOf(unreadable));
+        alert(Questions::unusableFiles(), Questions::unreadableNamesText() + u"\n\n"_s + namesOf(unreadable));
     if (tab != 2)
         return addMediaFiles(kind, taken);
     for (const QUrl &url : std::as_const(taken))

@@ -3,8 +3,10 @@
 #include "support/JobApplication.h"
 #include "support/Person.h"
 
+#include <QClipboard>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 
 using namespace Qt::StringLiterals;
 
@@ -210,6 +212,9 @@ private Q_SLOTS:
             QCOMPARE(metrics.horizontalAdvance(u"iiii"_s), metrics.horizontalAdvance(u"MMMM"_s));
             QVERIFY(field->textInteractionFlags() & Qt::TextSelectableByMouse);
             QVERIFY(field->textInteractionFlags() & Qt::TextSelectableByKeyboard);
+            QCOMPARE(field->verticalScrollBar()->maximum(), 0);
+            QCOMPARE(field->horizontalScrollBar()->maximum(), 0);
+            QVERIFY(field->height() < metrics.lineSpacing() * 8); // two lines need no empty page
             const auto buttons = alert->findChildren<QPushButton *>();
             QCOMPARE(buttons.size(), 1);
             QCOMPARE(buttons.first()->text(), u"OK"_s);
@@ -217,6 +222,38 @@ private Q_SLOTS:
         });
         app.press("toolbar_btn_Tools_Disc_Info");
         QVERIFY(information.happened());
+    }
+
+    void theReportIsCopied_data()
+    {
+        QTest::addColumn<bool>("marked");
+        QTest::newRow("a part that is marked") << true;
+        QTest::newRow("all of it") << false;
+    }
+    void theReportIsCopied()
+    {
+        QFETCH(bool, marked);
+        JobApplication app;
+        WindowQuestions windows;
+        app.around.questions = &windows;
+        ready(app, discs::blankCD);
+        QGuiApplication::clipboard()->clear();
+        person::Expect<Window_Alert> information([marked](Window_Alert *alert) {
+            auto *field = alert->findChild<QPlainTextEdit *>();
+            if (marked) {
+                QTextCursor line(field->document());
+                line.select(QTextCursor::LineUnderCursor);
+                field->setFocus();
+                field->setTextCursor(line);
+            }
+            QVERIFY(person::awaitKeyboard(alert));
+            QTest::keySequence(alert->windowHandle(), QKeySequence::Copy);
+            QTest::keyClick(alert, Qt::Key_Escape);
+        });
+        app.press("toolbar_btn_Tools_Disc_Info");
+        QVERIFY(information.happened());
+        const QByteArray expected = marked ? discs::blankCD.left(discs::blankCD.indexOf('\n')) : discs::blankCD;
+        QCOMPARE(QGuiApplication::clipboard()->text(), QString::fromUtf8(expected));
     }
 
     void everyToolSpeaksToTheChosenDrive()

@@ -6,6 +6,8 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <exception>
+#include <fcntl.h>
 
 namespace engine::program {
 
@@ -67,6 +69,25 @@ int end(const Program &program, const Result<void> &done, const char *usage)
     return static_cast<int>(done.error().exit);
 }
 
+Result<void> runVerb(const Verb &verb, const Arguments &arguments)
+{
+    try {
+        return verb.run(arguments);
+    } catch (const std::exception &failure) {
+        // The system has no memory or no thread left.
+        return Error{ Exit::failed, std::string("The work cannot go on: ") + failure.what() + "." };
+    }
+}
+
+/// Fills the places of standard input, output and error where they are closed: a disc or an image that got
+/// the number of one would take in what is printed.
+void keepStandardFiles()
+{
+    for (int fd = 0; fd <= 2; ++fd)
+        if (::fcntl(fd, F_GETFD) == -1 && ::open("/dev/null", O_RDWR) < 0)
+            return;
+}
+
 } // namespace
 
 std::string Arguments::valueOf(std::string_view option) const
@@ -77,6 +98,7 @@ std::string Arguments::valueOf(std::string_view option) const
 
 int run(const Program &program, Words words)
 {
+    keepStandardFiles();
     // Whoever reads our output may go away at any time; that is no reason to break off a write.
     std::signal(SIGPIPE, SIG_IGN);
     if (words.empty())
@@ -92,7 +114,7 @@ int run(const Program &program, Words words)
     if (verb == program.verbs.end())
         return end(program, usageError("There is no such verb: " + quoted(first) + "."), program.usage);
     const Result<Arguments> arguments = parse(*verb, words.subspan(1));
-    return end(program, arguments ? verb->run(*arguments) : arguments.error(), verb->usage);
+    return end(program, arguments ? runVerb(*verb, *arguments) : arguments.error(), verb->usage);
 }
 
 Error usageError(std::string message)

@@ -182,6 +182,17 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(disc()).size() > 300LL * 1000 * 1000);
     }
 
+    void closedOutputsDoNotEndUpOnTheDisc()
+    {
+        QVERIFY(QFile::resize(source() + u"/large"_s, 300LL * 1000 * 1000));
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        const Ran ran = runProgram(u"/bin/sh"_s,
+            { u"-c"_s, u"\"$0\" burn \"$1\" <&- >&- 2>&-"_s, Drutil::program(), source() },
+            m_drutil->environment());
+        QCOMPARE(ran.exit, 0);
+        QVERIFY(m_drutil->state().contains("state=written"));
+    }
+
     void aFileThatShrinksIsNamed()
     {
         QVERIFY(m_drutil->insert(u"dvd-r"_s));

@@ -314,6 +314,21 @@ private Q_SLOTS:
         QVERIFY(extractRockRidge(scratch.path("i.iso"), scratch.path("out")));
     }
 
+    void closedOutputsDoNotEndUpInTheImage()
+    {
+        Scratch scratch;
+        QVERIFY(makePlainTree(scratch.path("t")));
+        const Ran ran = runProgram(u"sh"_s,
+            { u"-c"_s, u"\"$0\" makehybrid -o \"$1\" \"$2\" -iso -joliet >&- 2>&-"_s, program(),
+                text(scratch.path("i.iso")), text(scratch.path("t")) });
+        QCOMPARE(ran.exit, 0);
+        QVERIFY(extractJoliet(scratch.path("i.iso"), scratch.path("out")));
+        QCOMPARE(difference(list(scratch.path("t")), list(scratch.path("out"))), QByteArray());
+        const std::string image = contentOf(scratch.path("i.iso"));
+        QCOMPARE(image.size() % 2048, std::size_t{ 0 });
+        QCOMPARE(image.find("Writing: "), std::string::npos);
+    }
+
     void namesWithDashesAndOddBytes()
     {
         Scratch scratch;

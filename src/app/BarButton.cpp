@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QTextLayout>
 
 namespace {
 
@@ -142,31 +143,56 @@ void BarButton::paintSymbolOverText(QPainter &painter, const QColor &text) const
 {
     const int top = (height() - (toolIcon + 4 + fontMetrics().height())) / 2;
     paintSymbol(painter, {(width() - toolIcon) / 2, top, toolIcon, toolIcon}, text);
-    painter.drawText(QRect(0, top + toolIcon + 4, width(), fontMetrics().height()), Qt::AlignCenter, this->text());
+    painter.drawText(QRect(0, top + toolIcon + 4, width(), fontMetrics().height()), Qt::AlignCenter,
+                     fontMetrics().elidedText(this->text(), Qt::ElideRight, width() - 4));
 }
 
 void BarButton::paintSymbolBesideText(QPainter &painter, const QColor &text) const
 {
-    const int textWidth = painter.fontMetrics().horizontalAdvance(this->text());
     const int iconWidth = m_symbol.isEmpty() ? 0 : toolIcon + 10;
+    const QString shown = painter.fontMetrics().elidedText(this->text(), Qt::ElideRight, width() - iconWidth - 16);
+    const int textWidth = painter.fontMetrics().horizontalAdvance(shown);
     const int left = (width() - iconWidth - textWidth) / 2;
     paintSymbol(painter, {left, (height() - toolIcon) / 2, toolIcon, toolIcon}, text);
-    painter.drawText(QRect(left + iconWidth, 0, textWidth + 1, height()), Qt::AlignVCenter | Qt::AlignLeft, this->text());
+    painter.drawText(QRect(left + iconWidth, 0, textWidth + 1, height()), Qt::AlignVCenter | Qt::AlignLeft, shown);
+}
+
+QStringList BarButton::descriptionLines(int width, int most) const
+{
+    QStringList lines;
+    QTextLayout layout(m_description, font());
+    layout.beginLayout();
+    while (lines.size() < most) {
+        QTextLine line = layout.createLine();
+        if (!line.isValid())
+            break;
+        line.setLineWidth(width);
+        const bool isLast = lines.size() + 1 == most;
+        lines.append(isLast ? fontMetrics().elidedText(m_description.mid(line.textStart()), Qt::ElideRight, width)
+                            : m_description.mid(line.textStart(), line.textLength()));
+    }
+    layout.endLayout();
+    return lines;
 }
 
 void BarButton::paintCard(QPainter &painter, const QColor &text) const
 {
     constexpr int margin = 20;
     paintSymbol(painter, {margin, (height() - cardIcon) / 2, cardIcon, cardIcon}, text);
-    const QRect room(margin * 2 + cardIcon, 12, width() - margin * 3 - cardIcon, height() - 24);
+    const QRect room(margin * 2 + cardIcon, 8, width() - margin * 3 - cardIcon, height() - 16);
     const int headingHeight = painter.fontMetrics().height() + 4;
-    const QRect sentence = fontMetrics().boundingRect(room, Qt::TextWordWrap, m_description);
-    const int top = (height() - headingHeight - sentence.height()) / 2;
-    painter.drawText(QRect(room.left(), top, room.width(), headingHeight), Qt::AlignLeft | Qt::AlignTop, this->text());
+    const int lineHeight = fontMetrics().lineSpacing();
+    const QStringList lines = descriptionLines(room.width(), (room.height() - headingHeight) / lineHeight);
+    int top = (height() - headingHeight - lineHeight * static_cast<int>(lines.size())) / 2;
+    painter.drawText(QRect(room.left(), top, room.width(), headingHeight), Qt::AlignLeft | Qt::AlignTop,
+                     painter.fontMetrics().elidedText(this->text(), Qt::ElideRight, room.width()));
+    top += headingHeight;
     painter.setFont(font());
     painter.setPen(withAlpha(text, isEnabled() ? 0.85 : 0.4));
-    painter.drawText(QRect(room.left(), top + headingHeight, room.width(), sentence.height() + 2),
-                     Qt::AlignLeft | Qt::TextWordWrap, m_description);
+    for (const QString &line : lines) {
+        painter.drawText(QRect(room.left(), top, room.width(), lineHeight), Qt::AlignLeft | Qt::AlignTop, line);
+        top += lineHeight;
+    }
 }
 
 void BarButton::paintEvent(QPaintEvent *)
@@ -221,5 +247,6 @@ void BarLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setPen(textColourOnBar(this));
-    painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine, text());
+    painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine,
+                     fontMetrics().elidedText(text(), Qt::ElideRight, width()));
 }

@@ -50,6 +50,8 @@ protected:
 private:
     void paintBackground(QPainter &painter, const QColor &text) const;
     void paintCard(QPainter &painter, const QColor &text) const;
+    /// The description in lines of this width, at most so many; of the last one, what has no room is left out.
+    QStringList descriptionLines(int width, int most) const;
     void paintSymbolOverText(QPainter &painter, const QColor &text) const;
     void paintSymbolBesideText(QPainter &painter, const QColor &text) const;
     void paintSymbol(QPainter &painter, const QRect &where, const QColor &colour) const;

@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QByteArrayView>
 #include <QCommandLineParser>
-#include <QDir>
 #include <QTimer>
 
 #include <csignal>
@@ -92,7 +91,7 @@ std::optional<BatchJob> readCommandLine(const QCoreApplication &application)
     }
     BatchJob job{ projectNamed(parser.value(burn)), {}, parser.isSet(show) };
     for (const QString &path : parser.positionalArguments())
-        job.paths.append(QDir::cleanPath(QDir::current().absoluteFilePath(path)));
+        job.paths.append(BatchRun::meantPath(path));
     if (const QString objection = BatchRun::objection(job); !objection.isEmpty())
         refuse(objection);
     return job;

@@ -8,6 +8,7 @@
 #include "ui_MainWindow.h"
 #include "writing/Window_Data_Copy_Folders.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QProgressBar>
 #include <QRadioButton>
@@ -51,6 +52,18 @@ BatchRun::BatchRun(const BatchJob &job, AppDelegate *controller, BatchQuestions 
 {
     m_progress.setInterval(200);
     connect(&m_progress, &QTimer::timeout, this, &BatchRun::showProgress);
+}
+
+QString BatchRun::meantPath(const QString &argument)
+{
+    const QString path = QDir::current().absoluteFilePath(argument);
+    const QFileInfo info(path);
+    if (!path.split(u'/').contains(u".."_s) || !info.exists())
+        return QDir::cleanPath(path);
+    // Behind a link to a folder, ".." is above the folder and not above the link.
+    const QString name = info.fileName();
+    return name == ".."_L1 || name == "."_L1 || name.isEmpty() ? info.canonicalFilePath()
+                                                               : QDir(info.canonicalPath()).filePath(name);
 }
 
 QString BatchRun::objection(const BatchJob &job)

@@ -48,6 +48,9 @@ public:
 
     void start();
 
+    /// The full path of what an argument names, from the working folder on.
+    static QString meantPath(const QString &argument);
+
     /// Why the job cannot be what a person could have chosen in the panels; empty when it can.
     static QString objection(const BatchJob &job);
 

@@ -1,4 +1,5 @@
 // The program as a process: how it ends, and what it answers on the command line.
+#include "app/BatchRun.h"
 #include "app/Surface.h"
 #include "runner/StatusSheets.h"
 #include "support/Person.h"
@@ -85,6 +86,8 @@ private Q_SLOTS:
     void nobodyReadsTheProgress();
     void progressFitsTheTerminal();
 
+    void pathsAreWhatTheyAreToAShell_data();
+    void pathsAreWhatTheyAreToAShell();
     void withoutADisplay_data();
     void withoutADisplay();
     void withoutAHome();
@@ -419,6 +422,42 @@ void ProgramTest::progressFitsTheTerminal()
         line.replace("\033[K", "");
         QVERIFY2(line.size() < 30, line.constData());
     }
+}
+
+void ProgramTest::pathsAreWhatTheyAreToAShell_data()
+{
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<QString>("path");
+    QTest::newRow("name") << u"song.mp3"_s << u"song.mp3"_s;
+    QTest::newRow("empty steps") << u".//./song.mp3"_s << u"song.mp3"_s;
+    QTest::newRow("above a folder") << u"folder/../song.mp3"_s << u"song.mp3"_s;
+    QTest::newRow("above a link's folder") << u"link/../song.mp3"_s << u"far/song.mp3"_s;
+    QTest::newRow("a link keeps its name") << u"folder/../other.mp3"_s << u"other.mp3"_s;
+    QTest::newRow("slash at the end") << u"folder/"_s << u"folder"_s;
+    QTest::newRow("here") << u"."_s << u""_s;
+    QTest::newRow("above") << u"folder/.."_s << u""_s;
+    QTest::newRow("above a link") << u"link/.."_s << u"far"_s;
+    QTest::newRow("above a link, slash at the end") << u"link/../"_s << u"far"_s;
+    QTest::newRow("nothing there") << u"nowhere/../gone.mp3"_s << u"gone.mp3"_s;
+    QTest::newRow("like an option") << u"-song.mp3"_s << u"-song.mp3"_s;
+}
+
+void ProgramTest::pathsAreWhatTheyAreToAShell()
+{
+    QFETCH(QString, argument);
+    QFETCH(QString, path);
+    QTemporaryDir place;
+    const QDir here(QFileInfo(place.path()).canonicalFilePath());
+    for (const auto &file :
+        { u"song.mp3"_s, u"-song.mp3"_s, u"folder/x"_s, u"far/song.mp3"_s, u"far/away/x"_s })
+        makeFile(here.filePath(file));
+    QVERIFY(QFile::link(here.filePath(u"far/away"_s), here.filePath(u"link"_s)));
+    QVERIFY(QFile::link(u"song.mp3"_s, here.filePath(u"other.mp3"_s)));
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(here.path());
+    const QString meant = BatchRun::meantPath(argument);
+    QDir::setCurrent(before);
+    QCOMPARE(meant, path.isEmpty() ? here.path() : here.filePath(path));
 }
 
 void ProgramTest::withoutADisplay_data()

@@ -167,7 +167,7 @@ void BatchRun::showProgress()
     } else if (m_controller->windowDataCopyFolders) {
         printLine(tr("Gathering the folders"));
     } else if (const Window_Performing_Operation *working = m_controller->windowPerformingOperation) {
-        printLine(tr("Writing: %1").arg(working->newestLine()));
+        printLine(working->newestLine());
     }
 }
 

@@ -1,6 +1,7 @@
 // Data CDs, DVDs and Blu-rays: checks, gathering the folders, and the disc.
 #include "app/MainWindow.h"
 #include "runner/ActivityLog.h"
+#include "runner/StatusSheets.h"
 #include "writing/DiscForms.h"
 #include "writing/FolderStaging.h"
 #include "writing/Window_Data_Copy_Folders.h"
@@ -74,6 +75,10 @@ void AppDelegate::TimerBurnDataFolder()
 
 void AppDelegate::dataBurnTerminated()
 {
+    if (windowPerformingOperation) {
+        const QString said = windowPerformingOperation->newestLine();
+        windowPerformingOperation->showNewestLine(tr("%1 The working folder is being emptied.").arg(said).toUtf8());
+    }
     // Behind the working sheet: what still copies would fill the folder again after it was emptied, and
     // emptying it of very many files takes seconds.
     QThreadPool::globalInstance()->start([this] {

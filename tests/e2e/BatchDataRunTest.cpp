@@ -1,29 +1,9 @@
-// Data discs by the unattended form as real processes, with the minute that a folder's copy is waited for at
-// least. The runs go side by side.
+// A data disc by the unattended form. It takes the minute that a folder's copy is waited for at least.
 #include "support/WholeMachine.h"
-
-#include <functional>
-#include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Runs the command that follows where a shell has mounted something that nobody else sees.
-QStringList mounted(const QString &options)
-{
-    return { u"unshare"_s, ::geteuid() == 0 ? u"--mount"_s : u"--map-root-user"_s, u"--mount"_s, u"sh"_s, u"-c"_s,
-        u"mount -t tmpfs -o %1 none \"$HOME/Documents/CorvalisData\" && exec \"$@\""_s.arg(options), u"sh"_s };
-}
-
-/// Runs the command that follows with the rights of the files' owner, also where that is root.
-QStringList asOwner()
-{
-    if (::geteuid() != 0)
-        return {};
-    return { u"setpriv"_s, u"--bounding-set"_s, u"-dac_override,-dac_read_search"_s };
-}
 
 /// The program in a home of its own, with a recorder of its own, writing the folder "photos" of that home.
 class DataRun {
@@ -48,14 +28,11 @@ public:
     {
         process.kill();
         process.waitForFinished();
-        QFile::setPermissions(home.filePath(u"photos/closed"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
-    void start(const QStringList &wrapper = {})
+    void start()
     {
-        const QStringList command = wrapper
-            + QStringList { builtPrograms() + u"/corvalis"_s, u"--burn"_s, u"Data CD"_s, u"photos/"_s };
-        process.start(command.first(), command.mid(1));
+        process.start(builtPrograms() + u"/corvalis"_s, { u"--burn"_s, u"Data CD"_s, u"photos/"_s });
     }
 
     /// How it ended, within two minutes.
@@ -76,60 +53,23 @@ public:
     }
 };
 
-/// Whether every file of a tree is the whole file of that name in the other one.
-bool holdsWholeFilesOnly(const QString &tree, const QString &source)
-{
-    QDirIterator files(tree, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString path = files.next();
-        if (contentOf(path) != contentOf(source + path.mid(tree.size())))
-            return false;
-    }
-    return true;
-}
-
 } // namespace
 
 class BatchDataRunTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void discsAreMadeOfWhatCanBeCopied()
+    void aDataDiscIsMade()
     {
-        DataRun whole;
-        DataRun closed;
-        DataRun fullDisk;
-        DataRun readOnlyDisk;
-        makeFile(closed.home.filePath(u"photos/secret"_s), "secret");
-        makeFile(closed.home.filePath(u"photos/closed/file"_s), "file");
-        QVERIFY(QFile::setPermissions(closed.home.filePath(u"photos/secret"_s), {}));
-        QVERIFY(QFile::setPermissions(closed.home.filePath(u"photos/closed"_s), {}));
-        whole.start();
-        closed.start(asOwner());
-        fullDisk.start(mounted(u"size=2m"_s));
-        readOnlyDisk.start(mounted(u"ro"_s));
-
-        Printed printed = whole.printed();
+        DataRun run;
+        run.start();
+        const Printed printed = run.printed();
         QCOMPARE(printed.errors, QByteArray());
         QCOMPARE(printed.status, 0);
-        QVERIFY(printed.output.contains("Gathering the folders"));
-        QCOMPARE(reader::difference(whole.source(), whole.onDisc()), QByteArray());
-        QCOMPARE(QDir(whole.dataFolder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
-
-        printed = closed.printed();
-        QVERIFY2(printed.errors.contains("/photos/secret: Permission denied\n"), printed.errors.constData());
-        QVERIFY2(printed.errors.contains("/photos/closed: Permission denied\n"), printed.errors.constData());
-        const QStringList left { u"large"_s, u"日本 \"x\""_s };
-        QCOMPARE(QDir(closed.onDisc()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name), left);
-
-        printed = fullDisk.printed();
-        QVERIFY2(printed.errors.contains("/photos/large: No space left on device\n"), printed.errors.constData());
-        QVERIFY(printed.output.contains("not everything went well"));
-        QVERIFY(holdsWholeFilesOnly(fullDisk.onDisc(), fullDisk.source()));
-
-        printed = readOnlyDisk.printed();
-        QVERIFY2(printed.errors.contains("/photos: Read-only file system\n"), printed.errors.constData());
-        QVERIFY(printed.output.contains("not everything went well"));
+        QVERIFY(printed.output.contains("Gathering the folders\n"));
+        QVERIFY2(!printed.output.contains("Writing: Writing"), printed.output.constData());
+        QCOMPARE(reader::difference(run.source(), run.onDisc()), QByteArray());
+        QCOMPARE(QDir(run.dataFolder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
     }
 
     void aRunThatIsEndedIsClearedAwayByTheNext()

@@ -139,6 +139,22 @@ private Q_SLOTS:
         QVERIFY2(difference.isEmpty(), difference.constData());
     }
 
+    void thousandsOfFilesAreReadBackAsTheyWere()
+    {
+        WholeMachine machine;
+        machine.controller->around.stagingPoll = 5000;
+        const QString source = machine.mediaPath(u"many"_s);
+        for (int i = 0; i < 3000; ++i)
+            makeFile(source + u"/folder %1/file %2"_s.arg(i % 30).arg(i), QByteArray::number(i).repeated(i % 700));
+        machine.choose(6);
+        QVERIFY(machine.addFolder(source));
+        machine.press("btnBurn");
+        QVERIFY(machine.completes());
+        QCOMPARE(machine.trouble(), QString());
+        const QString root = reader::extractedByXorriso(machine.recorder.iso(), machine.media.path());
+        QCOMPARE(reader::difference(source, root + u"/many"_s), QByteArray());
+    }
+
     void severalFoldersMakeOneDisc()
     {
         WholeMachine machine;

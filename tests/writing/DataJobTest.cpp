@@ -245,7 +245,13 @@ private Q_SLOTS:
         });
         int ticks = 0;
         QTimer timer;
-        connect(&timer, &QTimer::timeout, this, [&] { ticks += slow->stop && app.controller->windowPerformingOperation; });
+        QString shown;
+        connect(&timer, &QTimer::timeout, this, [&] {
+            if (slow->stop && app.controller->windowPerformingOperation) {
+                ++ticks;
+                shown = app.controller->windowPerformingOperation->newestLine();
+            }
+        });
         timer.start(10);
         app.press("btnBurn");
         const bool completed = app.completes();
@@ -253,6 +259,7 @@ private Q_SLOTS:
         copying.join();
         QVERIFY(completed);
         QVERIFY2(ticks >= 5, "the window stood still, or was without its sheet, while the copy was waited for");
+        QVERIFY2(shown.contains(u"is being emptied"_s), qUtf8Printable(shown));
         QCOMPARE(app.namesIn(app.controller->s_Data_Folder), QStringList());
         QCOMPARE(app.sheets.order(), sheetsOfAJob);
         QVERIFY2(app.trouble().contains(u"before the copying of a folder has ended"_s), qUtf8Printable(app.trouble()));

@@ -69,8 +69,8 @@ void Window_Alert::showReport(const QString &text, bool columns)
     field->setPlainText(text);
     // As high as its text, within reason; the rest scrolls.
     const int lines = static_cast<int>(qBound(qsizetype{5}, text.count(u'\n') + 2, qsizetype{14}));
-    field->setMinimumSize(field->fontMetrics().averageCharWidth() * 80, field->fontMetrics().lineSpacing() * lines);
-    field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    field->setMinimumWidth(field->fontMetrics().averageCharWidth() * 80);
+    field->setFixedHeight(field->fontMetrics().lineSpacing() * lines);
     // Where nothing is selected, the whole report is what one wants to paste into a letter.
     auto *copy = new QShortcut(QKeySequence::Copy, this);
     connect(copy, &QShortcut::activated, field, [field, text] {

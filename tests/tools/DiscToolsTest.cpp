@@ -217,6 +217,8 @@ private Q_SLOTS:
             QVERIFY(field->height() < metrics.lineSpacing() * 8); // two lines need no empty page
             const auto buttons = alert->findChildren<QPushButton *>();
             QCOMPARE(buttons.size(), 1);
+            QVERIFY(buttons.first()->mapTo(alert, QPoint()).y() > field->mapTo(alert, QPoint(0, field->height())).y());
+            QVERIFY(alert->findChild<QLabel *>(u"labelMessage"_s)->height() < metrics.lineSpacing() * 3);
             QCOMPARE(buttons.first()->text(), u"OK"_s);
             QTest::keyClick(alert, Qt::Key_Return);
         });

@@ -11,7 +11,10 @@
 namespace {
 
 constexpr int toolIcon = 24;
-constexpr int cardIcon = 40;
+constexpr int cardIcon = 48;
+constexpr int tallCardIcon = 72;
+constexpr int tallCard = 200; ///< from this height on a card has its symbol above its text
+constexpr int tallestCard = 300;
 constexpr int radius = 6;
 
 const PaintedView *barOf(const QWidget *widget)
@@ -49,7 +52,7 @@ void BarButton::setLook(Look look)
     m_look = look;
     const bool card = look == Look::Card;
     setSizePolicy(card ? QSizePolicy::Expanding : QSizePolicy::Fixed, card ? QSizePolicy::Expanding : QSizePolicy::Fixed);
-    setMaximumHeight(card ? 160 : QWIDGETSIZE_MAX);
+    setMaximumHeight(card ? tallestCard : QWIDGETSIZE_MAX);
     updateGeometry();
 }
 
@@ -178,19 +181,26 @@ QStringList BarButton::descriptionLines(int width, int most) const
 void BarButton::paintCard(QPainter &painter, const QColor &text) const
 {
     constexpr int margin = 20;
-    paintSymbol(painter, {margin, (height() - cardIcon) / 2, cardIcon, cardIcon}, text);
-    const QRect room(margin * 2 + cardIcon, 8, width() - margin * 3 - cardIcon, height() - 16);
+    const bool tall = height() >= tallCard;
+    const int icon = tall ? tallCardIcon : cardIcon;
+    const int left = tall ? margin : margin * 2 + icon;
+    const int above = tall ? icon + 16 : 0;
+    const QRect room(left, 8, width() - left - margin, height() - above - 16);
     const int headingHeight = painter.fontMetrics().height() + 4;
     const int lineHeight = fontMetrics().lineSpacing();
     const QStringList lines = descriptionLines(room.width(), (room.height() - headingHeight) / lineHeight);
-    int top = (height() - headingHeight - lineHeight * static_cast<int>(lines.size())) / 2;
-    painter.drawText(QRect(room.left(), top, room.width(), headingHeight), Qt::AlignLeft | Qt::AlignTop,
-                     painter.fontMetrics().elidedText(this->text(), Qt::ElideRight, room.width()));
+    int top = (height() - above - headingHeight - lineHeight * static_cast<int>(lines.size())) / 2;
+    const QPoint corner = tall ? QPoint((width() - icon) / 2, top) : QPoint(margin, (height() - icon) / 2);
+    paintSymbol(painter, { corner, QSize(icon, icon) }, text);
+    top += above;
+    const auto place = static_cast<int>(tall ? Qt::AlignHCenter | Qt::AlignTop : Qt::AlignLeft | Qt::AlignTop);
+    painter.drawText(QRect(left, top, room.width(), headingHeight), place,
+        painter.fontMetrics().elidedText(this->text(), Qt::ElideRight, room.width()));
     top += headingHeight;
     painter.setFont(font());
     painter.setPen(withAlpha(text, isEnabled() ? 0.85 : 0.4));
     for (const QString &line : lines) {
-        painter.drawText(QRect(room.left(), top, room.width(), lineHeight), Qt::AlignLeft | Qt::AlignTop, line);
+        painter.drawText(QRect(left, top, room.width(), lineHeight), place, line.trimmed());
         top += lineHeight;
     }
 }

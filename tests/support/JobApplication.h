@@ -145,11 +145,11 @@ public:
                    + commands);
     }
 
-    /// Shell commands that wait until release(gate), at most twenty seconds.
+    /// Shell commands that wait until release(gate), at most two minutes.
     static QByteArray waitFor(const QByteArray &gate)
     {
         return "waited=0; until [ -e \"$tool.go." + gate
-            + "\" ] || [ $waited -gt 400 ]; do sleep 0.05; waited=$((waited + 1)); done\n";
+            + "\" ] || [ $waited -gt 2400 ]; do sleep 0.05; waited=$((waited + 1)); done\n";
     }
     static void release(const NotingTool &tool, const QByteArray &gate)
     {
@@ -184,6 +184,8 @@ public:
     void press(const char *button) const
     {
         const auto *widget = element<QAbstractButton>(button);
+        if (!QTest::qWaitForWindowExposed(window.get()) || !widget->isVisible())
+            qWarning() << "nobody can press" << widget;
         QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {},
                           widget->mapTo(window.get(), widget->rect().center()));
     }
@@ -216,10 +218,15 @@ public:
         press("toolbar_btn_Data_Add_Folder");
     }
 
-    /// Waits for the operation-complete sheet.
+    /// Waits for the operation-complete sheet; tells how far the job came where it does not.
     bool completes()
     {
-        return QTest::qWaitFor([this] { return !controller->windowOperationCompleted.isNull(); }, 30'000);
+        if (QTest::qWaitFor([this] { return !controller->windowOperationCompleted.isNull(); }, 120'000))
+            return true;
+        qWarning() << "the job has not ended: sheets" << sheets.order() << "panels" << asked.panels.size() << "alerts"
+                   << asked.texts() << "modal" << QApplication::activeModalWidget();
+        qWarning().noquote() << controller->activityLog->text();
+        return false;
     }
 
     /// The button of a sheet's button box.

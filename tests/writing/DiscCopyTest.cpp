@@ -182,7 +182,7 @@ private Q_SLOTS:
             app.asked.buttons.append({0, 0}); // the prompt's OK, the alert's Close
         app.asked.buttons.append(1);
         app.press("toolbar_btn_Audio_Copy_Disc");
-        QTRY_COMPARE(app.texts().size(), promptsBefore * 2 + 1);
+        QTRY_COMPARE_WITH_TIMEOUT(app.texts().size(), promptsBefore * 2 + 1, 60'000);
         QTRY_COMPARE(app.namesIn(app.controller->s_Data_Folder), QStringList());
         QVERIFY(imageWasThere);
         QTest::qWait(150);

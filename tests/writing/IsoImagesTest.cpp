@@ -18,6 +18,8 @@ class IsoImagesTest : public QObject {
         QVERIFY(QDir(app.media.path()).mkdir(u"destination"_s));
     }
 
+    static constexpr int longest = 60'000; ///< milliseconds that a busy machine may need for a stage
+
     static QUrl url(const JobApplication &app, const QString &name) { return QUrl::fromLocalFile(app.media.filePath(name)); }
 
     /// Makes the image tool wait for release("done").
@@ -45,7 +47,7 @@ private Q_SLOTS:
             app.trigger("menuitemISOCreate");
         else
             app.press("toolbar_btn_ISO_Create_ISO");
-        QTRY_VERIFY(app.controller->windowPerformingOperation);
+        QTRY_VERIFY_WITH_TIMEOUT(app.controller->windowPerformingOperation, longest);
         app.release(app.hdiutil, "done");
         QVERIFY(app.completes());
         const QString image = app.media.filePath(u"destination/image.iso"_s);
@@ -87,19 +89,24 @@ private Q_SLOTS:
         slowDown(app);
         QElapsedTimer clock;
         QList<qint64> panels;
-        app.asked.onPanel = [&](const OpenPanel &) { panels.append(clock.elapsed()); };
+        qsizetype toolsAtPanels = 0;
+        qint64 sheet = 0;
+        app.asked.onPanel = [&](const OpenPanel &) {
+            panels.append(clock.elapsed());
+            toolsAtPanels += app.controller->activityLog->text().count(u"makehybrid"_s);
+        };
+        app.sheets.onShow = [&](Sheet *) { sheet = sheet == 0 ? clock.elapsed() : sheet; };
         app.asked.choices = {{url(app, u"source"_s)}, {url(app, u"destination"_s)}};
         clock.start();
         app.press("toolbar_btn_ISO_Create_ISO");
         QCOMPARE(panels.size(), 1);
-        QCOMPARE(app.hdiutil.runs().size(), 0);
-        QTRY_COMPARE(panels.size(), 2);
+        QTRY_VERIFY_WITH_TIMEOUT(app.controller->windowPerformingOperation, longest);
+        QCOMPARE(panels.size(), 2);
+        QCOMPARE(toolsAtPanels, 0);
+        QCOMPARE(app.controller->activityLog->text().count(u"makehybrid"_s), 1);
+        // However busy the machine is, no stage may come too early.
         QVERIFY(panels.at(1) - panels.at(0) >= 90);
-        QCOMPARE(app.hdiutil.runs().size(), 0);
-        QTRY_COMPARE(app.hdiutil.runs().size(), 1);
-        QVERIFY(clock.elapsed() - panels.at(1) >= 90);
-        QTRY_VERIFY(app.controller->windowPerformingOperation);
-        QVERIFY(clock.elapsed() - panels.at(1) >= 180);
+        QVERIFY(sheet - panels.at(1) >= 180);
         app.release(app.hdiutil, "done");
         QVERIFY(app.completes());
     }
@@ -119,7 +126,7 @@ private Q_SLOTS:
         if (panel == 2)
             app.asked.choices = {{url(app, u"source"_s)}};
         app.press("toolbar_btn_ISO_Create_ISO");
-        QTRY_COMPARE(app.asked.panels.size(), panel);
+        QTRY_COMPARE_WITH_TIMEOUT(app.asked.panels.size(), panel, longest);
         QTest::qWait(250);
         QCOMPARE(app.asked.panels.size(), panel);
         QCOMPARE(app.hdiutil.runs(), QList<QStringList>());
@@ -170,7 +177,7 @@ private Q_SLOTS:
             QVERIFY(!app.controller->windowPerformingOperation);
             QCOMPARE(app.sheets.order().last(), u"+Window_Operation_Terminated"_s);
             QTest::keyClick(app.controller->windowOperationCompleted, Qt::Key_Return);
-            QTRY_VERIFY(!QApplication::activeModalWidget());
+            QTRY_VERIFY_WITH_TIMEOUT(!QApplication::activeModalWidget(), longest);
         }
     }
 

@@ -1,6 +1,7 @@
 #include "ui/preview/MediaEngine.h"
 
 #include <QImage>
+#include <QThreadPool>
 
 #include <array>
 #include <clocale>
@@ -12,7 +13,7 @@
 
 namespace {
 
-constexpr std::array<std::pair<const char *, const char *>, 22> options{ {
+constexpr std::array<std::pair<const char *, const char *>, 23> options{ {
     // Nothing of a person's own configuration of other players.
     { "config", "no" },
     { "load-scripts", "no" },
@@ -36,9 +37,24 @@ constexpr std::array<std::pair<const char *, const char *>, 22> options{ {
     { "keep-open", "always" },
     { "keep-open-pause", "yes" },
     { "hr-seek", "yes" },
+    // One more would be tried after these, SDL, which has nothing of its own and leaks at every attempt.
+    { "ao", "pipewire,pulse,alsa,jack" },
     // Without a sound device a file with sound would not play at all.
     { "audio-fallback-to-null", "yes" },
 } };
+
+/// Waits for the library, which takes a fifth of a second over a film: it gives whoever draws that long to
+/// draw. A process that ends waits for the last one here.
+void endInBackground(mpv_render_context *renderer, mpv_handle *core)
+{
+    static QThreadPool pool;
+    pool.setExpiryTimeout(0);
+    pool.start([renderer, core] {
+        if (renderer)
+            mpv_render_context_free(renderer);
+        mpv_terminate_destroy(core);
+    });
+}
 
 } // namespace
 
@@ -52,14 +68,13 @@ MediaEngine::MediaEngine(QObject *parent)
 
 MediaEngine::~MediaEngine()
 {
-    if (m_renderer) {
+    if (!m_core)
+        return;
+    if (m_renderer)
         mpv_render_context_set_update_callback(m_renderer, nullptr, nullptr);
-        mpv_render_context_free(m_renderer);
-    }
-    if (m_core) {
-        mpv_set_wakeup_callback(m_core, nullptr, nullptr);
-        mpv_terminate_destroy(m_core);
-    }
+    mpv_set_wakeup_callback(m_core, nullptr, nullptr);
+    setFlag("pause", true); // what the sound device holds would be played to its end
+    endInBackground(m_renderer, m_core);
 }
 
 void MediaEngine::startCore()

@@ -17,6 +17,8 @@ class MediaEngine : public QObject {
     Q_OBJECT
 public:
     explicit MediaEngine(QObject *parent = nullptr);
+    /// The sound ends and no signal comes any more; the library itself ends a little later, in the
+    /// background.
     ~MediaEngine() override;
 
     /// False where the library could not be started; every other operation does nothing then.

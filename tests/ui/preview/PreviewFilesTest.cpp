@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -16,7 +17,7 @@ using namespace Qt::StringLiterals;
 class PreviewFilesTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(makeMedia(m_folder.path())); }
+    void initTestCase() { QVERIFY(copyMedia(m_folder.path())); }
     void everyKindPlaysAndSeeks_data();
     void everyKindPlaysAndSeeks();
     void notMedia_data();

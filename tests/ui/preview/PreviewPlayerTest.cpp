@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 class PreviewPlayerTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(makeMedia(m_folder.path())); }
+    void initTestCase() { QVERIFY(copyMedia(m_folder.path())); }
     void rateMovesPositionAndPicture_data();
     void rateMovesPositionAndPicture();
     void transportSteps();

@@ -59,8 +59,10 @@ AVSPDocument::AVSPDocument(const QUrl &file, QWidget *parent)
     m_ui->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     setWindowTitle(titleOf(file));
+    m_ui->playerView->setFocus(); // else whatever is enabled while the file is loading takes the keys
     giveSigns();
     windowDidLoad();
+    resize(m_ui->playerView->sizeHint() + QSize(0, m_ui->controls->sizeHint().height()));
 }
 
 AVSPDocument::~AVSPDocument()
@@ -74,9 +76,13 @@ void AVSPDocument::windowDidLoad()
 {
     m_ui->unplayableLabel->hide();
     m_ui->noVideoLabel->hide();
+    m_ui->failureLabel->hide();
     m_ui->loadingSpinner->setColour(Qt::white);
-    // These two lie on black whatever the desktop's colours are.
-    for (auto *label : { m_ui->unplayableLabel, m_ui->noVideoLabel }) {
+    // These lie on black whatever the desktop's colours are.
+    for (auto *label : { m_ui->unplayableLabel, m_ui->noVideoLabel, m_ui->failureLabel }) {
+        auto larger = label->font();
+        larger.setPointSizeF(larger.pointSizeF() * 1.2);
+        label->setFont(larger);
         auto onBlack = label->palette();
         onBlack.setColor(QPalette::WindowText, QColor(230, 230, 230));
         label->setPalette(onBlack);
@@ -147,8 +153,13 @@ void AVSPDocument::observeStatus()
     const bool isReady = player->status() == MediaPlayer::Status::ReadyToPlay;
     const bool hasFailed = player->status() == MediaPlayer::Status::Failed;
     enableControls(isReady, hasFailed ? tr("The file could not be played") : QString());
-    if (hasFailed)
+    if (hasFailed) {
+        m_ui->playerView->showPicture(false);
+        m_ui->noVideoLabel->hide();
+        m_ui->failureLabel->setText(player->error());
+        m_ui->failureLabel->show();
         stopLoadingAnimationAndHandleError(player->error());
+    }
     observeDuration(duration());
 }
 
@@ -286,6 +297,8 @@ void AVSPDocument::connectControls()
         [this](int percent) { setVolume(static_cast<float>(percent) / 100); });
     connect(this, &AVSPDocument::volumeChanged, m_ui->volumeSlider,
         [this](float value) { m_ui->volumeSlider->setValue(qRound(value * 100)); });
+    for (auto *button : { m_ui->playPauseButton, m_ui->fastForwardButton, m_ui->rewindButton })
+        button->installEventFilter(this);
 }
 
 void AVSPDocument::enableControls(bool enabled, const QString &whyNot)
@@ -324,6 +337,19 @@ void AVSPDocument::changeEvent(QEvent *event)
     QDialog::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         giveSigns();
+}
+
+/// A button would give the focus to its neighbour when an arrow key is pressed.
+bool AVSPDocument::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        auto *key = static_cast<QKeyEvent *>(event);
+        if (key->key() >= Qt::Key_Left && key->key() <= Qt::Key_Down) {
+            keyPressEvent(key);
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void AVSPDocument::keyPressEvent(QKeyEvent *event)

@@ -45,9 +45,19 @@ void TimeSlider::mousePressEvent(QMouseEvent *event)
     QStyleOptionSlider option;
     initStyleOption(&option);
     const auto handle = style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
-    if (event->button() == Qt::LeftButton && !handle.contains(event->position().toPoint()))
+    if (event->button() == Qt::LeftButton && !handle.contains(event->position().toPoint())) {
+        // Held from now on: whoever is told of the new place may answer with a rounded one, and the handle
+        // would slip from under the pointer.
+        setSliderDown(true);
         setValue(valueAt(event->position().toPoint()));
+    }
     QSlider::mousePressEvent(event); // the handle is now under the pointer and can be dragged on
+}
+
+void TimeSlider::mouseReleaseEvent(QMouseEvent *event)
+{
+    QSlider::mouseReleaseEvent(event);
+    setSliderDown(false);
 }
 
 int TimeSlider::valueAt(const QPoint &position) const

@@ -19,7 +19,7 @@ public:
     /// Not at first.
     void showPicture(bool shown);
 
-    QSize sizeHint() const override { return { 640, 360 }; }
+    QSize sizeHint() const override { return { 720, 405 }; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;

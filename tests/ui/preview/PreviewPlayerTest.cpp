@@ -1,6 +1,8 @@
 // How the player plays: rates, places, ends, controls.
 #include "ui/preview/PreviewWindow.h"
 
+#include <QAccessible>
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -22,8 +24,12 @@ private Q_SLOTS:
     void currentTimeGoesToWholeSeconds_data();
     void currentTimeGoesToWholeSeconds();
     void sliderSeeks();
+    void sliderIsDragged();
     void slidersFollow();
     void keys();
+    void keysWhereverTheFocusIs();
+    void everythingHasAName();
+    void opensInTheShapeOfAFilm();
     void propertiesTellTheirChanges();
     void closingTakesEverythingAway();
 
@@ -241,6 +247,30 @@ void PreviewPlayerTest::sliderSeeks()
     QCOMPARE(player.currentTime(), 0.0);
 }
 
+void PreviewPlayerTest::sliderIsDragged()
+{
+    PreviewWindow player(file("film.mp4"));
+    QTRY_VERIFY(player.isReady());
+    auto *slider = player.find<QAbstractSlider>("timeSlider");
+    const auto at = [slider](int twelfths) {
+        return QPoint(slider->width() * twelfths / 12, slider->height() / 2);
+    };
+    player.play()->click();
+    QTest::mousePress(slider, Qt::LeftButton, {}, at(3));
+    for (int place = 4; place <= 9; ++place) {
+        QTest::mouseMove(slider, at(place));
+        QVERIFY2(std::abs(slider->property("seconds").toDouble() - place) < 1,
+            qPrintable(u"%1 at %2"_s.arg(slider->property("seconds").toDouble()).arg(place)));
+    }
+    const double held = slider->property("seconds").toDouble();
+    QTest::qWait(300); // the film does not take the handle out of the hand
+    QCOMPARE(slider->property("seconds").toDouble(), held);
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, at(9));
+    QTRY_VERIFY(player.currentTime() > held);
+    QCOMPARE(player.rate(), 1.0);
+    QTRY_VERIFY(std::abs(player.pictureTime() - player.currentTime()) < 0.5);
+}
+
 void PreviewPlayerTest::slidersFollow()
 {
     PreviewWindow player(file("film.mp4"));
@@ -285,6 +315,86 @@ void PreviewPlayerTest::keys()
     QTest::keyClick(player.window(), Qt::Key_Escape);
     QVERIFY(!player->isVisible());
     QCOMPARE(player->result(), 1);
+}
+
+void PreviewPlayerTest::keysWhereverTheFocusIs()
+{
+    PreviewWindow player(file("film.mp4"));
+    QVERIFY(QTest::qWaitForWindowActive(player.window()));
+    QTRY_VERIFY(player.isReady());
+    const auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
+    const auto volume = [&] { return player->property("volume").toFloat(); };
+    press(Qt::Key_Right);
+    QCOMPARE(player.currentTime(), 5.0);
+    press(Qt::Key_Down);
+    QCOMPARE(volume(), 0.95F);
+    press(Qt::Key_Space);
+    QCOMPARE(player.rate(), 1.0);
+    press(Qt::Key_Space);
+    QCOMPARE(player.rate(), 0.0);
+
+    for (auto *button : { player.play(), player.forward(), player.rewind() }) {
+        button->setFocus(Qt::TabFocusReason);
+        QCOMPARE(QApplication::focusWidget(), button);
+        player.setCurrentTime(6);
+        press(Qt::Key_Left);
+        QCOMPARE(player.currentTime(), 1.0);
+        press(Qt::Key_Right);
+        QCOMPARE(player.currentTime(), 6.0);
+        const auto before = volume();
+        press(Qt::Key_Up);
+        QVERIFY(volume() > before);
+        press(Qt::Key_Down);
+        QCOMPARE(volume(), before);
+        QCOMPARE(QApplication::focusWidget(), button);
+    }
+    // A button that has the focus is what Space presses.
+    press(Qt::Key_Space);
+    QCOMPARE(player.rate(), -2.0);
+
+    for (auto *slider :
+        { player.find<QAbstractSlider>("timeSlider"), player.find<QAbstractSlider>("volumeSlider") }) {
+        slider->setFocus(Qt::TabFocusReason);
+        press(Qt::Key_Space);
+        QCOMPARE(player.rate(), 1.0);
+        press(Qt::Key_Space);
+        QCOMPARE(player.rate(), 0.0);
+    }
+    const double place = player.currentTime();
+    const auto before = volume();
+    press(Qt::Key_Left); // here it is the volume's
+    QVERIFY(volume() < before);
+    QCOMPARE(player.currentTime(), place);
+    press(Qt::Key_Escape);
+    QVERIFY(!player->isVisible());
+}
+
+void PreviewPlayerTest::everythingHasAName()
+{
+    PreviewWindow player(file("film.mp4"));
+    QTRY_VERIFY(player.isReady());
+    QList<QWidget *> controls;
+    for (auto *button : player->findChildren<QAbstractButton *>())
+        controls += button;
+    for (auto *slider : player->findChildren<QAbstractSlider *>())
+        controls += slider;
+    QCOMPARE(controls.size(), 5);
+    for (auto *control : controls) {
+        QVERIFY2(!control->toolTip().isEmpty(), qPrintable(control->objectName()));
+        auto *interface = QAccessible::queryAccessibleInterface(control);
+        QVERIFY2(!interface->text(QAccessible::Name).isEmpty(), qPrintable(control->objectName()));
+    }
+    auto *picture = QAccessible::queryAccessibleInterface(player.view());
+    QVERIFY(!picture->text(QAccessible::Name).isEmpty());
+}
+
+void PreviewPlayerTest::opensInTheShapeOfAFilm()
+{
+    PreviewWindow player(file("film.mp4"));
+    QCOMPARE(player.view()->size(), QSize(720, 405));
+    player->resize(500, 500);
+    QTRY_COMPARE(player.view()->width(), 500);
+    QVERIFY(player.view()->height() > 400);
 }
 
 void PreviewPlayerTest::propertiesTellTheirChanges()

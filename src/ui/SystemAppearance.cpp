@@ -53,6 +53,9 @@ SystemAppearance::SystemAppearance(QObject *parent)
 {
     m_lastAnswer = isDark();
     QCoreApplication::instance()->installEventFilter(this);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &SystemAppearance::watchFile);
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &SystemAppearance::watchFile);
+    watchFile();
     if (hasSessionBus())
         connectToPortal();
 }
@@ -81,6 +84,16 @@ const std::optional<QString> &SystemAppearance::interfaceStyle() const
             m_file.interfaceStyle = style.toString();
     }
     return m_file.interfaceStyle;
+}
+
+void SystemAppearance::watchFile()
+{
+    // The folder tells that the file comes and goes or is replaced, the file that it is written.
+    const QFileInfo file(globalPreferencesFile());
+    for (const QString &path : { file.path(), file.filePath() })
+        if (QFileInfo::exists(path))
+            m_watcher.addPath(path); // one that is watched already stays as it is
+    signalIfChanged();
 }
 
 void SystemAppearance::connectToPortal()

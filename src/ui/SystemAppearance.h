@@ -3,6 +3,7 @@
 
 #include <QDBusVariant>
 #include <QDateTime>
+#include <QFileSystemWatcher>
 #include <QObject>
 #include <QString>
 
@@ -33,8 +34,8 @@ public:
     static QString globalPreferencesFile();
 
 Q_SIGNALS:
-    /// The portal or the palette made the answer another one. A change of the global preferences file is seen
-    /// at the next isDark() and not signalled.
+    /// The answer has become another one. The global preferences file is watched where its folder was there
+    /// at the start; else its change is seen at the next isDark() and not signalled.
     void changed();
 
 protected:
@@ -44,12 +45,14 @@ private Q_SLOTS:
     void onPortalSettingChanged(const QString &nameSpace, const QString &key, const QDBusVariant &value);
 
 private:
+    void watchFile();
     void connectToPortal();
     void askPortal();
     void setPortalAnswer(QVariant value);
     void signalIfChanged();
     const std::optional<QString> &interfaceStyle() const;
 
+    QFileSystemWatcher m_watcher;
     std::optional<bool> m_portal;
     bool m_lastAnswer = false;
 

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QPalette>
 #include <QProcess>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTest>
@@ -58,6 +59,7 @@ private Q_SLOTS:
     void withoutBusThePaletteDecides();
     void globalPreferencesComeFirst_data();
     void globalPreferencesComeFirst();
+    void globalPreferencesAreWatched();
     void hangingBusBlocksNobody();
     void portalIsAskedInTheBackground();
 
@@ -143,6 +145,31 @@ void SystemAppearanceTest::globalPreferencesComeFirst()
     QCOMPARE(appearance.isDark(), isDark);
     QFile::remove(SystemAppearance::globalPreferencesFile());
     QCOMPARE(appearance.isDark(), darkPalette);
+}
+
+void SystemAppearanceTest::globalPreferencesAreWatched()
+{
+    setPalette(false);
+    SystemAppearance appearance;
+    QSignalSpy changed(&appearance, &SystemAppearance::changed);
+    const auto file = SystemAppearance::globalPreferencesFile();
+    writeGlobalPreferences("AppleInterfaceStyle=Dark\n"); // comes
+    QTRY_COMPARE(changed.size(), 1);
+    QVERIFY(appearance.isDark());
+    writeGlobalPreferences("AppleInterfaceStyle=Light\n"); // is written
+    QTRY_COMPARE(changed.size(), 2);
+    for (int i = 3; i < 7; ++i) { // is replaced
+        QSettings settings(file, QSettings::IniFormat);
+        settings.setValue("AppleInterfaceStyle", i % 2 ? u"Dark"_s : u"Light"_s);
+        settings.sync();
+        QTRY_COMPARE(changed.size(), i);
+        QCOMPARE(appearance.isDark(), i % 2 == 1);
+    }
+    setPalette(true);
+    QCOMPARE(changed.size(), 6);
+    QVERIFY(QFile::remove(file)); // goes
+    QTRY_COMPARE(changed.size(), 7);
+    QVERIFY(appearance.isDark());
 }
 
 void SystemAppearanceTest::hangingBusBlocksNobody()

@@ -128,7 +128,8 @@ void BarButton::paintBackground(QPainter &painter, const QColor &text) const
     layer += pressed ? 0.18 : hovered ? 0.10 : 0.0;
     const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
     painter.setPen(m_bordered ? QPen(text, 1.5) : QPen(Qt::NoPen));
-    painter.setBrush(withAlpha(text, layer));
+    // Never nearer to the text: what is chosen or under the pointer stays as readable as the rest.
+    painter.setBrush(withAlpha(readableTextOn(text), layer));
     if (m_look == Look::Prominent) {
         const double strength = !isEnabled() ? 0.4 : pressed ? 0.80 : hovered ? 1.0 : 0.92;
         painter.setBrush(withAlpha(text, strength));

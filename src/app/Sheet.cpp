@@ -2,7 +2,9 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDialogButtonBox>
 #include <QPainter>
+#include <QPushButton>
 
 Sheet::Sheet(QWidget *parent, Dismiss dismiss)
     : QDialog(parent, Qt::Sheet | Qt::FramelessWindowHint), m_dismiss(dismiss)
@@ -18,6 +20,10 @@ void Sheet::beginSheet()
 {
     setWindowTitle(parentWidget()->windowTitle());
     parentWidget()->window()->installEventFilter(this);
+    // Some styles put signs on the standard buttons, and only on these.
+    for (const auto *box : findChildren<QDialogButtonBox *>())
+        for (QAbstractButton *button : box->buttons())
+            button->setIcon({});
     adjustSize();
     show();
 }

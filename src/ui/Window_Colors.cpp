@@ -4,9 +4,12 @@
 #include "ui/ColourFields.h"
 #include "ui_Window_Colors.h"
 
+#include <QPushButton>
 #include <QSettings>
 
 #include <array>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -26,14 +29,38 @@ Window_Colors::Window_Colors(AppDelegate *controller, QWidget *parent)
 {
     m_ui->setupUi(this);
     connect(this, &Sheet::quitRequested, controller, &AppDelegate::OnMenuQuit);
-    connect(m_ui->btnOK, &QPushButton::clicked, this, &Window_Colors::OnOK);
-    connect(m_ui->btnCancel, &QPushButton::clicked, this, &Window_Colors::OnCancel);
-    connect(m_ui->btnOriginal, &QPushButton::clicked, this, &Window_Colors::OnOriginal);
-    m_ui->btnOK->setFocus();
+    makeButtons();
     windowDidLoad();
 }
 
 Window_Colors::~Window_Colors() = default;
+
+void Window_Colors::makeButtons()
+{
+    struct Row {
+        QPushButton *button;
+        QLatin1StringView name;
+        QString toolTip;
+        void (Window_Colors::*action)();
+    };
+    QDialogButtonBox &box = *m_ui->buttonBox;
+    QPushButton *const ok = box.button(QDialogButtonBox::Ok);
+    const Row rows[]{
+        { ok, "btnOK"_L1, tr("Use these colours"), &Window_Colors::OnOK },
+        { box.button(QDialogButtonBox::Cancel), "btnCancel"_L1,
+            tr("Close and leave the window as it is (Escape)"), &Window_Colors::OnCancel },
+        { box.addButton(tr("Original Colo&urs"), QDialogButtonBox::ResetRole), "btnOriginal"_L1,
+            tr("Bring back the colours that Corvalis came with, and keep them even if you cancel"),
+            &Window_Colors::OnOriginal },
+    };
+    for (const auto &[button, name, toolTip, action] : rows) {
+        button->setObjectName(name);
+        button->setToolTip(toolTip);
+        connect(button, &QPushButton::clicked, this, action);
+    }
+    ok->setDefault(true);
+    ok->setFocus();
+}
 
 void Window_Colors::windowDidLoad()
 {

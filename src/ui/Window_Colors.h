@@ -28,6 +28,7 @@ protected:
     void cancelled() override { OnCancel(); }
 
 private:
+    void makeButtons();
     void windowDidLoad();
     void showColours();
 

@@ -1,4 +1,5 @@
 // The colour scheme in the whole application: kept, shown, changed in its sheet.
+#include "app/BarButton.h"
 #include "compilation/ListTableView.h"
 #include "compilation/SpaceOccupiedView.h"
 #include "support/JobApplication.h"
@@ -10,7 +11,14 @@
 
 #include <QCheckBox>
 #include <QColorDialog>
+#include <QProxyStyle>
+#include <QScopeGuard>
 #include <QSettings>
+#include <QStyleFactory>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 using ColourScheme::Role;
@@ -47,12 +55,49 @@ QColor edge(const QWidget *view)
     return image.pixelColor(image.width() - 1, image.height() / 2);
 }
 
+/// The colours of a picture, the most frequent first.
+QList<QColor> mostFrequent(const QImage &image)
+{
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            ++counts[image.pixel(x, y)];
+    auto colours = counts.keys();
+    std::ranges::sort(colours, std::greater(), [&](QRgb colour) { return counts[colour]; });
+    return { colours.begin(), colours.end() };
+}
+
+/// A picture of the widget without its border.
+QImage insideOf(QWidget *widget)
+{
+    const int margin = widget->height() > 30 ? 7 : 4;
+    return widget->window()
+        ->grab(QRect(widget->mapTo(widget->window(), QPoint(0, 0)), widget->size())
+                   .adjusted(margin, margin, -margin, -margin))
+        .toImage();
+}
+
+double contrast(const QColor &a, const QColor &b)
+{
+    const auto luminance = [](const QColor &colour) {
+        const auto linear = [](double value) {
+            return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
+            + 0.0722 * linear(colour.blueF());
+    };
+    const double ratio = (luminance(a) + 0.05) / (luminance(b) + 0.05);
+    return std::max(ratio, 1 / ratio);
+}
+
 void setDark(bool dark)
 {
     QFile file(SystemAppearance::globalPreferencesFile());
     QVERIFY(QDir().mkpath(QFileInfo(file).path()));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(dark ? "AppleInterfaceStyle=Dark\n" : "AppleInterfaceStyle=Light!\n");
+    file.close();
+    QCoreApplication::processEvents(); // which is when it is seen by who watches the file
 }
 
 } // namespace
@@ -65,12 +110,19 @@ private Q_SLOTS:
     void restartKeepsTheScheme();
     void tablesFollowTheScheme_data();
     void tablesFollowTheScheme();
+    void rowsAndCellsOfEveryTable_data();
+    void rowsAndCellsOfEveryTable();
     void desktopTurnsDark();
+    void preferencesFileTurnsDark();
     void cellsArePaintedInTheSchemesColours();
     void toolbarsAndBottomBarArePainted();
+    void everythingOnABarIsReadable_data();
+    void everythingOnABarIsReadable();
+    void sheetsHaveTheirButtonsAlike();
     void gauge_data();
     void gauge();
     void sheetShowsTheScheme();
+    void everyMnemonicIsItsOwn();
     void okTakesOver();
     void cancelLeavesEverything();
     void originalThenCancel();
@@ -166,6 +218,63 @@ void AppearanceTest::tablesFollowTheScheme()
     QCOMPARE(app.controller->cellTextColour(), text);
 }
 
+void AppearanceTest::rowsAndCellsOfEveryTable_data()
+{
+    tablesFollowTheScheme_data();
+}
+
+void AppearanceTest::rowsAndCellsOfEveryTable()
+{
+    QFETCH(bool, dark);
+    QFETCH(QString, alternating);
+    QFETCH(QColor, ground);
+    QFETCH(QColor, text);
+    setDark(dark);
+    store(u"Quendral_Corvalis_b_List_Alternating_Rows"_s, alternating);
+    JobApplication app;
+    app.launch();
+    const auto check = [&](const char *name) {
+        auto *table = app.element<ListTableView>(name);
+        table->clearSelection();
+        QTRY_COMPARE(table->alternatingRowColors(), alternating == u"1");
+        QCOMPARE(table->model()->rowCount(), 2);
+        const auto cell = [&](int row, int column) {
+            return table->viewport()->grab(table->visualRect(table->model()->index(row, column))).toImage();
+        };
+        for (int column = 0; column < table->model()->columnCount(); ++column) {
+            for (int row = 0; row < 2; ++row) {
+                const auto colours = mostFrequent(cell(row, column));
+                const bool second = row == 1 && alternating == u"1";
+                QCOMPARE(colours.first() != ground, second);
+                // The alternate ground is near the other: no row stands out.
+                QVERIFY(std::abs(colours.first().value() - ground.value()) < 32);
+                // Thin strokes are mixed with the ground; the strongest is nearest to the text's colour.
+                const auto strongest =
+                    std::ranges::max(colours, {}, [&](const QColor &c) { return contrast(c, ground); });
+                QVERIFY2(std::abs(strongest.value() - text.value()) < 64,
+                    qPrintable(u"%1, column %2: %3"_s.arg(QLatin1StringView(name))
+                                   .arg(column)
+                                   .arg(strongest.name())));
+            }
+        }
+        // Below the last row there is the plain ground.
+        const auto below = table->viewport()->grab().toImage();
+        QCOMPARE(below.pixelColor(5, below.height() - 5), ground);
+    };
+    const QStringList files{ app.file(u"Hill.mp4"_s), app.file(u"Mill.mp4"_s) };
+    QVERIFY(app.add({ app.file(u"Hill.mp3"_s), app.file(u"Mill.mp3"_s) }));
+    check("tableviewAudioFiles");
+    app.trigger("submenuItemTabVideo");
+    QVERIFY(app.add(files));
+    check("tableviewVideoFiles");
+    app.trigger("submenuItemTabData");
+    for (const auto &name : { u"Hill"_s, u"Mill"_s }) {
+        app.file(name + u"/content.txt"_s);
+        app.addFolder(app.media.filePath(name));
+    }
+    check("tableviewDataFolders");
+}
+
 void AppearanceTest::desktopTurnsDark()
 {
     QVERIFY(QFile::remove(SystemAppearance::globalPreferencesFile())); // so that the palette decides
@@ -182,6 +291,20 @@ void AppearanceTest::desktopTurnsDark()
     QCOMPARE(app.controller->cellTextColour(), QColor(Qt::white));
     QApplication::setPalette(original);
     QCOMPARE(table->palette().color(QPalette::Base), QColor(Qt::white));
+}
+
+void AppearanceTest::preferencesFileTurnsDark()
+{
+    JobApplication app;
+    app.launch();
+    const auto *table = app.element<ListTableView>("tableviewAudioFiles");
+    QCOMPARE(table->palette().color(QPalette::Base), QColor(Qt::white));
+    setDark(true);
+    QTRY_COMPARE(table->palette().color(QPalette::Base), QColor(Qt::black));
+    QCOMPARE(app.controller->cellTextColour(), QColor(Qt::white));
+    setDark(false);
+    QTRY_COMPARE(table->palette().color(QPalette::Base), QColor(Qt::white));
+    QCOMPARE(app.controller->cellTextColour(), QColor(Qt::black));
 }
 
 void AppearanceTest::cellsArePaintedInTheSchemesColours()
@@ -241,6 +364,86 @@ void AppearanceTest::toolbarsAndBottomBarArePainted()
         QCOMPARE(edge(app.element<QWidget>(name)), QColor(200, 220, 40));
     for (const auto *bar : app.window->findChildren<View_Bottom_Bar_BG_Color *>())
         QCOMPARE(edge(bar), QColor(90, 20, 20));
+}
+
+void AppearanceTest::everythingOnABarIsReadable_data()
+{
+    QTest::addColumn<QColor>("bar");
+    QTest::newRow("shipped") << blueGrey;
+    // Around these greys black and white are equally far.
+    for (const int grey : { 0, 64, 112, 117, 118, 124, 190, 255 })
+        QTest::addRow("grey %d", grey) << QColor(grey, grey, grey);
+    for (const auto &colour : { QColor(Qt::red), QColor(Qt::green), QColor(Qt::blue), QColor(Qt::yellow),
+             QColor(Qt::magenta), QColor(Qt::cyan), QColor(200, 60, 60), QColor(30, 130, 76) })
+        QTest::newRow(qPrintable(colour.name())) << colour;
+}
+
+void AppearanceTest::everythingOnABarIsReadable()
+{
+    QFETCH(QColor, bar);
+    JobApplication app;
+    auto &controller = app.launch();
+    controller.colorToolbar = controller.colorBottomBar = bar;
+    const auto check = [](QWidget *widget, const char *state) {
+        const auto colours = mostFrequent(insideOf(widget));
+        const auto best =
+            std::ranges::max(colours, {}, [&](const QColor &c) { return contrast(c, colours.first()); });
+        // WCAG 2.1, 1.4.3: 4.5 to 1
+        QVERIFY2(contrast(best, colours.first()) >= 4.5,
+            qPrintable(u"%1 %2: %3 on %4"_s.arg(
+                widget->objectName(), QLatin1StringView(state), best.name(), colours.first().name())));
+    };
+    for (const char *tab : { "submenuItemTabAudio", "submenuItemTabISO", "submenuItemTabTools" }) {
+        app.trigger(tab);
+        for (auto *button : app.window->findChildren<BarButton *>()) {
+            if (!button->isVisible() || !button->isEnabled())
+                continue;
+            check(button, "at rest");
+            button->setAttribute(Qt::WA_UnderMouse);
+            check(button, "under the pointer");
+            button->setDown(true);
+            check(button, "pressed");
+            button->setDown(false);
+            button->setAttribute(Qt::WA_UnderMouse, false);
+        }
+        for (auto *label : app.window->findChildren<BarLabel *>())
+            if (label->isVisible() && !label->text().isEmpty())
+                check(label, "at rest");
+    }
+}
+
+void AppearanceTest::sheetsHaveTheirButtonsAlike()
+{
+    class StyleWithSigns : public QProxyStyle {
+    public:
+        int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+            QStyleHintReturn *data) const override
+        {
+            return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                ? 1
+                : QProxyStyle::styleHint(hint, option, widget, data);
+        }
+    };
+    const auto usual = QApplication::style()->name();
+    QApplication::setStyle(new StyleWithSigns);
+    const auto back = qScopeGuard([usual] { QApplication::setStyle(QStyleFactory::create(usual)); });
+    JobApplication app;
+    auto &controller = app.launch();
+    const auto check = [](const QWidget *sheet, bool *okFirst) {
+        const auto *box = sheet->findChild<QDialogButtonBox *>();
+        for (const auto *button : box->buttons())
+            QVERIFY2(button->icon().isNull(), qPrintable(button->text()));
+        *okFirst = box->button(QDialogButtonBox::Ok)->x() < box->button(QDialogButtonBox::Cancel)->x();
+    };
+    bool elsewhere = false;
+    app.trigger("menuitemNewDisc");
+    check(controller.windowNewDisc, &elsewhere);
+    controller.windowNewDisc->OnCancel();
+    bool here = false;
+    open(app);
+    check(controller.windowColors, &here);
+    QCOMPARE(here, elsewhere);
+    click(app, "btnCancel");
 }
 
 void AppearanceTest::gauge_data()
@@ -304,6 +507,27 @@ void AppearanceTest::sheetShowsTheScheme()
     }
     QVERIFY(QTest::qWaitForWindowActive(controller.windowColors));
     QCOMPARE(QApplication::focusWidget()->objectName(), u"btnOK"_s);
+}
+
+void AppearanceTest::everyMnemonicIsItsOwn()
+{
+    JobApplication app;
+    auto &controller = app.launch();
+    open(app);
+    QStringList texts;
+    for (const auto *label : controller.windowColors->findChildren<QLabel *>())
+        texts += label->text();
+    for (const auto *button : controller.windowColors->findChildren<QAbstractButton *>())
+        texts += button->text();
+    QHash<QKeySequence, QString> taken;
+    for (const auto &text : texts) {
+        const auto mnemonic = QKeySequence::mnemonic(text);
+        if (mnemonic.isEmpty())
+            continue;
+        QVERIFY2(!taken.contains(mnemonic), qPrintable(taken[mnemonic] + u" and "_s + text));
+        taken[mnemonic] = text;
+    }
+    QVERIFY(taken.size() >= 7);
 }
 
 void AppearanceTest::okTakesOver()

@@ -52,8 +52,11 @@ void AppDelegate::OK_Window_Colors()
         ColourScheme::storeColour(*preferences, role, this->*field);
     savePreferences();
     paintTableBackgrounds(b_List_Alternating_Rows == 1);
-    for (ListTableView *table : {ui->tableviewVideoFiles, ui->tableviewAudioFiles, ui->tableviewDataFolders})
+    for (ListTableView *table : {ui->tableviewVideoFiles, ui->tableviewAudioFiles, ui->tableviewDataFolders}) {
+        const auto selected = table->selectedRows();
         reloadTable(table);
+        table->selectRows(selected);
+    }
     schedule(timerSetAlternatingRows, &AppDelegate::TimerSetAlternatingRowsRoutine);
     schedule(timerForceColorsAtStartup, &AppDelegate::TimerForceColorsAtStartupRoutine);
 }

@@ -124,6 +124,7 @@ private Q_SLOTS:
     void sheetShowsTheScheme();
     void everyMnemonicIsItsOwn();
     void okTakesOver();
+    void okKeepsTheSelection();
     void cancelLeavesEverything();
     void originalThenCancel();
     void originalThenOk();
@@ -549,6 +550,21 @@ void AppearanceTest::okTakesOver()
     // What was not changed keeps all its digits.
     for (const Role role : { Role::TableBackground, Role::TableForeground, Role::Toolbar, Role::BottomBar })
         QCOMPARE(stored(ColourScheme::valueKey(role)), ColourScheme::toText(ColourScheme::shipped(role)));
+}
+
+void AppearanceTest::okKeepsTheSelection()
+{
+    JobApplication app;
+    app.launch();
+    QVERIFY(app.add({ app.file(u"a.mp3"_s), app.file(u"b.mp3"_s), app.file(u"c.mp3"_s) }));
+    auto *table = app.element<ListTableView>("tableviewAudioFiles");
+    for (const QList<int> &rows : { QList<int>{ 0, 2 }, QList<int>{ 1 }, QList<int>{} }) {
+        table->selectRows(rows);
+        open(app);
+        inSheet<ColourWell>(app, "colorToolbar")->setColour(QColor(10, 20, int(rows.size())));
+        click(app, "btnOK");
+        QCOMPARE(table->selectedRows(), rows);
+    }
 }
 
 void AppearanceTest::cancelLeavesEverything()

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <numeric>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -136,9 +137,9 @@ void AppDelegate::tableView_sortDescriptorsDidChange(ListTableView *table)
 void AppDelegate::reorderList(const ListTableView *table, const QList<qsizetype> &order, QList<int> &selected)
 {
     if (table == ui->tableviewDataFolders)
-        arrayDataFolders = compilation::reordered(arrayDataFolders, order);
+        arrayDataFolders = compilation::reordered(std::move(arrayDataFolders), order);
     else
-        arrayMediaFiles = compilation::reordered(arrayMediaFiles, order);
+        arrayMediaFiles = compilation::reordered(std::move(arrayMediaFiles), order);
     if (selected.isEmpty())
         return;
     QList<int> newPlace(order.size());

@@ -25,42 +25,53 @@ QCollator fileBrowserCollator()
 
 using Keys = std::vector<QCollatorSortKey>;
 
-Keys keysOf(const QStringList &texts, qsizetype from, qsizetype to)
-{
-    const QCollator collator = fileBrowserCollator();
+/// A stretch of the texts, sorted by itself.
+struct Part {
+    qsizetype first = 0; ///< the position of the text of the first key
     Keys keys;
-    keys.reserve(static_cast<std::size_t>(to - from));
-    for (qsizetype i = from; i < to; ++i)
-        keys.push_back(collator.sortKey(texts.at(i)));
-    return keys;
+    std::vector<qsizetype> order; ///< positions among all texts
+
+    const QCollatorSortKey &key(qsizetype position) const { return keys[static_cast<std::size_t>(position - first)]; }
+};
+
+bool precedes(const QCollatorSortKey &a, const QCollatorSortKey &b, bool ascending)
+{
+    return ascending ? a.compare(b) < 0 : b.compare(a) < 0;
 }
 
-/// Making the keys is most of the work of sorting a long list; a second core takes half of it.
-Keys sortKeys(const QStringList &texts)
+Part sortedPart(const QStringList &texts, qsizetype from, qsizetype to, bool ascending)
 {
-    constexpr qsizetype longList = 2000;
-    const qsizetype half = texts.size() < longList ? texts.size() : texts.size() / 2;
-    std::future<Keys> rest;
-    if (half < texts.size())
-        rest = std::async(std::launch::async, keysOf, std::cref(texts), half, texts.size());
-    Keys keys = keysOf(texts, 0, half);
-    if (rest.valid())
-        std::ranges::move(rest.get(), std::back_inserter(keys));
-    return keys;
+    const QCollator collator = fileBrowserCollator();
+    Part part;
+    part.first = from;
+    part.keys.reserve(static_cast<std::size_t>(to - from));
+    for (qsizetype i = from; i < to; ++i)
+        part.keys.push_back(collator.sortKey(texts.at(i)));
+    part.order.resize(part.keys.size());
+    std::iota(part.order.begin(), part.order.end(), from);
+    std::ranges::stable_sort(part.order, [&part, ascending](qsizetype a, qsizetype b) {
+        return precedes(part.key(a), part.key(b), ascending);
+    });
+    return part;
 }
 
 } // namespace
 
 QList<qsizetype> sortedOrder(const QStringList &texts, bool ascending)
 {
-    const Keys keys = sortKeys(texts);
-    QList<qsizetype> order(texts.size());
-    std::iota(order.begin(), order.end(), qsizetype(0));
-    const auto key = [&keys](qsizetype i) -> const QCollatorSortKey & { return keys[static_cast<std::size_t>(i)]; };
-    if (ascending)
-        std::ranges::stable_sort(order, [&](qsizetype a, qsizetype b) { return key(a).compare(key(b)) < 0; });
-    else
-        std::ranges::stable_sort(order, [&](qsizetype a, qsizetype b) { return key(b).compare(key(a)) < 0; });
+    // A second core takes half of a long list.
+    constexpr qsizetype longList = 2000;
+    const qsizetype half = texts.size() < longList ? texts.size() : texts.size() / 2;
+    std::future<Part> second;
+    if (half < texts.size())
+        second = std::async(std::launch::async, sortedPart, std::cref(texts), half, texts.size(), ascending);
+    const Part head = sortedPart(texts, 0, half, ascending);
+    const Part tail = second.valid() ? second.get() : Part{};
+    const auto key = [&](qsizetype i) -> const QCollatorSortKey & { return (i < half ? head : tail).key(i); };
+    QList<qsizetype> order;
+    order.reserve(texts.size());
+    std::ranges::merge(head.order, tail.order, std::back_inserter(order),
+                       [&](qsizetype a, qsizetype b) { return precedes(key(a), key(b), ascending); });
     return order;
 }
 

@@ -4,20 +4,22 @@
 #include <QList>
 #include <QStringList>
 
+#include <utility>
+
 namespace compilation {
 
 /// The order of the positions of `texts` that sorts them, equal ones in their present order.
 /// Descending compares the second with the first.
 QList<qsizetype> sortedOrder(const QStringList &texts, bool ascending);
 
-/// `list` in the given order of its positions.
+/// `list` in the given order of its positions, each of which occurs once.
 template <class T>
-QList<T> reordered(const QList<T> &list, const QList<qsizetype> &order)
+QList<T> reordered(QList<T> list, const QList<qsizetype> &order)
 {
     QList<T> result;
     result.reserve(list.size());
     for (const qsizetype position : order)
-        result.append(list.at(position));
+        result.append(std::move(list[position]));
     return result;
 }
 

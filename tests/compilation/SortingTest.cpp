@@ -25,6 +25,7 @@ private Q_SLOTS:
     void keepsTheOrderOfEqualTexts();
     void reordersRecords();
     void sortsLongLists();
+    void keepsTheOrderOfEqualTextsInLongLists();
 };
 
 void SortingTest::sortsAsAFileBrowser_data()
@@ -107,6 +108,25 @@ void SortingTest::sortsLongLists()
     const QStringList result = sorted(texts, true);
     for (int i = 0; i < 20000; ++i)
         QCOMPARE(result.at(i), u"Track %1.mp3"_s.arg(i));
+}
+
+/// Also where the equal texts lie far apart, in stretches that are sorted by themselves.
+void SortingTest::keepsTheOrderOfEqualTextsInLongLists()
+{
+    constexpr qsizetype count = 9999;
+    constexpr qsizetype groups = 7;
+    QStringList texts;
+    for (qsizetype i = 0; i < count; ++i)
+        texts.append(u"Album %1"_s.arg(i % groups));
+    QList<qsizetype> ascending, descending;
+    for (qsizetype group = 0; group < groups; ++group) {
+        for (qsizetype i = group; i < count; i += groups)
+            ascending.append(i);
+        for (qsizetype i = groups - 1 - group; i < count; i += groups)
+            descending.append(i);
+    }
+    QCOMPARE(compilation::sortedOrder(texts, true), ascending);
+    QCOMPARE(compilation::sortedOrder(texts, false), descending);
 }
 
 QTEST_GUILESS_MAIN(SortingTest)

@@ -155,7 +155,7 @@ private:
                                      S_IRUSR | S_IWUSR));
         if (to < 0)
             return fail('/' + name, errno);
-        const bool copied = copyContent(from, to, info.st_size);
+        const bool copied = copyContent(from, to, info);
         const int error = errno;
         if (copied && !m_state.stop)
             return keepModeAndTimes(to, info);
@@ -165,8 +165,9 @@ private:
             fail('/' + name, error);
     }
 
-    bool copyContent(int from, int to, off_t size)
+    bool copyContent(int from, int to, const struct stat &info)
     {
+        off_t size = info.st_size;
         if (size == 0)
             return true;
         if (m_canClone) {
@@ -174,7 +175,19 @@ private:
                 return true;
             m_canClone = false;
         }
-        // Regions of data one by one; what lies between them is a hole in the copy too.
+        // Looking for holes and setting the length are a sixth of the work on a small file, so they are
+        // left out where the blocks show that there is no hole.
+        constexpr off_t blockSize = 512; // of st_blocks, whatever the file system's is
+        const bool whole = info.st_blocks >= (size + blockSize - 1) / blockSize;
+        if (!(whole ? copyRange(from, to, 0, size, size) : copyRegions(from, to, size)))
+            return false;
+        struct stat copy;
+        return ::fstat(to, &copy) == 0 && (copy.st_size == size || ::ftruncate(to, size) == 0);
+    }
+
+    /// Copies the regions of data one by one; what lies between them is a hole in the copy too.
+    bool copyRegions(int from, int to, off_t &size)
+    {
         off_t end = 0;
         while (end < size && !m_state.stop) {
             const off_t start = ::lseek(from, end, SEEK_DATA);
@@ -186,7 +199,7 @@ private:
             if (!copyRange(from, to, region, end, size))
                 return false;
         }
-        return ::ftruncate(to, size) == 0;
+        return true;
     }
 
     /// Copies from `start` to `end`. A file that ends before its `size` is as long as its content.

@@ -107,6 +107,7 @@ private Q_SLOTS:
     void keepsLinksAsTheyAre();
     void keepsSecondNames();
     void keepsHoles();
+    void copiesHolesWithRoomReservedBehindTheEnd();
     void copiesOddNames();
     void copiesDeepTrees_data();
     void copiesDeepTrees();
@@ -285,6 +286,23 @@ void FolderStagingTest::keepsHoles()
         QCOMPARE(read, text);
     }
     ::close(copy);
+}
+
+/// Its blocks are enough for all its bytes, yet some of these have none.
+void FolderStagingTest::copiesHolesWithRoomReservedBehindTheEnd()
+{
+    constexpr off_t size = 300'000;
+    const ScratchFolder scratch;
+    makeFolder(scratch / "source");
+    makeFolder(scratch / "disc");
+    writeFile(scratch / "source/file", "start");
+    const int file = check(::open((scratch / "source/file").c_str(), O_WRONLY | O_CLOEXEC), "open");
+    check(::ftruncate(file, size), "ftruncate");
+    check(::fallocate(file, FALLOC_FL_KEEP_SIZE, size, 2 * size), "fallocate");
+    ::close(file);
+    QVERIFY(infoOf(scratch / "source/file").st_blocks * 512 >= size);
+    QVERIFY(copiesInSilence(scratch / "source", scratch / "disc"));
+    QCOMPARE(readFile(scratch / "disc/source/file"), readFile(scratch / "source/file"));
 }
 
 void FolderStagingTest::copiesOddNames()

@@ -1,8 +1,6 @@
-// corvalis-bench add FILE...   list these files as the file dialog would, and print the seconds it took
-// corvalis-bench sort ROWS     sort a list of so many made-up rows by each column both ways, refresh the
-// table
-//                              and paint it; print the seconds of the slowest
-// The whole window is there, off screen. Run it with a HOME of its own: starting empties the working folders.
+// What is done in the window. It is all there, off screen.
+#include "Clock.h"
+#include "Work.h"
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
 #include "compilation/ListTableModel.h"
@@ -11,12 +9,14 @@
 #include "ui_MainWindow.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QRandomGenerator>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
+#include <functional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -33,24 +33,22 @@ public:
     QList<QUrl> choose(const OpenPanel &, QWidget *) override { return {}; }
 };
 
-double seconds(const QElapsedTimer &clock)
+/// The started program without a person; answers what `work` does.
+int inWindow(const std::function<int(AppDelegate &)> &work)
 {
-    return static_cast<double>(clock.nsecsElapsed()) / 1e9;
-}
-
-int add(AppDelegate &controller, const QStringList &paths)
-{
-    QList<QUrl> urls;
-    for (const QString &path : paths)
-        urls.append(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
-    QElapsedTimer clock;
-    QObject::connect(&controller, &AppDelegate::addingEnded, &controller, [&] {
-        std::printf("%.4f\n", seconds(clock));
-        QApplication::exit(controller.arrayMediaFiles.size() == urls.size() ? 0 : 1);
-    });
-    clock.start();
-    controller.addMediaFiles(AppDelegate::ListKind::Audio, urls);
-    return QApplication::exec();
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    int count = 1;
+    std::array<char, 15> name{ "corvalis-bench" };
+    std::array<char *, 2> values{ name.data(), nullptr };
+    QApplication application(count, values.data());
+    QCoreApplication::setApplicationName(u"corvalis"_s);
+    NoQuestions questions;
+    MainWindow window;
+    AppDelegate controller(&window, Surroundings::ofThisMachine(&questions));
+    controller.awakeFromNib();
+    controller.applicationDidFinishLaunching();
+    QApplication::processEvents();
+    return work(controller);
 }
 
 /// Rows as a large collection has them: few folders, names that share long beginnings, numbers in them.
@@ -78,48 +76,52 @@ QList<NodeMediaFile> madeUpRows(qsizetype count)
     return rows;
 }
 
-int sort(AppDelegate &controller, qsizetype count)
+/// Seconds and processor seconds for sorting by this column.
+std::pair<double, double> sortBy(int column, AppDelegate &controller)
 {
     ListTableView *table = controller.ui->tableviewAudioFiles;
-    controller.arrayMediaFiles = madeUpRows(count);
-    controller.refreshTableAudioFiles();
-    double slowest = 0;
-    for (int column = 0; column < ListTableModel::MediaColumnCount; ++column) {
-        for (int direction = 0; direction < 2; ++direction) {
-            std::shuffle(
-                controller.arrayMediaFiles.begin(), controller.arrayMediaFiles.end(), QRandomGenerator(7));
-            table->setSelectedColumn(column);
-            QElapsedTimer clock;
-            clock.start();
-            controller.tableView_sortDescriptorsDidChange(table);
-            table->viewport()->repaint();
-            const double took = seconds(clock);
-            std::fprintf(stderr, "column %d: %.3f s\n", column, took);
-            slowest = std::max(slowest, took);
-        }
-    }
-    std::printf("%.4f\n", slowest);
-    return 0;
+    std::shuffle(controller.arrayMediaFiles.begin(), controller.arrayMediaFiles.end(), QRandomGenerator(7));
+    table->setSelectedColumn(column);
+    const Clock clock;
+    controller.tableView_sortDescriptorsDidChange(table);
+    table->viewport()->repaint();
+    return { clock.seconds(), clock.processorSeconds() };
 }
 
 } // namespace
 
-int main(int count, char **values)
+int addFiles(const QStringList &paths)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(count, values);
-    QCoreApplication::setApplicationName(u"corvalis"_s);
-    const QStringList arguments = QCoreApplication::arguments().mid(1);
-    if (arguments.size() < 2 || (arguments[0] != u"add" && arguments[0] != u"sort")) {
-        std::fputs("usage: corvalis-bench add FILE... | sort ROWS\n", stderr);
-        return 2;
-    }
-    NoQuestions questions;
-    MainWindow window;
-    AppDelegate controller(&window, Surroundings::ofThisMachine(&questions));
-    controller.awakeFromNib();
-    controller.applicationDidFinishLaunching();
-    QApplication::processEvents();
-    return arguments[0] == u"add" ? add(controller, arguments.mid(1))
-                                  : sort(controller, arguments[1].toLongLong());
+    QList<QUrl> urls;
+    for (const QString &path : paths)
+        urls.append(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
+    return inWindow([&urls](AppDelegate &controller) {
+        const Clock clock;
+        QObject::connect(&controller, &AppDelegate::addingEnded, &controller, [&] {
+            printCost(clock.seconds(), clock.processorSeconds());
+            QApplication::exit(controller.arrayMediaFiles.size() == urls.size() ? 0 : 1);
+        });
+        controller.addMediaFiles(AppDelegate::ListKind::Audio, urls);
+        return QApplication::exec();
+    });
+}
+
+int sortRows(const QStringList &count)
+{
+    const qsizetype rows = count[0].toLongLong();
+    return inWindow([rows](AppDelegate &controller) {
+        controller.arrayMediaFiles = madeUpRows(rows);
+        controller.refreshTableAudioFiles();
+        std::pair<double, double> slowest{ 0, 0 };
+        for (int column = 0; column < ListTableModel::MediaColumnCount; ++column) {
+            for (int direction = 0; direction < 2; ++direction) {
+                const auto cost = sortBy(column, controller);
+                std::fprintf(
+                    stderr, "column %d: %.3f s, processor %.3f s\n", column, cost.first, cost.second);
+                slowest = std::max(slowest, cost);
+            }
+        }
+        printCost(slowest.first, slowest.second);
+        return 0;
+    });
 }

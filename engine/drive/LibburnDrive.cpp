@@ -221,7 +221,7 @@ LibburnDrive::LibburnDrive(burn_drive_info *infos, std::string name)
 
 LibburnDrive::~LibburnDrive()
 {
-    release(false);
+    release(m_leave);
     burn_drive_info_free(m_infos);
 }
 
@@ -230,10 +230,14 @@ burn_drive *LibburnDrive::handle() const
     return m_infos[0].drive;
 }
 
-void LibburnDrive::release(bool eject)
+void LibburnDrive::release(Leave how)
 {
-    if (m_grabbed)
-        burn_drive_release(handle(), eject ? 1 : 0);
+    if (!m_grabbed)
+        return;
+    if (how == Leave::locked)
+        burn_drive_leave_locked(handle(), 0);
+    else
+        burn_drive_release(handle(), how == Leave::open ? 1 : 0);
     m_grabbed = false;
 }
 

@@ -54,8 +54,14 @@ public:
     burn::burn_drive *handle() const;
     const std::string &name() const { return m_name; }
 
-    /// Gives the drive back now, with its tray opened if `eject`.
-    void release(bool eject);
+    /// How the tray is left. libburn locks it as long as it has the drive.
+    enum class Leave { unlocked, open, locked };
+
+    /// How the end of the object leaves the tray; unlocked when nothing is said.
+    void leave(Leave how) { m_leave = how; }
+
+    /// Gives the drive back now.
+    void release(Leave how);
 
     /// How far a write has come when it ends.
     struct Outcome {
@@ -101,6 +107,7 @@ private:
     burn::burn_drive_info *m_infos;
     std::string m_name;
     bool m_grabbed = true;
+    Leave m_leave = Leave::unlocked;
 };
 
 /// How much of the drive's buffer is filled, in percent; no value while the drive does not tell.

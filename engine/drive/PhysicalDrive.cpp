@@ -144,7 +144,7 @@ Result<void> PhysicalLease::writeAudio(const audio::AudioDisc &disc, const Contr
 
 Result<void> PhysicalLease::reload()
 {
-    m_drive->release(false);
+    m_drive->release(LibburnDrive::Leave::unlocked);
     m_drive.reset();
     auto drive = LibburnDrive::grab(m_device, m_name, true, true);
     if (!drive)
@@ -159,10 +159,10 @@ void PhysicalLease::present()
     // tray in by itself leaves it open with the finished disc.
     if (!m_drive)
         return;
-    m_drive->release(true);
+    m_drive->release(LibburnDrive::Leave::open);
     m_drive.reset();
     if (auto drive = LibburnDrive::grab(m_device, m_name, true, true))
-        (*drive)->release(false);
+        (*drive)->release(LibburnDrive::Leave::unlocked);
 }
 
 Result<void> PhysicalLease::formatIfNeeded(const Control &control)
@@ -262,6 +262,9 @@ Result<std::unique_ptr<Lease>> PhysicalDrive::acquire(Purpose purpose)
     auto drive = LibburnDrive::grab(device, name(), exclusive, false);
     if (!drive)
         return drive.error();
+    // The kernel has locked the tray over a mounted disc.
+    if (!exclusive)
+        (*drive)->leave(LibburnDrive::Leave::locked);
     return std::unique_ptr<Lease>(std::make_unique<PhysicalLease>(std::move(drive).value(), device));
 }
 
@@ -274,7 +277,7 @@ Result<void> PhysicalDrive::eject()
     auto drive = LibburnDrive::grab(m_record.device, name(), true, false);
     if (!drive)
         return drive.error();
-    (*drive)->release(true);
+    (*drive)->release(LibburnDrive::Leave::open);
     if (trayOf(m_record.device) == Tray::loaded)
         return Error{ Exit::failed,
             "The tray of " + name()

@@ -123,6 +123,22 @@ private Q_SLOTS:
         }
     }
 
+    void aDiscCanBeFilledToItsLastBlock()
+    {
+        Session measured({ cdR });
+        const QString said = sentence(measured.burn(1024));
+        const int overhead = said.section(u"need "_s, 1).section(u' ', 0, 0).toInt() - 1024;
+        QVERIFY(overhead > 0);
+        for (const int profile :
+            { cdR, dvdR, dvdRwSequential, dvdRwRestricted, dvdPlusR, dvdPlusRw, bdR, bdRe }) {
+            Session session({ profile });
+            QCOMPARE(sentence(session.burn(1024 - overhead)), QString());
+            QCOMPARE(session.drive.disc.blocks.lastKey(), 1023);
+            Session larger({ profile });
+            QVERIFY(sentence(larger.burn(1025 - overhead)).contains(u"need 1025 blocks"_s));
+        }
+    }
+
     // A drive may have no answer about speeds, as old ones do; it chooses for itself then.
     void withoutSpeedsTheDriveChooses()
     {

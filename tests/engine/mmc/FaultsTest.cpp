@@ -1,5 +1,6 @@
 // Drives that refuse, fail, or go away, and what is tried next and said.
 #include "Session.h"
+#include "drive/LibburnDrive.h"
 
 #include <chrono>
 #include <semaphore>
@@ -246,6 +247,21 @@ private Q_SLOTS:
         QCOMPARE(sentence(session.physical.close()), QString());
         QVERIFY(!session.drive.trayOpen);
         QVERIFY(!session.drive.trayLocked);
+    }
+
+    void theTrayOfAMountedDiscStaysLocked()
+    {
+        using engine::drive::LibburnDrive;
+        Session session({ cdR });
+        for (const bool locked : { true, false }) {
+            auto grabbed = LibburnDrive::grab(session.drive.device().toStdString(), "drive 1", true, false);
+            QVERIFY(grabbed);
+            QVERIFY(session.drive.trayLocked);
+            if (locked)
+                (*grabbed)->leave(LibburnDrive::Leave::locked);
+            std::move(grabbed).value().reset();
+            QCOMPARE(session.drive.trayLocked, locked);
+        }
     }
 
     void aTrayThatDoesNotMoveIsTold()

@@ -148,6 +148,21 @@ private Q_SLOTS:
         }
     }
 
+    // Such a disc has no table of contents, and libburn calls it unsuitable; erasing is its cure.
+    void aCdRwAfterAKilledWriteCanBeErased()
+    {
+        Session session(written(cdRw));
+        session.drive.disc.state = State::appendable;
+        session.drive.refuse = [&](const Command &command) -> std::optional<Sense> {
+            if (command.opcode() == readToc && (command.number(2, 1) & 0x0f) == 2)
+                return Sense{ 5, 0x24, 0x00 };
+            return {};
+        };
+        QVERIFY2(session.status().contains(u"Writability: erasable"_s), qPrintable(session.status()));
+        QCOMPARE(sentence(session.burn()), QString());
+        QCOMPARE(session.drive.commandsOf(blankDisc).size(), 1);
+    }
+
     void aRefusedBlankingIsTold()
     {
         Session session(written(cdRw));

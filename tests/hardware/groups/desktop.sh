@@ -1,6 +1,18 @@
 # shellcheck shell=bash disable=SC2154,SC2034,SC2317
 # UDisks2, which mounts discs on a desktop, is asked to unmount them. Needs a system bus and UDisks2.
 
+# In the guest nobody is logged in, so that UDisks2 serves an ordinary user only by a rule.
+allow_users() {
+    mkdir -p /etc/polkit-1/rules.d
+    chmod 755 /etc/polkit-1/rules.d
+    cat >/etc/polkit-1/rules.d/90-corvalis-test.rules <<'RULE'
+polkit.addRule(function(action, subject) {
+    if (action.id.indexOf("org.freedesktop.udisks2.") == 0 && subject.user == "nobody") return polkit.Result.YES;
+});
+RULE
+}
+! in_lab || allow_users
+
 services=()
 # serve NAME PROGRAM: start a service of the system bus where none runs.
 serve() {
@@ -46,4 +58,34 @@ udisks_in_use() {
     expect_refusal 1 'mounted at .* cannot be unmounted: close the programs'
 }
 check udisks-volume-in-use udisks_in_use
+# A person at the desktop may not call umount; only UDisks2 can take away what it mounted for them.
+as_a_person() {
+    call drutil tray close -drive "$number"
+    as_user "$(stat -c %g "$device")"
+    until_true 15 "${user[@]}" udisksctl mount -b "$device" || fail "UDisks2 does not mount for a user"
+    local place
+    place=$(findmnt -n -o TARGET -S "$device")
+    call "${user[@]}" umount "$place"
+    [ "$status" != 0 ] || fail "umount works for a user, so this proves nothing"
+    call "${user[@]}" drutil tray eject -drive "$number"
+    expect_status 0
+    ! findmnt -n -S "$device" || fail "still mounted"
+}
+! in_lab || check eject-as-a-person-through-udisks as_a_person
+
+burn_over_mounted() {
+    put_in dvd+r
+    odd_folder f
+    chmod -R a+rX f
+    as_user "$(stat -c %g "$device")"
+    call "${user[@]}" drutil burn f -drive "$number"
+    expect_status 0
+    until_true 15 udisksctl mount -b "$device" || fail "UDisks2 does not mount what was just written"
+    place=$(findmnt -n -o TARGET -S "$device")
+    digests f >sent
+    digests "$place" >found
+    udisksctl unmount -b "$device"
+    cmp sent found || fail "other files on the disc: $(diff sent found | head -3)"
+}
+check desktop-mounts-what-was-written burn_over_mounted
 [ ${#services[@]} = 0 ] || { kill "${services[@]}"; wait "${services[@]}"; } 2>/dev/null

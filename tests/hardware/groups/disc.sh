@@ -109,6 +109,17 @@ status_mounted() {
 }
 check status-while-mounted status_mounted
 
+# The kernel locks the tray over a mounted disc; whoever only looks leaves that so.
+mounted_tray() {
+    pause_udev
+    mount -o ro "$device" "$point" || fail "mount"
+    call drutil status -drive "$number"
+    expect_status 0
+    ! sg_start --eject "$device" || fail "the tray of the mounted disc opens"
+}
+check status-keeps-mounted-tray-locked mounted_tray
+resume_udev
+
 mounted_in_use() {
     mount -o ro "$device" "$point" || fail "mount"
     (cd "$point" && exec sleep 100) &

@@ -149,6 +149,20 @@ shrinking() {
 }
 check source-shrinks shrinking
 
+# What is added meanwhile is not on the disc, and the disc is whole.
+growing() {
+    put_in dvd+r
+    big_folder f 16
+    cp -r f before
+    in_background drutil burn f -drive "$number"
+    until_writing
+    head -c 1M /dev/urandom >>f/big.bin
+    end_of_job 90
+    expect_status 0
+    compare_disc before
+}
+check source-grows growing
+
 vanishing() {
     put_in dvd+r
     mkdir f

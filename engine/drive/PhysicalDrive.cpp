@@ -262,7 +262,7 @@ Result<std::unique_ptr<Lease>> PhysicalDrive::acquire(Purpose purpose)
     auto drive = LibburnDrive::grab(device, name(), exclusive, false);
     if (!drive)
         return drive.error();
-    // The kernel has locked the tray over a mounted disc.
+    // The kernel or udev has locked the tray over a mounted disc.
     if (!exclusive)
         (*drive)->leave(LibburnDrive::Leave::locked);
     return std::unique_ptr<Lease>(std::make_unique<PhysicalLease>(std::move(drive).value(), device));

@@ -109,10 +109,11 @@ status_mounted() {
 }
 check status-while-mounted status_mounted
 
-# The kernel locks the tray over a mounted disc; whoever only looks leaves that so.
+# The kernel or udev locks the tray over a mounted disc; whoever only looks leaves that so.
 mounted_tray() {
     pause_udev
     mount -o ro "$device" "$point" || fail "mount"
+    sg_prevent "$device" || fail "the drive has no lock"
     call drutil status -drive "$number"
     expect_status 0
     ! sg_start --eject "$device" || fail "the tray of the mounted disc opens"

@@ -98,6 +98,19 @@ private Q_SLOTS:
         QCOMPARE(session.drive.disc.state, State::complete);
     }
 
+    void aDvdRwThatTakesOneSessionAtOnceOnlyIsNotTriedOtherwise()
+    {
+        Session session({ dvdRwSequential });
+        session.drive.disc.incremental = false;
+        session.drive.refuse = [](const Command &command) -> std::optional<Sense> {
+            return command.opcode() == reserveTrack ? std::optional(refused) : std::nullopt;
+        };
+        const QString said = sentence(session.burn());
+        QVERIFY2(said.startsWith(u"The write to drive 1 failed ("_s), qPrintable(said));
+        QVERIFY2(said.endsWith(u"The disc in drive 1 is still blank."_s), qPrintable(said));
+        QVERIFY(session.drive.commandsOf(write10).isEmpty());
+    }
+
     // What took blocks is not begun again.
     void anErrorInMidWriteSpoilsADiscThatIsWrittenOnce()
     {

@@ -290,7 +290,7 @@ Drive::Answer Drive::tellConfiguration(const Command &)
     QByteArray features = feature(0x0000, true, list);
     features += feature(0x0001, true, QByteArray("\0\0\0\x07\0\0\0\0", 8)); // core, Serial ATA
     features += feature(0x0003, true, QByteArray("\x29\0\0\0", 4)); // removable medium: tray, lock, eject
-    features += feature(0x0021, sequentialDvd || profile == cdR || profile == cdRw,
+    features += feature(0x0021, disc.incremental && (sequentialDvd || profile == cdR || profile == cdRw),
         QByteArray("\0\x01\0\x01\x10\0\0\0", 8)); // incremental streaming writable
     features += feature(0x0023, profile == bdRe, QByteArray("\x0f\0\0\0\0\0\0\0", 8)); // formattable
     features += feature(0x002a, profile == dvdPlusRw, QByteArray("\x01\0\0\0", 4));
@@ -513,6 +513,8 @@ Drive::Answer Drive::blank(const Command &command)
         return { {}, incompatibleMedium };
     if (disc.profile == dvdRwRestricted)
         disc.profile = dvdRwSequential;
+    // After a minimal blanking a DVD-RW takes one session at once only (MMC-6 4.3.4).
+    disc.incremental = disc.profile != dvdRwSequential || type == 0;
     disc.state = State::blank;
     disc.blocks.clear();
     m_next = m_reserved = 0;

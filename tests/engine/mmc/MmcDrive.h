@@ -43,6 +43,7 @@ struct Disc {
     bool formatted = true; ///< matters to DVD+RW, DVD-RAM and BD-RE
     qint32 capacity = 1024; ///< blocks, whole clusters; small, so that a full erase is quick
     QMap<qint32, QByteArray> blocks = {}; ///< by address
+    bool incremental = true; ///< takes sessions without a size told before
     bool damaged = false; ///< its last track broke off
 };
 

@@ -136,12 +136,12 @@ in_background() {
 # until_writing [Erasing]: the job in the background has told a percentage.
 until_writing() {
     local n
-    for ((n = 0; n < 600; n++)); do
+    for ((n = 0; n < 1800; n++)); do
         ! grep -Eq "^${1:-Writing}: [0-9]" job.out || return 0
         kill -0 "$job" 2>/dev/null || fail "the write ended early: $(tail -1 job.out) $(cat job.err)"
         sleep 0.1
     done
-    fail "nothing was done within a minute: $(tail -1 job.out)"
+    fail "nothing was done within three minutes: $(tail -1 job.out)"
 }
 # end_of_job SECONDS: wait for the job; what it did is then in $status, out and err.
 end_of_job() {

@@ -59,7 +59,7 @@ second_writer() {
     expect_refusal 1 "is busy with another program; wait until that has ended"
     call drutil tray eject -drive "$number"
     expect_refusal 1 "is busy"
-    end_of_job 90
+    end_of_job 240
     expect_status 0
     compare_disc f
 }
@@ -71,7 +71,7 @@ stopped() { # SIGNAL STATUS
     in_background drutil burn f -drive "$number"
     until_writing
     kill "-$1" "$job"
-    end_of_job 60
+    end_of_job 180
     expect_refusal "$2" 'Stopped\. The disc in drive . is spoilt\.'
     call drutil status -drive "$number"
     expect_status 0
@@ -93,7 +93,7 @@ two_signals() {
     sleep 0.2
     kill -INT "$job"
     kill -TERM "$job"
-    end_of_job 60
+    end_of_job 180
     expect_refusal 143 'Stopped\. The disc in drive . is spoilt'
     next_run_works
 }
@@ -105,7 +105,7 @@ killed() {
     in_background drutil burn f -drive "$number"
     until_writing
     kill -KILL "$job"
-    end_of_job 60
+    end_of_job 180
     [ "$status" = 137 ] || fail "exit status $status"
     call drutil status -drive "$number"
     expect_status 0
@@ -131,7 +131,7 @@ hangup() {
     in_background drutil burn f -drive "$number"
     until_writing
     kill -HUP "$job"
-    end_of_job 90
+    end_of_job 240
     expect_status 0
     compare_disc f
 }
@@ -143,7 +143,7 @@ shrinking() {
     in_background drutil burn f -drive "$number"
     until_writing
     truncate -s 1M f/big.bin
-    end_of_job 60
+    end_of_job 180
     expect_refusal 1 'big\.bin.*The disc in drive . is spoilt'
     next_run_works
 }
@@ -157,7 +157,7 @@ growing() {
     in_background drutil burn f -drive "$number"
     until_writing
     head -c 1M /dev/urandom >>f/big.bin
-    end_of_job 90
+    end_of_job 240
     expect_status 0
     compare_disc before
 }
@@ -170,7 +170,7 @@ vanishing() {
     in_background drutil burn f -drive "$number"
     until_writing
     rm -r f
-    end_of_job 60
+    end_of_job 180
     expect_refusal 1 'part[0-9].*The disc in drive . is spoilt'
 }
 check source-vanishes vanishing
@@ -181,7 +181,7 @@ pulled() {
     in_background drutil burn f -drive "$number"
     until_writing
     pull_drive
-    end_of_job 60
+    end_of_job 180
     expect_refusal 1 'The connection to drive . was lost during the write; check its cable'
     call drutil list
     expect_status 0

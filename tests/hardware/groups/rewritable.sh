@@ -59,7 +59,7 @@ stopped() { # SIGNAL STATUS
     in_background drutil burn f -drive "$number"
     until_writing
     kill "-$1" "$job"
-    end_of_job 60
+    end_of_job 180
     [ "$status" = "$2" ] || fail "exit status $status"
     expect_medium 'erasable, overwritable'
     small_folder next
@@ -78,7 +78,7 @@ erase_full_stopped() {
     in_background drutil erase full -drive "$number"
     until_writing Erasing
     kill -TERM "$job"
-    end_of_job 60
+    end_of_job 180
     expect_refusal 143 'Stopped\. What the disc in drive . holds is incomplete; it can be written again'
     expect_medium 'erasable, overwritable'
 }

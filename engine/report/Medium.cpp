@@ -95,9 +95,13 @@ std::optional<MediumKind> kindOfInsertName(std::string_view name)
 std::string insertNames()
 {
     std::string names;
-    for (const KindFacts &row : kinds)
-        if (row.insertName)
-            names += (names.empty() ? "" : ", ") + std::string(row.insertName);
+    for (const KindFacts &row : kinds) {
+        if (!row.insertName)
+            continue;
+        if (!names.empty())
+            names += ", ";
+        names += row.insertName;
+    }
     return names;
 }
 

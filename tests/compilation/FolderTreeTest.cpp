@@ -5,7 +5,6 @@
 #include <QTest>
 
 #include <algorithm>
-#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <vector>
@@ -13,9 +12,6 @@
 using namespace support;
 
 namespace {
-
-const std::string longestName(255, 'n');
-const std::string notUtf8 = "caf\xe9\xff\n'\"";
 
 /// Empties the folder and answers what was told.
 std::vector<std::string> emptied(const std::string &path)
@@ -64,13 +60,9 @@ private Q_SLOTS:
     void saysNothingOfAFolderThatIsGone();
 };
 
-/// Few files may be open, so that a tree deeper than that need not be very deep.
 void FolderTreeTest::initTestCase()
 {
-    rlimit files{};
-    check(::getrlimit(RLIMIT_NOFILE, &files), "getrlimit");
-    files.rlim_cur = 128;
-    check(::setrlimit(RLIMIT_NOFILE, &files), "setrlimit");
+    limitOpenFiles();
 }
 
 void FolderTreeTest::measuresWhatIsNoFolder_data()
@@ -145,10 +137,7 @@ void FolderTreeTest::measuresOddNames()
 
 void FolderTreeTest::measuresDeepTrees_data()
 {
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<int>("levels");
-    QTest::newRow("names of 255 bytes, longer than any path") << QByteArray::fromStdString(longestName) << 40;
-    QTest::newRow("more levels than files may be open") << QByteArray("d") << 300;
+    addRowsOfDeepTrees();
 }
 
 void FolderTreeTest::measuresDeepTrees()

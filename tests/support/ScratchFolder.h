@@ -3,6 +3,7 @@
 
 #include <QProcess>
 #include <QString>
+#include <QTest>
 
 #include <cerrno>
 #include <cstdint>
@@ -11,12 +12,17 @@
 #include <functional>
 #include <stdexcept>
 #include <string>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
 
 namespace support {
+
+inline const std::string longestName(255, 'n');
+inline const std::string notUtf8 = "caf\xe9\xff\n'\"";
+
 
 /// Ends the test with the system's reason when a step of its preparation fails.
 inline int check(int result, const std::string &what)
@@ -85,6 +91,24 @@ inline void makeDeepTree(const std::string &path, const std::string &name, int l
             atEach(here);
     }
     ::close(here);
+}
+
+/// From here on this process may have few files open, so that a tree deeper than that need not be very deep.
+inline void limitOpenFiles()
+{
+    rlimit files{};
+    check(::getrlimit(RLIMIT_NOFILE, &files), "getrlimit");
+    files.rlim_cur = 128;
+    check(::setrlimit(RLIMIT_NOFILE, &files), "setrlimit");
+}
+
+/// The columns "name" and "levels" of trees that are too deep for a path, and for limitOpenFiles().
+inline void addRowsOfDeepTrees()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<int>("levels");
+    QTest::newRow("names of 255 bytes, longer than any path") << QByteArray::fromStdString(longestName) << 40;
+    QTest::newRow("more levels than files may be open") << QByteArray("d") << 300;
 }
 
 /// How many folders called `name` lie in each other below `path`.

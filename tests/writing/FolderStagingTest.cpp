@@ -16,9 +16,6 @@ using namespace support;
 
 namespace {
 
-const std::string longestName(255, 'n');
-const std::string notUtf8 = "caf\xe9\xff\n'\"";
-
 /// What a copy told, in alphabetical order, and that it has said that it has ended.
 struct Result {
     std::vector<std::string> told;
@@ -130,13 +127,9 @@ private Q_SLOTS:
     void stopsFromAnotherThread();
 };
 
-/// Few files may be open, so that a tree deeper than that need not be very deep.
 void FolderStagingTest::initTestCase()
 {
-    rlimit files{};
-    check(::getrlimit(RLIMIT_NOFILE, &files), "getrlimit");
-    files.rlim_cur = 128;
-    check(::setrlimit(RLIMIT_NOFILE, &files), "setrlimit");
+    limitOpenFiles();
 }
 
 void FolderStagingTest::copiesContents_data()
@@ -324,10 +317,7 @@ void FolderStagingTest::copiesOddNames()
 
 void FolderStagingTest::copiesDeepTrees_data()
 {
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<int>("levels");
-    QTest::newRow("names of 255 bytes, longer than any path") << QByteArray::fromStdString(longestName) << 40;
-    QTest::newRow("more levels than files may be open") << QByteArray("d") << 300;
+    addRowsOfDeepTrees();
 }
 
 void FolderStagingTest::copiesDeepTrees()

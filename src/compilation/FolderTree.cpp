@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstring>
 #include <memory>
+#include <system_error>
 #include <utility>
 
 #include <dirent.h>
@@ -167,13 +168,16 @@ public:
             fail(name, errno);
     }
 
-    void unreadable(int error) override { m_failed(m_path + at.path() + ": " + std::strerror(error)); }
+    void unreadable(int error) override
+    {
+        m_failed(m_path + at.path() + ": " + std::generic_category().message(error));
+    }
 
 private:
     void fail(const std::string &name, int error)
     {
         if (error != ENOENT)
-            m_failed(m_path + at.path() + '/' + name + ": " + std::strerror(error));
+            m_failed(m_path + at.path() + '/' + name + ": " + std::generic_category().message(error));
     }
 
     const std::string &m_path;

@@ -5,8 +5,8 @@
 #include <array>
 #include <cerrno>
 #include <climits>
-#include <cstring>
 #include <map>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -106,7 +106,7 @@ public:
 private:
     void fail(const std::string &below, int error)
     {
-        fail(below, std::strerror(error));
+        fail(below, std::generic_category().message(error));
         if (error == ENOSPC || error == EDQUOT)
             m_state.stop = true;
     }
@@ -286,7 +286,7 @@ void copyFolder(const std::string &source, const std::string &destination, const
     if (name.empty() || name == "." || name == "..")
         failed(source + ": has no name under which it could be copied");
     else if (from.fd() < 0 || to.fd() < 0)
-        failed((from.fd() < 0 ? source : destination) + ": " + std::strerror(errno));
+        failed((from.fd() < 0 ? source : destination) + ": " + std::generic_category().message(errno));
     else if (Copier copier(from, to, destination, never, state, failed); copier.beginFolder(name)) {
         if (walkTree(copier))
             copier.finishFolder();

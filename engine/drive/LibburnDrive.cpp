@@ -262,7 +262,7 @@ LibburnDrive::Outcome LibburnDrive::wait(Stop stop, const Task &task, const Cont
     report::Phase phase = task.phase;
     Count count(task.tracks, task.unitBytes);
     burn_progress p{};
-    for (burn_drive_status status; (status = burn_drive_get_status(handle(), &p)) != BURN_DRIVE_IDLE;) {
+    for (burn_drive_status status{}; (status = burn_drive_get_status(handle(), &p)) != BURN_DRIVE_IDLE;) {
         if (status != BURN_DRIVE_SPAWNING) {
             count.update(p);
             outcome.sectors = count.done();

@@ -4,9 +4,9 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <utility>
 
 namespace engine::drive {
 
@@ -102,7 +102,8 @@ std::vector<PhysicalRecord> physicalRecords(
         if (const std::string name = entry->path().filename(); name.starts_with("sr") && name.size() > 2
             && name.find_first_not_of("0123456789", 2) == std::string::npos)
             names.push_back(name);
-    std::ranges::sort(names, {}, [](const std::string &name) { return std::atoi(name.c_str() + 2); });
+    // By number: the longer name has the larger one.
+    std::ranges::sort(names, {}, [](const std::string &name) { return std::pair(name.size(), std::string_view(name)); });
 
     std::vector<PhysicalRecord> drives;
     for (const std::string &name : names) {

@@ -36,6 +36,18 @@ class DataJobTest : public QObject {
         app.sheets.clear();
     }
 
+    /// Waits for the copy of the folder "slow" and adds 20 KiB to it; nothing before there is one.
+    static void growCopy(const JobApplication &app)
+    {
+        if (app.controller->stagingCopies.isEmpty())
+            return;
+        while (!app.controller->stagingCopies.constLast()->ended)
+            std::this_thread::yield();
+        QFile more(app.controller->s_Data_Folder + u"/slow/more"_s);
+        QVERIFY(more.open(QIODevice::Append));
+        QCOMPARE(more.write(QByteArray(20 * 1024, 'x')), 20 * 1024);
+    }
+
     static QStringList sorted(QStringList names)
     {
         names.sort();
@@ -198,17 +210,12 @@ private Q_SLOTS:
     void aFolderThatGrowsIsWaitedForUntilItHasItsSize()
     {
         JobApplication app;
-        app.around.stagingPoll = 400;
         app.burnWith("du -sb \"$folder/slow\" | cut -f1 > \"$0.size\"\n");
         app.file(u"slow/first"_s, QByteArray(1024, 'x'));
         ready(app, {u"slow"_s});
         app.controller->arrayDataFolders.first().i_Size_in_KBytes = 300;
         QTimer growing;
-        connect(&growing, &QTimer::timeout, this, [&app] {
-            QFile slow(app.controller->s_Data_Folder + u"/slow/more"_s);
-            if (QFile::exists(app.controller->s_Data_Folder + u"/slow/first"_s) && slow.open(QIODevice::Append))
-                slow.write(QByteArray(20 * 1024, 'x'));
-        });
+        connect(&growing, &QTimer::timeout, this, [&app] { growCopy(app); });
         growing.start(40);
         app.press("btnBurn");
         QVERIFY(app.completes());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
@@ -19,6 +20,9 @@ namespace {
 struct SourceData {
     Fill fill;
     off_t size;
+    /// libburn says that its writing thread has ended without anything that orders memory between the
+    /// threads, so each read is released here, and acquired before what it worked on goes away.
+    std::atomic<std::uint64_t> reads = 0;
 };
 
 SourceData &dataOf(burn_source *source)
@@ -29,7 +33,9 @@ SourceData &dataOf(burn_source *source)
 int readData(burn_source *source, unsigned char *buffer, int size)
 {
     const std::span<std::byte> bytes(reinterpret_cast<std::byte *>(buffer), static_cast<std::size_t>(size));
-    return static_cast<int>(dataOf(source).fill(bytes));
+    const auto filled = static_cast<int>(dataOf(source).fill(bytes));
+    dataOf(source).reads.fetch_add(1, std::memory_order_release);
+    return filled;
 }
 
 off_t sizeOf(burn_source *source)
@@ -45,6 +51,7 @@ int setSize(burn_source *source, off_t size)
 
 void freeData(burn_source *source)
 {
+    static_cast<void>(dataOf(source).reads.load(std::memory_order_acquire));
     delete &dataOf(source);
 }
 

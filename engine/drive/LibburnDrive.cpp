@@ -130,12 +130,11 @@ report::Phase phaseOf(burn_drive_status status, report::Phase busy)
 /// drive closes the session.
 class Count {
 public:
-    Count(std::span<const Track> tracks, unsigned unitBytes)
+    explicit Count(const std::vector<std::uint64_t> &sectors)
     {
-        for (const Track &track : tracks) {
-            burn_source *source = track.source.get();
+        for (const std::uint64_t track : sectors) {
             m_starts.push_back(m_total);
-            m_total += (static_cast<std::uint64_t>(source->get_size(source)) + unitBytes - 1) / unitBytes;
+            m_total += track;
         }
     }
 
@@ -160,6 +159,17 @@ private:
     std::uint64_t m_total = 0;
     std::uint64_t m_done = 0;
 };
+
+std::vector<std::uint64_t> sectorsOf(const std::vector<Track> &tracks, unsigned sectorBytes)
+{
+    std::vector<std::uint64_t> sectors;
+    sectors.reserve(tracks.size());
+    for (const Track &track : tracks) {
+        const auto bytes = static_cast<std::uint64_t>(track.source->get_size(track.source.get()));
+        sectors.push_back((bytes + sectorBytes - 1) / sectorBytes);
+    }
+    return sectors;
+}
 
 /// A DVD goes back to "writing" for a moment between closing its track and its session. A drive that has got
 /// everything empties its buffer and writes the lead-out of a session at once; libburn calls that writing,
@@ -260,7 +270,7 @@ LibburnDrive::Outcome LibburnDrive::wait(Stop stop, const Task &task, const Cont
     auto pause = 1ms;
     bool cancelled = false;
     report::Phase phase = task.phase;
-    Count count(task.tracks, task.unitBytes);
+    Count count(task.sectors);
     burn_progress p{};
     for (burn_drive_status status{}; (status = burn_drive_get_status(handle(), &p)) != BURN_DRIVE_IDLE;) {
         if (status != BURN_DRIVE_SPAWNING) {
@@ -304,11 +314,11 @@ LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, Writ
         refused.message.text = reasons.data();
         return refused;
     }
+    const auto unitBytes = static_cast<unsigned>(audio ? audio::sectorSize : blockBytes);
+    // From the start of the write on the sources belong to libburn's thread, which may change their sizes.
+    const Task task{ phase, family, unitBytes, sectorsOf(tracks, unitBytes), sourceFailed };
     burn_disc_write(options.get(), layout.disc());
-    return wait(Stop::cancels,
-        { phase, family, static_cast<unsigned>(audio ? audio::sectorSize : blockBytes), tracks,
-            sourceFailed },
-        control);
+    return wait(Stop::cancels, task, control);
 }
 
 LibburnDrive::Outcome LibburnDrive::waitForErase(const Control &control)

@@ -98,7 +98,7 @@ private:
         report::Phase phase;
         report::Family family;
         unsigned unitBytes; ///< of a sector
-        std::span<const Track> tracks; ///< none for an erase
+        std::vector<std::uint64_t> sectors; ///< of each track; none for an erase
         std::function<bool()> sourceFailed;
     };
 

@@ -103,7 +103,8 @@ std::vector<PhysicalRecord> physicalRecords(
             && name.find_first_not_of("0123456789", 2) == std::string::npos)
             names.push_back(name);
     // By number: the longer name has the larger one.
-    std::ranges::sort(names, {}, [](const std::string &name) { return std::pair(name.size(), std::string_view(name)); });
+    std::ranges::sort(
+        names, {}, [](const std::string &name) { return std::pair(name.size(), std::string_view(name)); });
 
     std::vector<PhysicalRecord> drives;
     for (const std::string &name : names) {

@@ -64,11 +64,11 @@ void Window_Alert::showReport(const QString &text, bool columns)
 {
     QPlainTextEdit *const field = m_ui->textReport;
     field->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    field->setLineWrapMode(columns ? QPlainTextEdit::NoWrap : QPlainTextEdit::WidgetWidth);
     field->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     field->setPlainText(text);
     // As high as its text, within reason; the rest scrolls.
-    const int lines = static_cast<int>(qBound(qsizetype{5}, text.count(u'\n') + 2, qsizetype{14}));
+    constexpr qsizetype most = 14;
+    const auto lines = static_cast<int>(columns ? qBound(qsizetype{5}, text.count(u'\n') + 2, most) : most);
     field->setMinimumWidth(field->fontMetrics().averageCharWidth() * 80);
     field->setFixedHeight(field->fontMetrics().lineSpacing() * lines);
     // Where nothing is selected, the whole report is what one wants to paste into a letter.

@@ -212,7 +212,7 @@ private Q_SLOTS:
         makeFile(machine.mediaPath(u"letter.txt"_s), "Dear Anna");
         person::choose(machine.window.get(), "submenuItemTabISO");
         const person::Expect<QFileDialog> typed([&machine](QFileDialog *panel) {
-            panel->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(machine.mediaPath(u"letter.txt"_s));
+            person::pastePath(panel, machine.mediaPath(u"letter.txt"_s));
             person::pressTitled(panel, u"Open"_s);
         });
         QStringList told;
@@ -255,7 +255,7 @@ private Q_SLOTS:
         first.reset();
         const person::Expect<QFileDialog> further(cancel);
         if (second)
-            QTRY_VERIFY_WITH_TIMEOUT(further.happened(), 30'000);
+            QTRY_VERIFY_WITH_TIMEOUT(further.happened(), person::patience);
         QTest::qWait(400);
         QCOMPARE(further.happened(), second);
         QVERIFY(!QApplication::activeModalWidget());
@@ -353,8 +353,8 @@ private Q_SLOTS:
         answers.append({u"Cancel"_s, {}});
         const Alerts alerts(answers);
         copyDisc(machine, volume);
-        QTRY_COMPARE_WITH_TIMEOUT(alerts.texts().size(), answers.size(), 60'000);
-        QTRY_COMPARE(workingFiles(machine), QStringList());
+        QTRY_COMPARE_WITH_TIMEOUT(alerts.texts().size(), answers.size(), person::patience);
+        QTRY_COMPARE_WITH_TIMEOUT(workingFiles(machine), QStringList(), person::patience);
         QVERIFY(!machine.controller->windowOperationCompleted);
         QVERIFY(!machine.controller->windowPerformingOperation);
         QVERIFY(machine.recorder.status().contains("blank"));

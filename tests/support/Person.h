@@ -24,6 +24,9 @@
 
 namespace person {
 
+/// Milliseconds that a busy machine may need to show what it shows at once otherwise.
+constexpr int patience = 60'000;
+
 /// Presses the mouse over a widget. The press goes to the window, so that what covers or blocks the widget
 /// gets or hinders it as it would a person.
 inline void clickAt(const QWidget *widget, const QPoint &place, Qt::KeyboardModifiers with = {})
@@ -101,7 +104,7 @@ inline void drop(const QWidget *widget, const QList<QUrl> &urls)
 /// Waits until a window has the keyboard; a sheet gets it only after its parent has had it.
 [[nodiscard]] inline bool awaitKeyboard(const QWidget *window)
 {
-    return QTest::qWaitFor([window] { return QGuiApplication::focusWindow() == window->windowHandle(); });
+    return QTest::qWaitFor([window] { return QGuiApplication::focusWindow() == window->windowHandle(); }, patience);
 }
 
 /// Types on the keyboard, into whatever window has it. Where no window manager hands the keyboard back after
@@ -112,7 +115,7 @@ inline void press(const QKeySequence &keys)
         if (!QGuiApplication::focusWindow() && window->isVisible() && !window->parent())
             window->activateWindow();
     }
-    if (QTest::qWaitFor([] { return QGuiApplication::focusWindow() != nullptr; }))
+    if (QTest::qWaitFor([] { return QGuiApplication::focusWindow() != nullptr; }, patience))
         QTest::keySequence(QGuiApplication::focusWindow(), keys);
 }
 
@@ -124,7 +127,7 @@ public:
     explicit Expect(std::function<void(Dialog *)> act)
         : m_act(std::move(act))
     {
-        m_timer.setInterval(20);
+        m_timer.setInterval(interval);
         QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { look(); });
         m_timer.start();
     }
@@ -148,11 +151,13 @@ private:
                 qWarning() << "the dialog was not answered:" << modal;
                 modal->close();
             }
-        } else if (++m_wrong > 250) {
+        } else if (++m_wrong > patience / interval) {
             qWarning() << "another dialog than expected is up:" << modal;
             modal->close();
         }
     }
+
+    static constexpr int interval = 20;
 
     std::function<void(Dialog *)> m_act;
     QTimer m_timer;
@@ -206,7 +211,7 @@ inline void openFiles(QFileDialog *dialog, const QString &folder, const QStringL
                     clickRow(list, row(file), with);
                 return row(file).isValid() && list->selectionModel()->isSelected(row(file));
             },
-            10'000);
+            patience);
         if (!marked)
             qWarning() << "the file dialog does not let mark" << file;
         with = Qt::ControlModifier;
@@ -225,7 +230,7 @@ inline QStringList shownFiles(QFileDialog *dialog, const QString &folder, const 
             shown.append(list->model()->index(i, 0, list->rootIndex()).data().toString());
         return shown;
     };
-    if (!QTest::qWaitFor([&] { return names().contains(expected); }, 10'000))
+    if (!QTest::qWaitFor([&] { return names().contains(expected); }, patience))
         qWarning() << "the file dialog does not show" << expected;
     return names();
 }
@@ -252,7 +257,7 @@ inline void markFolder(QFileDialog *dialog, const QString &place)
             }
             return dialog->selectedFiles() == QStringList(place);
         },
-        10'000);
+        patience);
     if (!marked)
         qWarning() << "the dialog does not let mark" << place;
     pressTitled(dialog, QStringLiteral("Choose"));

@@ -26,6 +26,12 @@ const PaintedView *barOf(const QWidget *widget)
     return nullptr;
 }
 
+QFont scaled(QFont font, double factor)
+{
+    font.setPointSizeF(font.pointSizeF() * factor);
+    return font;
+}
+
 QColor withAlpha(QColor colour, double alpha)
 {
     colour.setAlphaF(static_cast<float>(alpha));
@@ -80,7 +86,7 @@ QFont BarButton::headingFont() const
     QFont heading = font();
     if (m_look == Look::Card || m_look == Look::Prominent) {
         heading.setBold(true);
-        heading.setPointSizeF(heading.pointSizeF() * 1.1);
+        heading = scaled(heading, 1.1);
     } else if (m_look == Look::Mode && m_bordered) {
         heading.setBold(true);
     }
@@ -185,6 +191,8 @@ void BarButton::paintCard(QPainter &painter, const QColor &text) const
     const bool tall = height() >= tallCard;
     const int icon = tall ? tallCardIcon : cardIcon;
     const int left = tall ? margin : margin * 2 + icon;
+    if (tall)
+        painter.setFont(scaled(painter.font(), 1.2));
     const int above = tall ? icon + 16 : 0;
     const QRect room(left, 8, width() - left - margin, height() - above - 16);
     const int headingHeight = painter.fontMetrics().height() + 4;

@@ -1,4 +1,5 @@
 // Erase, eject, load and disc information, from the tools tab and the menu.
+#include "app/BarButton.h"
 #include "app/Window_Alert.h"
 #include "support/JobApplication.h"
 #include "support/Person.h"
@@ -256,6 +257,59 @@ private Q_SLOTS:
         QVERIFY(information.happened());
         const QByteArray expected = marked ? discs::blankCD.left(discs::blankCD.indexOf('\n')) : discs::blankCD;
         QCOMPARE(QGuiApplication::clipboard()->text(), QString::fromUtf8(expected));
+    }
+
+    void theButtonsFillTheirTab_data()
+    {
+        QTest::addColumn<QByteArray>("tab");
+        QTest::addColumn<QByteArray>("page");
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<double>("share");
+        const QSize sizes[] = {{700, 400}, {1000, 640}, {1600, 1000}};
+        for (const QSize &size : sizes) {
+            QTest::addRow("ISO, %d x %d", size.width(), size.height())
+                << QByteArray("submenuItemTabISO") << QByteArray("page_ISO") << size << 0.3;
+            QTest::addRow("Tools, %d x %d", size.width(), size.height())
+                << QByteArray("submenuItemTabTools") << QByteArray("page_Tools") << size << 0.6;
+        }
+    }
+    void theButtonsFillTheirTab()
+    {
+        QFETCH(QByteArray, tab);
+        QFETCH(QByteArray, page);
+        QFETCH(QSize, size);
+        QFETCH(double, share);
+        JobApplication app;
+        ready(app, discs::blankCD);
+        app.trigger(tab.constData());
+        app.window->resize(size);
+        QVERIFY(QTest::qWaitForWindowExposed(app.window.get()));
+        const auto *area = app.element<QWidget>(page.constData());
+        qint64 filled = 0;
+        QRegion taken;
+        for (const BarButton *button : area->findChildren<BarButton *>()) {
+            const QRect place(button->mapTo(area, QPoint()), button->size());
+            QVERIFY(area->rect().contains(place));
+            QVERIFY(!taken.intersects(place));
+            taken += place;
+            filled += qint64(place.width()) * place.height();
+            QVERIFY(button->description().endsWith(u'.'));
+            const QRect narrow(0, 0, place.width() - 120, 1000);
+            const int sentence = button->fontMetrics().boundingRect(narrow, Qt::TextWordWrap, button->description()).height();
+            QVERIFY(sentence + button->fontMetrics().height() * 1.2 <= place.height());
+        }
+        QVERIFY2(double(filled) > share * area->width() * area->height(), qPrintable(QString::number(filled)));
+    }
+
+    void theEraseButtonAndItsItemsSayWhatTheyDestroy()
+    {
+        JobApplication app;
+        ready(app, discs::writtenCDRW);
+        const auto *button = app.element<BarButton>("toolbar_btn_Tools_Erase_Disc");
+        QVERIFY(button->description().contains(u"Destroys everything on the rewritable disc"_s));
+        QVERIFY(button->description().contains(u"does not ask again"_s));
+        for (const char *item : {"menuitemEraseFull", "menuitemEraseQuick"})
+            QVERIFY(app.element<QAction>(item)->text().contains(u"everything on the disc"_s));
     }
 
     void everyToolSpeaksToTheChosenDrive()

@@ -286,32 +286,34 @@ Result<std::unique_ptr<Lease>> VirtualDrive::acquire(Purpose purpose)
     return std::unique_ptr<Lease>(std::make_unique<VirtualLease>(std::move(folder).value(), name()));
 }
 
-Result<void> VirtualDrive::eject()
+Result<void> VirtualDrive::change(
+    const std::function<Result<void>(const RecorderFolder &, RecorderState)> &change)
 {
     auto folder = RecorderFolder::lock(m_folder, name(), Access::exclusive);
     if (!folder)
         return folder.error();
-    Result<RecorderState> state = folder->load();
-    if (!state)
-        return state.error();
-    if (state->kind != report::MediumKind::none)
-        return exchange(*folder, *state, state->kind);
-    state->trayOpen = true;
-    return folder->save(*state);
+    const Result<RecorderState> state = folder->load();
+    return state ? change(*folder, *state) : state.error();
+}
+
+Result<void> VirtualDrive::eject()
+{
+    return change([](const RecorderFolder &folder, RecorderState state) -> Result<void> {
+        if (state.kind != report::MediumKind::none)
+            return exchange(folder, state, state.kind);
+        state.trayOpen = true;
+        return folder.save(state);
+    });
 }
 
 Result<void> VirtualDrive::close()
 {
-    auto folder = RecorderFolder::lock(m_folder, name(), Access::exclusive);
-    if (!folder)
-        return folder.error();
-    Result<RecorderState> state = folder->load();
-    if (!state)
-        return state.error();
-    if (!state->trayOpen)
-        return {};
-    state->trayOpen = false;
-    return folder->save(*state);
+    return change([](const RecorderFolder &folder, RecorderState state) -> Result<void> {
+        if (!state.trayOpen)
+            return {};
+        state.trayOpen = false;
+        return folder.save(state);
+    });
 }
 
 Result<void> VirtualDrive::insert(report::MediumKind kind)

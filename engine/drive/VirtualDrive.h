@@ -3,9 +3,13 @@
 
 #include "drive/Drive.h"
 
+#include <functional>
 #include <string>
 
 namespace engine::drive {
+
+class RecorderFolder;
+struct RecorderState;
 
 class VirtualDrive final : public Drive {
 public:
@@ -21,6 +25,9 @@ public:
     Result<std::string> folder() const override { return m_folder; }
 
 private:
+    /// Does `change` with the recorder's folder locked and its state read.
+    Result<void> change(const std::function<Result<void>(const RecorderFolder &, RecorderState)> &change);
+
     std::string m_folder;
 };
 

@@ -2,6 +2,7 @@
 #include "../drutil/Drutil.h"
 #include "../image/Trees.h"
 
+#include <csignal>
 #include <sys/file.h>
 
 using namespace Qt::StringLiterals;
@@ -9,10 +10,11 @@ using namespace Qt::StringLiterals;
 class BurnTest : public QObject {
     Q_OBJECT
 
+    static QString hdiutil() { return qEnvironmentVariable("CORVALIS_BIN") + u"/hdiutil"_s; }
+
     Ran burn(const std::string &image)
     {
-        return runProgram(qEnvironmentVariable("CORVALIS_BIN") + u"/hdiutil"_s,
-            { u"burn"_s, QString::fromStdString(image) }, m_drutil->environment());
+        return runProgram(hdiutil(), { u"burn"_s, QString::fromStdString(image) }, m_drutil->environment());
     }
 
     std::string disc(int number = 1) const { return m_drutil->recorder(number).toStdString() + "/disc.iso"; }
@@ -56,7 +58,7 @@ private Q_SLOTS:
     {
         Scratch scratch;
         QVERIFY(makePlainTree(scratch.path("t")));
-        const Ran made = runProgram(qEnvironmentVariable("CORVALIS_BIN") + u"/hdiutil"_s,
+        const Ran made = runProgram(hdiutil(),
             { u"makehybrid"_s, u"-o"_s, QString::fromStdString(scratch.path("i.iso")),
                 QString::fromStdString(scratch.path("t")), u"-iso"_s, u"-joliet"_s });
         QCOMPARE(made.exit, 0);
@@ -124,6 +126,40 @@ private Q_SLOTS:
         QCOMPARE(burn(scratch.path("i.iso")).exit, 0);
         QCOMPARE(burn(scratch.path("i.iso")).exit, 3);
         QCOMPARE(contentOf(disc()).substr(0, 4096), std::string(4096, 'x'));
+    }
+
+    void signals_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::addColumn<int>("exit");
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("left");
+        QTest::newRow("SIGINT") << SIGINT << 130 << u"dvd-r"_s << u"is spoilt"_s;
+        QTest::newRow("SIGTERM") << SIGTERM << 143 << u"dvd-rw"_s << u"has to be erased"_s;
+    }
+
+    void signals()
+    {
+        QFETCH(int, signal);
+        QFETCH(int, exit);
+        QFETCH(QString, kind);
+        QFETCH(QString, left);
+        Scratch scratch;
+        QVERIFY(sparseFile(QString::fromStdString(scratch.path("large.iso")), 2000LL * 1000 * 1000));
+        QVERIFY(m_drutil->insert(kind));
+        QProcess process;
+        process.setProcessEnvironment(m_drutil->environment());
+        process.start(hdiutil(), { u"burn"_s, QString::fromStdString(scratch.path("large.iso")) });
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(QString::fromStdString(disc())).size() > 0, 60000);
+        kill(pid_t(process.processId()), signal);
+        kill(pid_t(process.processId()), signal); // the second one changes nothing
+        QVERIFY(process.waitForFinished(60000));
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), exit);
+        const QString said = QString::fromUtf8(process.readAllStandardError());
+        QVERIFY2(said.startsWith(u"hdiutil: Stopped. The disc in drive "_s) && said.contains(left),
+            qPrintable(said));
+        QVERIFY(m_drutil->fact(u"State:"_s).startsWith(u"spoilt"_s));
     }
 
     void aBusyRecorderIsTold()

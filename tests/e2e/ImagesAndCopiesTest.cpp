@@ -9,7 +9,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString prompt = u"Insert a writable media and click OK or click Cancel to stop the media duplication."_s;
+const QString prompt =
+    u"Insert a writable media and click OK or click Cancel to stop the media duplication."_s;
 
 } // namespace
 
@@ -33,7 +34,8 @@ class ImagesAndCopiesTest : public QObject {
             [&](QFileDialog *panel) { person::markFolder(panel, source); });
         machine.press("toolbar_btn_ISO_Create_ISO");
         QVERIFY(first->happened());
-        person::Expect<QFileDialog> second([&](QFileDialog *panel) { person::openFolder(panel, destination); });
+        person::Expect<QFileDialog> second(
+            [&](QFileDialog *panel) { person::openFolder(panel, destination); });
         QVERIFY(machine.completes());
         QVERIFY(second.happened());
     }
@@ -50,8 +52,8 @@ class ImagesAndCopiesTest : public QObject {
     static QByteArray compressedImage()
     {
         const QByteArray packed(4096, 'p');
-        const QByteArray run = bigEndian(0x80000005, 4) + bigEndian(0, 4) + bigEndian(0, 8) + bigEndian(400, 8)
-            + bigEndian(0, 8) + bigEndian(4096, 8);
+        const QByteArray run = bigEndian(0x80000005, 4) + bigEndian(0, 4) + bigEndian(0, 8)
+            + bigEndian(400, 8) + bigEndian(0, 8) + bigEndian(4096, 8);
         const QByteArray table = QByteArray("mish").leftJustified(204, '\0') + run + bigEndian(0xffffffff, 4)
             + QByteArray(36, '\0');
         const QByteArray list = "<plist><dict><data>" + table.toBase64() + "</data></dict></plist>";
@@ -64,14 +66,16 @@ class ImagesAndCopiesTest : public QObject {
     static void writeImage(WholeMachine &machine, const QString &folder, const QString &name)
     {
         person::choose(machine.window.get(), "submenuItemTabISO");
-        person::Expect<QFileDialog> dialog([&](QFileDialog *panel) { person::openFiles(panel, folder, {name}); });
+        person::Expect<QFileDialog> dialog(
+            [&](QFileDialog *panel) { person::openFiles(panel, folder, { name }); });
         machine.press("toolbar_btn_ISO_Burn_ISO");
         QVERIFY(dialog.happened());
     }
 
     static QStringList textsOf(const Window_Alert *alert)
     {
-        return {alert->findChild<QLabel *>(u"labelMessage"_s)->text(), alert->findChild<QLabel *>(u"labelInformative"_s)->text()};
+        return { alert->findChild<QLabel *>(u"labelMessage"_s)->text(),
+            alert->findChild<QLabel *>(u"labelInformative"_s)->text() };
     }
 
     /// Answers the coming alerts, one after the other.
@@ -81,7 +85,11 @@ class ImagesAndCopiesTest : public QObject {
             QString button;
             std::function<void()> before; ///< done before the button is pressed
         };
-        explicit Alerts(const QList<Answer> &answers) : m_answers(answers) { await(); }
+        explicit Alerts(const QList<Answer> &answers)
+            : m_answers(answers)
+        {
+            await();
+        }
         /// The messages of the alerts so far.
         QStringList texts() const { return m_texts; }
 
@@ -108,14 +116,16 @@ class ImagesAndCopiesTest : public QObject {
     /// Starts the copy of a disc that is mounted at `volume`.
     static void copyDisc(WholeMachine &machine, const QString &volume)
     {
-        const person::Expect<QFileDialog> dialog([&](QFileDialog *panel) { person::markFolder(panel, volume); });
+        const person::Expect<QFileDialog> dialog(
+            [&](QFileDialog *panel) { person::markFolder(panel, volume); });
         machine.press("toolbar_btn_Audio_Copy_Disc");
         QVERIFY(dialog.happened());
     }
 
     static QStringList workingFiles(const WholeMachine &machine)
     {
-        return QDir(machine.controller->s_Data_Folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        return QDir(machine.controller->s_Data_Folder)
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     }
 
     static void expectCopy(const WholeMachine &machine, const QString &volume)
@@ -139,7 +149,8 @@ private Q_SLOTS:
         const QString image = machine.mediaPath(u"out/image.iso"_s);
         const QString byRockRidge = reader::extractedByXorriso(image, machine.mediaPath(u"out"_s));
         QCOMPARE(reader::difference(source, byRockRidge), QByteArray());
-        QCOMPARE(reader::difference(source, reader::extractedBy7z(image, machine.mediaPath(u"out"_s))), QByteArray());
+        QCOMPARE(reader::difference(source, reader::extractedBy7z(image, machine.mediaPath(u"out"_s))),
+            QByteArray());
         QCOMPARE(reader::countedByIsoinfo(image), 7);
 
         writeImage(machine, machine.mediaPath(u"out"_s), u"image.iso"_s);
@@ -165,7 +176,9 @@ private Q_SLOTS:
         makeTree(machine.mediaPath(u"tree"_s));
         const QString image = machine.mediaPath(u"images/"_s + name);
         QDir().mkpath(machine.mediaPath(u"images"_s));
-        runWell(u"xorriso"_s, {u"-as"_s, u"mkisofs"_s, u"-quiet"_s, u"-J"_s, u"-R"_s, u"-o"_s, image, machine.mediaPath(u"tree"_s)});
+        runWell(u"xorriso"_s,
+            { u"-as"_s, u"mkisofs"_s, u"-quiet"_s, u"-J"_s, u"-R"_s, u"-o"_s, image,
+                machine.mediaPath(u"tree"_s) });
         machine.recorder.insert(u"dvd+rw"_s);
         writeImage(machine, machine.mediaPath(u"images"_s), name);
         QVERIFY(machine.completes());
@@ -192,7 +205,7 @@ private Q_SLOTS:
         writeImage(machine, machine.media.path(), u"wrong.iso"_s);
         QVERIFY(machine.completes());
         QVERIFY2(machine.trouble().startsWith(u"hdiutil: "_s) && machine.trouble().contains(words),
-                 qUtf8Printable(machine.trouble()));
+            qUtf8Printable(machine.trouble()));
         QCOMPARE(machine.recorder.status(), before);
     }
 
@@ -221,7 +234,8 @@ private Q_SLOTS:
             person::pressTitled(alert, u"Close"_s);
         });
         machine.press("toolbar_btn_ISO_Burn_ISO");
-        const QStringList expected{u"Some files cannot be used"_s, u"Only files with these extensions can: .iso, .img, .dmg"_s};
+        const QStringList expected{ u"Some files cannot be used"_s,
+            u"Only files with these extensions can: .iso, .img, .dmg"_s };
         QCOMPARE(told, expected);
         QVERIFY(machine.recorder.status().contains("blank"));
         QVERIFY(!machine.controller->windowPerformingOperation);
@@ -232,10 +246,14 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("tab");
         QTest::addColumn<QByteArray>("button");
         QTest::addColumn<bool>("second");
-        QTest::newRow("folder of an image") << QByteArray("submenuItemTabISO") << QByteArray("toolbar_btn_ISO_Create_ISO") << false;
-        QTest::newRow("place of an image") << QByteArray("submenuItemTabISO") << QByteArray("toolbar_btn_ISO_Create_ISO") << true;
-        QTest::newRow("image to write") << QByteArray("submenuItemTabISO") << QByteArray("toolbar_btn_ISO_Burn_ISO") << false;
-        QTest::newRow("disc to copy") << QByteArray("submenuItemTabData") << QByteArray("toolbar_btn_Data_Copy_Disc") << false;
+        QTest::newRow("folder of an image")
+            << QByteArray("submenuItemTabISO") << QByteArray("toolbar_btn_ISO_Create_ISO") << false;
+        QTest::newRow("place of an image")
+            << QByteArray("submenuItemTabISO") << QByteArray("toolbar_btn_ISO_Create_ISO") << true;
+        QTest::newRow("image to write")
+            << QByteArray("submenuItemTabISO") << QByteArray("toolbar_btn_ISO_Burn_ISO") << false;
+        QTest::newRow("disc to copy")
+            << QByteArray("submenuItemTabData") << QByteArray("toolbar_btn_Data_Copy_Disc") << false;
     }
     void aPanelThatIsCancelledEndsTheAction()
     {
@@ -279,7 +297,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("destination");
         QTest::addColumn<QString>("words");
         QTest::newRow("not writable") << 10LL << u"/proc"_s << u"cannot be created"_s;
-        QTest::newRow("too small") << (1LL << 42) << QString() << u"free some space or choose another place"_s;
+        QTest::newRow("too small") << (1LL << 42) << QString()
+                                   << u"free some space or choose another place"_s;
     }
     void aDestinationThatCannotBeWrittenIsTold()
     {
@@ -294,8 +313,9 @@ private Q_SLOTS:
         QDir().mkpath(destination);
         makeImage(machine, machine.mediaPath(u"tree"_s), destination);
         QVERIFY2(machine.trouble().startsWith(u"hdiutil: "_s) && machine.trouble().contains(words),
-                 qUtf8Printable(machine.trouble()));
-        QVERIFY2(machine.controller->activityLog->text().contains(words), qUtf8Printable(machine.controller->activityLog->text()));
+            qUtf8Printable(machine.trouble()));
+        QVERIFY2(machine.controller->activityLog->text().contains(words),
+            qUtf8Printable(machine.controller->activityLog->text()));
         QVERIFY(!QFile::exists(destination + u"/image.iso"_s));
     }
 
@@ -304,9 +324,9 @@ private Q_SLOTS:
         WholeMachine machine;
         const QString volume = machine.mediaPath(u"Volume – 1"_s);
         makeTree(volume);
-        machine.recorder.drutil({u"burn"_s, volume});
+        machine.recorder.drutil({ u"burn"_s, volume });
         QVERIFY(machine.recorder.status().contains("not writable"));
-        Alerts alerts({{u"OK"_s, {}}});
+        Alerts alerts({ { u"OK"_s, {} } });
         copyDisc(machine, volume);
         QVERIFY(machine.completes());
         QCOMPARE(alerts.texts(), QStringList(prompt));
@@ -319,16 +339,18 @@ private Q_SLOTS:
         WholeMachine machine;
         const QString volume = machine.mediaPath(u"volume"_s);
         makeTree(volume);
-        machine.recorder.drutil({u"burn"_s, volume});
+        machine.recorder.drutil({ u"burn"_s, volume });
         const auto insert = [](const QString &kind) { return [kind] { Recorder::insert(kind); }; };
-        Alerts alerts({{u"OK"_s, insert(u"none"_s)},
-                       {u"Close"_s, {}},
-                       {u"OK"_s, [&volume] { Recorder::insert(u"dvd-r"_s); Recorder::drutil({u"burn"_s, volume}); }},
-                       {u"Close"_s, {}},
-                       {u"OK"_s, insert(u"cd-rw"_s)}});
+        Alerts alerts({ { u"OK"_s, insert(u"none"_s) }, { u"Close"_s, {} },
+            { u"OK"_s,
+                [&volume] {
+                    Recorder::insert(u"dvd-r"_s);
+                    Recorder::drutil({ u"burn"_s, volume });
+                } },
+            { u"Close"_s, {} }, { u"OK"_s, insert(u"cd-rw"_s) } });
         copyDisc(machine, volume);
         QVERIFY(machine.completes());
-        const QStringList expected{prompt, u"No disc"_s, prompt, u"Media not writable"_s, prompt};
+        const QStringList expected{ prompt, u"No disc"_s, prompt, u"Media not writable"_s, prompt };
         QCOMPARE(alerts.texts(), expected);
         expectCopy(machine, volume);
         QVERIFY(machine.recorder.status().contains("CD-RW"));
@@ -346,11 +368,12 @@ private Q_SLOTS:
         WholeMachine machine;
         const QString volume = machine.mediaPath(u"volume"_s);
         makeTree(volume);
-        machine.recorder.drutil({u"burn"_s, volume});
+        machine.recorder.drutil({ u"burn"_s, volume });
         QList<Alerts::Answer> answers;
         if (wrongDiscBefore)
-            answers = {{u"OK"_s, [] { Recorder::insert(u"none"_s); }}, {u"Close"_s, [] { Recorder::insert(u"cd-r"_s); }}};
-        answers.append({u"Cancel"_s, {}});
+            answers = { { u"OK"_s, [] { Recorder::insert(u"none"_s); } },
+                { u"Close"_s, [] { Recorder::insert(u"cd-r"_s); } } };
+        answers.append({ u"Cancel"_s, {} });
         const Alerts alerts(answers);
         copyDisc(machine, volume);
         QTRY_COMPARE_WITH_TIMEOUT(alerts.texts().size(), answers.size(), person::patience);
@@ -373,7 +396,7 @@ private Q_SLOTS:
         makeTree(machine.mediaPath(u"tree"_s));
         machine.recorder.insert(u"cd-rw"_s);
         const QByteArray blank = machine.recorder.status();
-        machine.recorder.drutil({u"burn"_s, machine.mediaPath(u"tree"_s)});
+        machine.recorder.drutil({ u"burn"_s, machine.mediaPath(u"tree"_s) });
         QVERIFY(machine.recorder.status() != blank);
         person::choose(machine.window.get(), "submenuItemTabTools");
         person::choose(machine.window.get(), item.constData());

@@ -46,12 +46,12 @@ private Q_SLOTS:
         app.trigger(item.constData());
         QCOMPARE(app.sheets.order(), QStringList(u"+Window_Performing_Operation"_s)); // at once
         QVERIFY(app.completes());
-        const QStringList status{u"status"_s, u"-drive"_s, u"1"_s};
-        const QList<QStringList> runs{status, status, {u"erase"_s, extent, u"-drive"_s, u"1"_s}};
+        const QStringList status{ u"status"_s, u"-drive"_s, u"1"_s };
+        const QList<QStringList> runs{ status, status, { u"erase"_s, extent, u"-drive"_s, u"1"_s } };
         QCOMPARE(runsAfterList(app), runs);
         QCOMPARE(app.texts(), QStringList()); // nobody is asked first
-        const QStringList sheets{u"+Window_Performing_Operation"_s, u"-Window_Performing_Operation"_s,
-                                 u"+Window_Operation_Terminated"_s};
+        const QStringList sheets{ u"+Window_Performing_Operation"_s, u"-Window_Performing_Operation"_s,
+            u"+Window_Operation_Terminated"_s };
         QCOMPARE(app.sheets.order(), sheets);
         QCOMPARE(app.trouble(), QString());
     }
@@ -72,20 +72,26 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("status");
         QTest::addColumn<bool>("debug");
         QTest::addColumn<QStringList>("told");
-        const QString noDisc = u"No disc | There is no disc on the drive. insert a rewritable media on the drive and "
-                               "try again."_s;
-        const QString notRewritable = u"Media not rewritable | The media on the drive is not rewritable. insert a "
-                                      "rewritable media on the drive and try again."_s;
+        const QString noDisc =
+            u"No disc | There is no disc on the drive. insert a rewritable media on the drive and "
+            "try again."_s;
+        const QString notRewritable =
+            u"Media not rewritable | The media on the drive is not rewritable. insert a "
+            "rewritable media on the drive and try again."_s;
         const QString blank = QString::fromUtf8(discs::blankCD) + u" | Warning 0040."_s;
-        for (const QByteArray item : {"menuitemEraseFull", "menuitemEraseQuick"}) {
+        for (const QByteArray item : { "menuitemEraseFull", "menuitemEraseQuick" }) {
             const char *name = item.constData();
             QTest::addRow("%s, no disc", name) << item << discs::none << false << QStringList(noDisc);
-            QTest::addRow("%s, no disc, debug mode", name) << item << discs::none << true << QStringList(noDisc);
-            QTest::addRow("%s, write-once blank", name) << item << discs::blankCD << false << QStringList(notRewritable);
+            QTest::addRow("%s, no disc, debug mode", name)
+                << item << discs::none << true << QStringList(noDisc);
+            QTest::addRow("%s, write-once blank", name)
+                << item << discs::blankCD << false << QStringList(notRewritable);
             QTest::addRow("%s, write-once blank, debug mode", name)
-                << item << discs::blankCD << true << QStringList{blank, notRewritable};
-            QTest::addRow("%s, pressed", name) << item << discs::pressedCD << false << QStringList(notRewritable);
-            QTest::addRow("%s, nothing printed", name) << item << QByteArray() << false << QStringList(notRewritable);
+                << item << discs::blankCD << true << QStringList{ blank, notRewritable };
+            QTest::addRow("%s, pressed", name)
+                << item << discs::pressedCD << false << QStringList(notRewritable);
+            QTest::addRow("%s, nothing printed", name)
+                << item << QByteArray() << false << QStringList(notRewritable);
         }
     }
     void aDiscThatCannotBeErasedIsTold()
@@ -123,13 +129,14 @@ private Q_SLOTS:
         QCOMPARE(menu->actions().at(0)->objectName(), u"menuitemEraseFull"_s);
         QCOMPARE(menu->actions().at(1)->objectName(), u"menuitemEraseQuick"_s);
         for (const QAction *action : menu->actions())
-            QVERIFY2(action->text().contains(u"Erase"_s, Qt::CaseInsensitive), qUtf8Printable(action->text()));
+            QVERIFY2(
+                action->text().contains(u"Erase"_s, Qt::CaseInsensitive), qUtf8Printable(action->text()));
         QVERIFY(!menu->activeAction());
         QCOMPARE(runsAfterList(app), QList<QStringList>());
 
         QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(menu->actions().at(1)).center());
         QVERIFY(app.completes());
-        const QList<QStringList> erased{{u"erase"_s, u"quick"_s, u"-drive"_s, u"1"_s}};
+        const QList<QStringList> erased{ { u"erase"_s, u"quick"_s, u"-drive"_s, u"1"_s } };
         QCOMPARE(app.drutil.runs(u"erase"_s), erased);
         QVERIFY(!menu->isVisible());
     }
@@ -155,7 +162,7 @@ private Q_SLOTS:
             app.trigger(control.constData());
         else
             app.press(control.constData());
-        const QList<QStringList> runs{{u"tray"_s, direction, u"-drive"_s, u"1"_s}};
+        const QList<QStringList> runs{ { u"tray"_s, direction, u"-drive"_s, u"1"_s } };
         QCOMPARE(runsAfterList(app), runs); // it has ended when control is back
         QCOMPARE(app.texts(), QStringList());
         QCOMPARE(app.sheets.order(), QStringList());
@@ -172,8 +179,8 @@ private Q_SLOTS:
         QCOMPARE(app.asked.alerts.first().message, u"Disc Information"_s);
         QCOMPARE(app.asked.alerts.first().informative, QString::fromUtf8(report));
         QCOMPARE(app.asked.alerts.first().buttons, QStringList(u"OK"_s));
-        const QStringList status{u"status"_s, u"-drive"_s, u"1"_s};
-        const QList<QStringList> runs{status, status};
+        const QStringList status{ u"status"_s, u"-drive"_s, u"1"_s };
+        const QList<QStringList> runs{ status, status };
         QCOMPARE(runsAfterList(app), runs);
         QCOMPARE(app.sheets.order(), QStringList());
     }
@@ -183,8 +190,9 @@ private Q_SLOTS:
         JobApplication app;
         ready(app, discs::none);
         app.trigger("menuitemDiscInfo");
-        QCOMPARE(app.texts(), QStringList(u"No disc | There is no disc on the drive. Insert a media on the drive and "
-                                           "try again."_s));
+        QCOMPARE(app.texts(),
+            QStringList(u"No disc | There is no disc on the drive. Insert a media on the drive and "
+                        "try again."_s));
         QCOMPARE(app.asked.alerts.first().buttons, QStringList(u"Close"_s));
         QCOMPARE(runsAfterList(app).size(), 1);
     }
@@ -218,7 +226,8 @@ private Q_SLOTS:
             QVERIFY(field->height() < metrics.lineSpacing() * 8); // two lines need no empty page
             const auto buttons = alert->findChildren<QPushButton *>();
             QCOMPARE(buttons.size(), 1);
-            QVERIFY(buttons.first()->mapTo(alert, QPoint()).y() > field->mapTo(alert, QPoint(0, field->height())).y());
+            QVERIFY(buttons.first()->mapTo(alert, QPoint()).y()
+                > field->mapTo(alert, QPoint(0, field->height())).y());
             QVERIFY(alert->findChild<QLabel *>(u"labelMessage"_s)->height() < metrics.lineSpacing() * 3);
             QCOMPARE(buttons.first()->text(), u"OK"_s);
             QTest::keyClick(alert, Qt::Key_Return);
@@ -255,7 +264,8 @@ private Q_SLOTS:
         });
         app.press("toolbar_btn_Tools_Disc_Info");
         QVERIFY(information.happened());
-        const QByteArray expected = marked ? discs::blankCD.left(discs::blankCD.indexOf('\n')) : discs::blankCD;
+        const QByteArray expected =
+            marked ? discs::blankCD.left(discs::blankCD.indexOf('\n')) : discs::blankCD;
         QCOMPARE(QGuiApplication::clipboard()->text(), QString::fromUtf8(expected));
     }
 
@@ -265,7 +275,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("page");
         QTest::addColumn<QSize>("size");
         QTest::addColumn<double>("share");
-        const QSize sizes[] = {{700, 400}, {1000, 640}, {1600, 1000}};
+        const QSize sizes[] = { { 700, 400 }, { 1000, 640 }, { 1600, 1000 } };
         for (const QSize &size : sizes) {
             QTest::addRow("ISO, %d x %d", size.width(), size.height())
                 << QByteArray("submenuItemTabISO") << QByteArray("page_ISO") << size << 0.3;
@@ -295,10 +305,12 @@ private Q_SLOTS:
             filled += qint64(place.width()) * place.height();
             QVERIFY(button->description().endsWith(u'.'));
             const QRect narrow(0, 0, place.width() - 120, 1000);
-            const int sentence = button->fontMetrics().boundingRect(narrow, Qt::TextWordWrap, button->description()).height();
+            const int sentence =
+                button->fontMetrics().boundingRect(narrow, Qt::TextWordWrap, button->description()).height();
             QVERIFY(sentence + button->fontMetrics().height() * 1.2 <= place.height());
         }
-        QVERIFY2(double(filled) > share * area->width() * area->height(), qPrintable(QString::number(filled)));
+        QVERIFY2(
+            double(filled) > share * area->width() * area->height(), qPrintable(QString::number(filled)));
     }
 
     void theEraseButtonAndItsItemsSayWhatTheyDestroy()
@@ -308,16 +320,17 @@ private Q_SLOTS:
         const auto *button = app.element<BarButton>("toolbar_btn_Tools_Erase_Disc");
         QVERIFY(button->description().contains(u"Destroys everything on the rewritable disc"_s));
         QVERIFY(button->description().contains(u"does not ask again"_s));
-        for (const char *item : {"menuitemEraseFull", "menuitemEraseQuick"})
+        for (const char *item : { "menuitemEraseFull", "menuitemEraseQuick" })
             QVERIFY(app.element<QAction>(item)->text().contains(u"everything on the disc"_s));
     }
 
     void everyToolSpeaksToTheChosenDrive()
     {
         JobApplication app;
-        app.drutil.print(u"list"_s, "header\n"
-                                    "1  ACME     Reader            1.0   SATA      Supported\n"
-                                    "a  ACME     Writer            1.0   SATA      Supported\n");
+        app.drutil.print(u"list"_s,
+            "header\n"
+            "1  ACME     Reader            1.0   SATA      Supported\n"
+            "a  ACME     Writer            1.0   SATA      Supported\n");
         ready(app, discs::writtenCDRW);
         app.trigger("submenuItemDriveSlot2");
         app.press("toolbar_btn_Tools_Eject_Disc");

@@ -1,4 +1,4 @@
-// An audio CD as it reaches the drive: the cue sheet and every sector, against a drive that keeps to MMC-6.
+// An audio CD as it reaches the drive: the cue sheet and every sector, against a drive that keeps to MMC-5.
 #include "Session.h"
 
 #include <chrono>
@@ -51,7 +51,7 @@ std::string audioFolder(Session &session, const QList<qsizetype> &sizes)
     return folder.toStdString();
 }
 
-/// One line of a cue sheet (MMC-6 6.35.2): CTL/ADR, track, index, form of the data, address.
+/// One line of a cue sheet (MMC-5 6.33): CTL/ADR, track, index, form of the data, address.
 QByteArray line(int control, int track, int index, int form, qint32 address)
 {
     const int frames = address + 150;

@@ -1,4 +1,4 @@
-// Data discs on every kind of medium, against a drive that keeps to MMC-6.
+// Data discs on every kind of medium, against a drive that keeps to MMC-5.
 #include "Session.h"
 
 using namespace Qt::StringLiterals;

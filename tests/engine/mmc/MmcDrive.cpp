@@ -48,14 +48,14 @@ quint32 numberIn(const QByteArray &bytes, int at, int count)
     return number;
 }
 
-/// Minutes, seconds, frames of an address (MMC-6 annex A).
+/// Minutes, seconds, frames of an address as the table of contents has it.
 QByteArray msf(qint32 address)
 {
     const int frames = address + 150;
     return big(quint32(frames / 4500 << 16 | frames / 75 % 60 << 8 | frames % 75), 3);
 }
 
-/// A feature of GET CONFIGURATION (MMC-6 5.2.2).
+/// A feature of GET CONFIGURATION (MMC-5 5.2).
 QByteArray feature(int code, bool isCurrent, const QByteArray &data = {})
 {
     return big(quint32(code), 2) + char(isCurrent ? 1 : 0) + char(data.size()) + data;
@@ -303,7 +303,7 @@ Drive::Answer Drive::tellConfiguration(const Command &)
         {} };
 }
 
-// READ DISC INFORMATION, MMC-6 6.21, standard disc information
+// READ DISC INFORMATION, MMC-5 6.22, standard disc information
 Drive::Answer Drive::tellDisc(const Command &)
 {
     const int status = overwritable()     ? (disc.profile == dvdRam || disc.profile == bdRe ? 3 : 2)
@@ -323,7 +323,7 @@ Drive::Answer Drive::tellDisc(const Command &)
     return { data, {} };
 }
 
-// READ TRACK INFORMATION, MMC-6 6.26
+// READ TRACK INFORMATION, MMC-5 6.27
 Drive::Answer Drive::tellTrack(const Command &command)
 {
     const bool open = !overwritable() && disc.state != State::complete;
@@ -343,7 +343,7 @@ Drive::Answer Drive::tellTrack(const Command &command)
     return { data, {} };
 }
 
-// READ TOC/PMA/ATIP, MMC-6 6.25
+// READ TOC/PMA/ATIP, MMC-5 6.26
 Drive::Answer Drive::tellToc(const Command &command)
 {
     const auto entry = [](int point, const QByteArray &address) {
@@ -378,7 +378,7 @@ Drive::Answer Drive::tellCapacity(const Command &)
     return { big(quint32(std::max(blocks - 1, 0)), 4) + big(2048, 4), {} };
 }
 
-// READ FORMAT CAPACITIES, MMC-6 6.23
+// READ FORMAT CAPACITIES, MMC-5 6.24
 Drive::Answer Drive::tellFormats(const Command &)
 {
     QList<Format> formats;
@@ -414,7 +414,7 @@ Drive::Answer Drive::tellBuffer(const Command &)
     return { big(10, 2) + big(0, 2) + big(2'000'000, 4) + big(500'000, 4), {} };
 }
 
-// GET PERFORMANCE type 03h, MMC-6 6.8
+// GET PERFORMANCE type 03h, MMC-5 6.8
 Drive::Answer Drive::tellPerformance(const Command &command)
 {
     QByteArray list;
@@ -490,7 +490,7 @@ Drive::Answer Drive::write(const Command &command)
 
 Drive::Answer Drive::flush(const Command &)
 {
-    // A session at once closes itself behind its last block (MMC-6 4.2.3.4, 6.41).
+    // A session at once closes itself behind its last block.
     if (m_reserved > 0 && m_next >= m_reserved && disc.profile != dvdPlusR && disc.profile != bdR)
         disc.state = State::complete;
     return {};
@@ -513,7 +513,7 @@ Drive::Answer Drive::blank(const Command &command)
         return { {}, incompatibleMedium };
     if (disc.profile == dvdRwRestricted)
         disc.profile = dvdRwSequential;
-    // After a minimal blanking a DVD-RW takes one session at once only (MMC-6 4.3.4).
+    // After a minimal blanking a DVD-RW takes one session at once only.
     disc.incremental = disc.profile != dvdRwSequential || type == 0;
     disc.state = State::blank;
     disc.blocks.clear();
@@ -521,7 +521,7 @@ Drive::Answer Drive::blank(const Command &command)
     return {};
 }
 
-// FORMAT UNIT, MMC-6 6.5: header of 4 bytes, one descriptor of 8
+// FORMAT UNIT, MMC-5 6.5: header of 4 bytes, one descriptor of 8
 Drive::Answer Drive::format(const Command &command)
 {
     const int type = int(command.dataNumber(8, 1)) >> 2;

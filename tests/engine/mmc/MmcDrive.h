@@ -1,6 +1,6 @@
 // A drive without hardware, for tests of what libburn and the engine say to a drive. It answers the SCSI
 // commands that reach it through ioctl(SG_IO) on a file, and keeps what is written. Its answers are
-// constructed from the tables of MMC-6; the format capacities of the BD-RE are those of a real drive, which
+// constructed from the tables of MMC-5; the format capacities of the BD-RE are those of a real drive, which
 // libburn's mmc.c quotes. It is strict where the standard is: an address that is not the next one, a write
 // without a cue sheet or to a closed disc is refused.
 #pragma once
@@ -18,7 +18,7 @@ namespace mmc {
 
 enum class State { blank, appendable, complete };
 
-/// Profiles of MMC-6 table 94 that the drive knows.
+/// Profiles of GET CONFIGURATION that the drive knows.
 enum Profile {
     none = 0x00,
     cdR = 0x09,

@@ -1,4 +1,4 @@
-// Erasing and formatting rewritable media, against a drive that keeps to MMC-6.
+// Erasing and formatting rewritable media, against a drive that keeps to MMC-5.
 #include "Session.h"
 
 #include <chrono>
@@ -13,8 +13,8 @@ namespace {
 struct Erase {
     Disc disc;
     EraseMode mode = EraseMode::quick;
-    int blanking = -1; ///< type of BLANK (MMC-6 6.2), -1 for none
-    int formatting = -1; ///< type of FORMAT UNIT (MMC-6 6.5), -1 for none
+    int blanking = -1; ///< type of BLANK, -1 for none
+    int formatting = -1; ///< type of FORMAT UNIT (MMC-5 6.5), -1 for none
     qint32 zeros = 0; ///< blocks that are overwritten
     int profile = none; ///< afterwards
 };

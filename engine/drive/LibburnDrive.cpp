@@ -181,13 +181,14 @@ report::Phase nextPhase(report::Phase last, report::Phase told, const Count &cou
     return closing ? report::Phase::closing : told;
 }
 
+/// `counted` is false while libburn closes or formats: it counts no sectors then, or others.
 report::Progress progressOf(
-    const burn_progress &p, const Count &count, report::Phase phase, report::Family family)
+    const burn_progress &p, const Count &count, report::Phase phase, report::Family family, bool counted)
 {
     report::Progress progress;
     progress.phase = phase;
     progress.family = family;
-    if (phase == report::Phase::closing)
+    if (!counted)
         return progress;
     progress.done = count.done();
     progress.total = count.total();
@@ -274,10 +275,12 @@ LibburnDrive::Outcome LibburnDrive::wait(Stop stop, const Task &task, const Cont
     burn_progress p{};
     for (burn_drive_status status{}; (status = burn_drive_get_status(handle(), &p)) != BURN_DRIVE_IDLE;) {
         if (status != BURN_DRIVE_SPAWNING) {
-            count.update(p);
+            const report::Phase told = phaseOf(status, task.phase);
+            if (told == task.phase)
+                count.update(p);
             outcome.sectors = count.done();
-            phase = nextPhase(phase, phaseOf(status, task.phase), count);
-            control.report(progressOf(p, count, phase, task.family), task.unitBytes);
+            phase = nextPhase(phase, told, count);
+            control.report(progressOf(p, count, phase, task.family, phase == task.phase), task.unitBytes);
         }
         if (outcome.signal == 0)
             outcome.signal = control.stopped();

@@ -98,6 +98,28 @@ private Q_SLOTS:
         QCOMPARE(sentence(session.burn()), QString());
     }
 
+    // libburn formats a new DVD+RW in the course of the write, and no sector of it is written meanwhile.
+    void aFormatWithinAWriteHasNoPercentage()
+    {
+        Session session(unformatted(dvdPlusRw));
+        std::binary_semaphore told(0);
+        bool formats = false;
+        session.options.control.progress = [&](const engine::report::Progress &progress, unsigned) {
+            if (progress.phase == engine::report::Phase::erasing && progress.total == 0 && !formats) {
+                formats = true;
+                told.release();
+            }
+        };
+        bool seen = false;
+        session.drive.refuse = [&](const Command &command) -> std::optional<Sense> {
+            if (command.opcode() == formatUnit)
+                seen = told.try_acquire_for(std::chrono::seconds(30));
+            return {};
+        };
+        QCOMPARE(sentence(session.burn()), QString());
+        QVERIFY(seen);
+    }
+
     void aWrittenDiscIsErasedBeforeTheNextBurn_data()
     {
         QTest::addColumn<int>("profile");

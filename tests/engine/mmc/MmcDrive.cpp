@@ -127,7 +127,7 @@ Drive::Drive(Disc inserted)
     , m_device(QFile::encodeName(m_dir.filePath(QStringLiteral("drive"))))
 {
     QFile file(QFile::decodeName(m_device));
-    if (!file.open(QFile::WriteOnly))
+    if (!file.open(QFile::WriteOnly) || ::fstat(file.handle(), &m_node) != 0)
         qFatal("no place for the drive");
     const std::lock_guard guard(currentMutex);
     current = this;
@@ -137,6 +137,12 @@ Drive::~Drive()
 {
     const std::lock_guard guard(currentMutex);
     current = nullptr;
+}
+
+bool Drive::isOpenAs(int fd) const
+{
+    struct stat opened { };
+    return ::fstat(fd, &opened) == 0 && opened.st_dev == m_node.st_dev && opened.st_ino == m_node.st_ino;
 }
 
 void Drive::unplug()
@@ -551,22 +557,6 @@ Drive::Answer Drive::read(const Command &command)
 
 namespace {
 
-/// Whether `fd` is the file of the drive; then the drive stays locked in `guard`.
-bool isDrive(int fd)
-{
-    struct stat opened { };
-    struct stat own { };
-    static dev_t device = 0;
-    static ino_t inode = 0;
-    if (::fstat(fd, &opened) != 0)
-        return false;
-    if (::stat(current->device().constData(), &own) == 0) {
-        device = own.st_dev;
-        inode = own.st_ino;
-    }
-    return opened.st_dev == device && opened.st_ino == inode;
-}
-
 /// What the kernel answers at a request that is no command.
 int requestOf(unsigned long request, void *argument)
 {
@@ -597,7 +587,7 @@ extern "C" int ioctl(int fd, unsigned long request, ...) noexcept
     void *argument = va_arg(arguments, void *);
     va_end(arguments);
     const std::lock_guard guard(mmc::currentMutex);
-    if (!mmc::current || !mmc::isDrive(fd))
+    if (!mmc::current || !mmc::current->isOpenAs(fd))
         return int(::syscall(SYS_ioctl, fd, request, argument));
     return request == SG_IO ? mmc::current->transfer(argument) : mmc::requestOf(request, argument);
 }

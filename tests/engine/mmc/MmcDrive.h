@@ -13,6 +13,7 @@
 #include <functional>
 #include <mutex>
 #include <optional>
+#include <sys/stat.h>
 
 namespace mmc {
 
@@ -126,6 +127,8 @@ public:
     /// The blocks from `address` on, joined; ends at the first that was never written.
     QByteArray content(qint32 address) const;
 
+    /// Whether `fd` is the device, opened. Called by any thread.
+    bool isOpenAs(int fd) const;
     /// What ioctl(SG_IO) does. Called by any thread.
     int transfer(void *header);
 
@@ -171,6 +174,7 @@ private:
 
     QTemporaryDir m_dir;
     QByteArray m_device;
+    struct stat m_node { };
     bool m_unplugged = false;
     mutable std::mutex m_mutex;
     int m_mode = 0; ///< byte 2 of mode page 05h

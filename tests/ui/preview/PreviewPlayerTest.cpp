@@ -384,6 +384,15 @@ void PreviewPlayerTest::everythingHasAName()
         auto *interface = QAccessible::queryAccessibleInterface(control);
         QVERIFY2(!interface->text(QAccessible::Name).isEmpty(), qPrintable(control->objectName()));
     }
+    // A label with a name of its own would not be read out with what it says.
+    player.setCurrentTime(7);
+    player.forward()->click();
+    for (const auto &[label, text] : { std::pair{ "elapsedLabel", u"0:07"_s }, { "durationLabel", u"0:12"_s },
+             { "rateLabel", u"2×"_s } }) {
+        auto *interface = QAccessible::queryAccessibleInterface(player.find<QLabel>(label));
+        QCOMPARE(interface->text(QAccessible::Name), text);
+        QVERIFY(!interface->text(QAccessible::Description).isEmpty());
+    }
     auto *picture = QAccessible::queryAccessibleInterface(player.view());
     QVERIFY(!picture->text(QAccessible::Name).isEmpty());
 }

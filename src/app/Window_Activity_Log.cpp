@@ -26,7 +26,7 @@ Window_Activity_Log::Window_Activity_Log(ActivityLog *log, QWidget *parent)
     m_ui->splitter->setStretchFactor(1, 1);
     const int unit = fontMetrics().averageCharWidth();
     m_ui->listRuns->setColumnWidth(0, unit * 14);
-    m_ui->listRuns->setColumnWidth(1, unit * 28);
+    m_ui->listRuns->setColumnWidth(1, unit * 36);
     // The log may change many times a second and from any thread; the window looks at it twice.
     m_refresh.setSingleShot(true);
     m_refresh.setInterval(200);

@@ -2,19 +2,28 @@
 // that scripts/screenshots makes. Usage: corvalis_screenshots light|dark FOLDER-OF-MEDIA OUTPUT-FOLDER
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
+#include "app/Window_Activity_Log.h"
 #include "runner/StatusSheets.h"
+#include "ui/ColourWell.h"
+#include "ui/PreviewPlayer.h"
+#include "ui/Window_Colors.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QCursor>
+#include <QDialog>
 #include <QDir>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QStyleFactory>
 #include <QTest>
+#include <QTreeWidget>
 
 #include <cstdlib>
 #include <functional>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -34,6 +43,20 @@ QPalette darkPalette()
     return dark;
 }
 
+/// A scheme that somebody could have chosen: the wells of the sheet, and what to put into them.
+struct Choice {
+    const char *well;
+    QColor light;
+    QColor dark;
+};
+const Choice choices[] = {
+    {"colorListBackground", QColor(250, 246, 236), QColor(24, 34, 31)},
+    {"colorListForeground", QColor(52, 44, 38), QColor(214, 228, 220)},
+    {"colorToolbar", QColor(47, 98, 84), QColor(38, 78, 67)},
+    {"colorBottomBar", QColor(35, 74, 64), QColor(29, 59, 51)},
+    {"colorSpaceOccupied", QColor(232, 163, 61), QColor(232, 163, 61)},
+};
+
 /// Waits until `reached` answers true; without it there is nothing to photograph.
 void waitFor(const std::function<bool()> &reached, int limit)
 {
@@ -50,12 +73,15 @@ public:
         m_controller.awakeFromNib();
         m_controller.applicationDidFinishLaunching();
         m_window.move(0, 0);
+        QCursor::setPos(m_window.screen()->geometry().bottomRight()); // where nothing is under it
         QTest::qWait(400);
     }
 
     void photographAll()
     {
         takeAudio();
+        takeColours();
+        takePlayer();
         takeJob();
         takeTabs();
         takeSheets();
@@ -63,11 +89,14 @@ public:
     }
 
 private:
-    void shoot(const QString &name)
+    void shoot(const QString &name) { shoot(name, m_window); }
+
+    /// What the screen shows where this window is.
+    void shoot(const QString &name, const QWidget &window)
     {
         QTest::qWait(250);
-        QRect area(m_window.mapToGlobal(QPoint(0, 0)), m_window.size());
-        const QPixmap picture = m_window.screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height());
+        const QRect area(window.mapToGlobal(QPoint(0, 0)), window.size());
+        const QPixmap picture = window.screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height());
         picture.save(u"%1/%2-%3.png"_s.arg(m_output, name, m_suffix));
     }
 
@@ -89,11 +118,47 @@ private:
         shoot(u"audio"_s);
     }
 
+    void takeColours()
+    {
+        m_controller.OnToolsColors();
+        shoot(u"colours"_s);
+        for (const Choice &choice : choices)
+            inColours<ColourWell>(choice.well)->setColour(m_suffix == u"dark" ? choice.dark : choice.light);
+        inColours<QCheckBox>("check_Alternating_Rows")->setChecked(false);
+        inColours<QPushButton>("btnOK")->click();
+        shoot(u"recoloured"_s);
+        m_controller.OnToolsColors();
+        inColours<QPushButton>("btnOriginal")->click();
+        inColours<QPushButton>("btnOK")->click();
+    }
+
+    template <class T>
+    T *inColours(const char *name) const
+    {
+        return m_controller.windowColors->findChild<T *>(QLatin1StringView(name));
+    }
+
+    void takePlayer()
+    {
+        QString whyNot;
+        const std::unique_ptr<QDialog> player(
+            createPreview(QUrl::fromLocalFile(m_media + u"/Seaside.mov"_s), nullptr, &whyNot));
+        if (!player)
+            qFatal("%s", qPrintable(whyNot));
+        player->move(0, 0);
+        player->show();
+        waitFor([&] { return player->property("duration").toDouble() > 0; }, 30'000);
+        player->setProperty("currentTime", 17);
+        player->findChild<QPushButton *>(u"playPauseButton"_s)->click();
+        waitFor([&] { return player->property("currentTime").toDouble() > 18.5; }, 30'000);
+        shoot(u"player"_s, *player);
+    }
+
     void takeJob()
     {
         QTimer progress;
         QObject::connect(&progress, &QTimer::timeout, qApp, [this] {
-            if (m_controller.windowProgress && m_controller.windowProgress->progressOverall()->value() == 3
+            if (m_controller.windowProgress && m_controller.windowProgress->progressOverall()->value() >= 2
                 && m_controller.windowProgress->progressBar()->value() > 20 && !m_progressTaken) {
                 m_progressTaken = true;
                 shoot(u"progress"_s);
@@ -102,17 +167,26 @@ private:
         progress.start(20);
         ui()->btnBurn->click();
         waitFor([this] { return !m_controller.windowPerformingOperation.isNull(); }, 60'000);
+        if (!m_progressTaken)
+            qFatal("The conversion was over too soon to be photographed.");
         shoot(u"working"_s);
         waitFor([this] { return !m_controller.windowOperationCompleted.isNull(); }, 60'000);
         shoot(u"complete"_s);
         m_controller.Close_Window_Operation_Complete();
         QTest::qWait(100);
+        takeLog();
+    }
+
+    void takeLog()
+    {
         m_controller.OnMenuActivityLog();
-        QTest::qWait(300);
+        Window_Activity_Log &log = *m_controller.windowActivityLog;
+        log.move(90, 70);
+        auto *runs = log.findChild<QTreeWidget *>(u"listRuns"_s);
+        waitFor([&] { return runs->topLevelItemCount() > 0; }, 5'000);
+        runs->setCurrentItem(runs->topLevelItem(runs->topLevelItemCount() - 1)); // the writing
         shoot(u"activity-log"_s);
-        QWidget *log = QApplication::activeWindow();
-        if (log && log != &m_window)
-            log->close();
+        log.close();
     }
 
     void takeTabs()

@@ -160,6 +160,7 @@ void AppDelegate::storeFirstRunFormats()
 
 void AppDelegate::RemoveAllContentInFolder(const QString &folder)
 {
+    QDir().mkpath(folder); // a person may have taken it away from the Documents folder
     compilation::emptyFolder(QFile::encodeName(folder).toStdString(), [this](const std::string &failure) {
         const QString text = QString::fromStdString(failure);
         qCWarning(files).noquote() << u"oops: %1"_s.arg(text);

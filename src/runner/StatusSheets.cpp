@@ -90,9 +90,13 @@ Spinner *Window_Performing_Operation::pgAnimation() const
 
 void Window_Performing_Operation::showNewestLine(const QByteArray &output)
 {
-    const QByteArray lines = output.trimmed();
+    // A piece may end within a line, and within a letter.
+    m_unfinished += output;
+    const qsizetype end = qMax(m_unfinished.lastIndexOf('\n'), m_unfinished.lastIndexOf('\r'));
+    const QByteArray lines = m_unfinished.first(end + 1).trimmed();
     const qsizetype start = qMax(lines.lastIndexOf('\n'), lines.lastIndexOf('\r')) + 1;
     constexpr qsizetype most = 200;
+    m_unfinished = m_unfinished.mid(end + 1, most);
     const QString line = QString::fromUtf8(lines.mid(start, most)).simplified();
     if (!line.isEmpty())
         m_ui->labelDescription->setText(line);

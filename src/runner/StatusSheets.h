@@ -58,7 +58,7 @@ public:
     ~Window_Performing_Operation() override;
 
     Spinner *pgAnimation() const;
-    /// Puts the last whole line of `output` below the heading.
+    /// Puts the last whole line of the tool's output, of which this is the next piece, below the heading.
     void showNewestLine(const QByteArray &output);
     QString newestLine() const;
 
@@ -66,6 +66,7 @@ private:
     void windowDidLoad();
 
     std::unique_ptr<Ui::Window_Performing_Operation> m_ui;
+    QByteArray m_unfinished; ///< the beginning of the line that is being printed
 };
 
 /// The operation-complete sheet. A job always ends here; when tools of the job reported trouble it

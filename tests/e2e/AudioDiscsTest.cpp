@@ -205,6 +205,35 @@ private Q_SLOTS:
         QCOMPARE(contentOf(machine.recorder.path(u"disc.bin"_s)), discOf({ machine.mediaPath(u"x/song.mp3"_s) }));
     }
 
+    void aSongThatHasGoneIsToldAndTheOthersAreWritten()
+    {
+        WholeMachine machine;
+        for (const auto &name : { u"gone.mp3"_s, u"here.mp3"_s })
+            makeMedia(machine.mediaPath(name), QString::fromLatin1(music[0].arguments));
+        QVERIFY(machine.addFiles(machine.media.path(), { u"gone.mp3"_s, u"here.mp3"_s }));
+        QVERIFY(QFile::remove(machine.mediaPath(u"gone.mp3"_s)));
+        machine.press("btnBurn");
+        QVERIFY(machine.completes());
+        QCOMPARE(machine.trouble(), u"gone.mp3: %1: No such file or directory"_s.arg(machine.mediaPath(u"gone.mp3"_s)));
+        QCOMPARE(contentOf(machine.recorder.path(u"disc.bin"_s)), discOf({ machine.mediaPath(u"here.mp3"_s) }));
+    }
+
+    // A limit on the size of files stands for a disk without room.
+    void aSongForWhichThereIsNoRoomIsTold()
+    {
+        WholeMachine machine;
+        makeMedia(machine.mediaPath(u"song.mp3"_s), QString::fromLatin1(music[0].arguments));
+        QVERIFY(machine.addFiles(machine.media.path(), { u"song.mp3"_s }));
+        makeFile(machine.mediaPath(u"ffmpeg"_s), "#!/bin/sh\ntrap '' XFSZ\nulimit -f 100\nexec ffmpeg \"$@\"\n");
+        QFile(machine.mediaPath(u"ffmpeg"_s)).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        machine.controller->sffmpegPath = machine.mediaPath(u"ffmpeg"_s);
+        machine.press("btnBurn");
+        QVERIFY(machine.completes());
+        const QString first = machine.trouble().section(u'\n', 0, 0);
+        QVERIFY2(first.startsWith(u"song.mp3: "_s) && first.endsWith(u": File too large"_s), qUtf8Printable(first));
+        QCOMPARE(QDir(machine.controller->s_Audio_Folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+    }
+
     void aFileThatIsNoMusicIsToldAndTheOthersAreWritten()
     {
         WholeMachine machine;

@@ -1,5 +1,6 @@
 // Jobs whose tools misbehave, and what a person can do while one runs.
 #include "app/Window_Activity_Log.h"
+#include "runner/ToolRun.h"
 #include "support/JobApplication.h"
 #include "ui/Spinner.h"
 
@@ -142,6 +143,32 @@ private Q_SLOTS:
         QCOMPARE(app.namesIn(app.controller->s_Audio_Folder), QStringList());
     }
 
+    void aWorkingFolderThatWasTakenAwayIsMadeAgain()
+    {
+        JobApplication app;
+        ready(app);
+        QVERIFY(QDir(app.controller->s_Audio_Folder).removeRecursively());
+        app.press("btnBurn");
+        QVERIFY(app.completes());
+        QCOMPARE(app.trouble(), QString());
+        QCOMPARE(app.burned(), QStringList(u"song.wav"_s));
+    }
+
+    void aWorkingFolderThatTakesNothingIsTold()
+    {
+        JobApplication app;
+        app.convertWith("echo converted 2> /dev/null > \"$output\" || { echo \"$output: $?\" >&2; exit 1; }\n");
+        ready(app);
+        const QString folder = app.controller->s_Audio_Folder;
+        QVERIFY(QDir().rmdir(folder));
+        QFile inTheWay(folder);
+        QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+        app.press("btnBurn");
+        QVERIFY(app.completes());
+        QVERIFY2(app.trouble().startsWith(u"song.mp3: "_s), qUtf8Printable(app.trouble()));
+        QVERIFY(inTheWay.exists());
+    }
+
     void aProbeThatHangsIsEndedAndWhatItPrintedCounts_data()
     {
         QTest::addColumn<QByteArray>("hanging");
@@ -236,6 +263,25 @@ private Q_SLOTS:
         QTRY_COMPARE(app.controller->windowPerformingOperation->newestLine(), u"13% written"_s);
         QVERIFY(app.controller->windowPerformingOperation->pgAnimation()->isSpinning());
         app.release(app.drutil, "line");
+        QVERIFY(app.completes());
+    }
+
+    void theWorkingSheetShowsWholeLines()
+    {
+        JobApplication app;
+        app.burnWith("printf 'Reading\\n12%% wri'\n" + app.waitFor("middle") + "printf 'tten: caf\\303'\n" + app.waitFor("letter")
+                     + "printf '\\251\\n13%% wri'\n" + app.waitFor("end"));
+        ready(app);
+        app.press("btnBurn");
+        QTRY_VERIFY(app.controller->windowPerformingOperation);
+        const Window_Performing_Operation *sheet = app.controller->windowPerformingOperation;
+        QTRY_COMPARE(sheet->newestLine(), u"Reading"_s);
+        app.release(app.drutil, "middle");
+        QTRY_VERIFY(app.controller->observed->output().endsWith('\303'));
+        QCOMPARE(sheet->newestLine(), u"Reading"_s);
+        app.release(app.drutil, "letter");
+        QTRY_COMPARE(sheet->newestLine(), u"12% written: café"_s);
+        app.release(app.drutil, "end");
         QVERIFY(app.completes());
     }
 

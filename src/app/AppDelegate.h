@@ -219,10 +219,11 @@ public:
     void pickMediaFolder(ListKind kind);
     void addMediaFiles(ListKind kind, const QList<QUrl> &urls); ///< returns at once; addingEnded() follows
     void addMediaFolder(ListKind kind, const QString &folder);
+    QList<QUrl> mediaIn(ListKind kind, const QString &folder); ///< the accepted files; tells of names that are not text
     void mediaFileMeasured(ListKind kind, const QList<NodeMediaFile> &records, qsizetype count);
     void addDataFolder(const QString &path);
     template <class Record>
-    void deleteSelected(const ListTableView *table, QList<Record> &list);
+    void deleteSelected(ListTableView *table, QList<Record> &list);
     void playSelected(const ListTableView *table);
     void OnActionAudioAddFiles();
     void OnActionAudioAddFolder();
@@ -251,6 +252,7 @@ public:
     // ---- Tables, sorting, gauge (compilation/)
     qsizetype numberOfRowsInTableView(const ListTableView *table) const;
     void tableView_sortDescriptorsDidChange(ListTableView *table);
+    void forgetSorting(); ///< no heading claims any more that the list is in its order
     void reorderList(const ListTableView *table, const QList<qsizetype> &order, QList<int> &selected);
     static void reloadTable(ListTableView *table);
     void refreshTable(const ListTableView *table); ///< the list kind's refresh

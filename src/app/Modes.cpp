@@ -90,6 +90,7 @@ void AppDelegate::emptyAllLists()
     arrayMediaFiles.clear();
     refreshTableVideoFiles();
     refreshTableAudioFiles();
+    forgetSorting();
 }
 
 void AppDelegate::markVariant(int code)

@@ -12,6 +12,8 @@
 #include <QPushButton>
 #include <QTreeView>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -29,6 +31,16 @@ QString nameFilter(const QStringList &extensions)
     return QFileDialog::tr("Accepted files (%1)").arg(patterns.join(u' '));
 }
 
+/// How much of a folder could be chosen but for its name.
+int hiddenChoices(const QString &folder, const OpenPanel &panel)
+{
+    const compilation::FolderNames found = compilation::namesIn(folder);
+    const bool folders = panel.choose == OpenPanel::Choose::Folder;
+    if (!folders && !panel.extensions.isEmpty())
+        return compilation::unreadableFiles(found, panel.extensions, Qt::CaseInsensitive);
+    return static_cast<int>(std::ranges::count(found.unreadable, folders, &compilation::FolderNames::Unreadable::isFolder));
+}
+
 } // namespace
 
 Window_Open_Panel::Window_Open_Panel(const OpenPanel &panel, const QString &start, QWidget *over)
@@ -36,7 +48,7 @@ Window_Open_Panel::Window_Open_Panel(const OpenPanel &panel, const QString &star
 {
     setUp(panel);
     keepMarksExact();
-    tellWhatIsHidden();
+    tellWhatIsHidden(panel);
 }
 
 void Window_Open_Panel::setUp(const OpenPanel &panel)
@@ -112,7 +124,7 @@ QList<QUrl> Window_Open_Panel::chosen() const
 
 /// Says below the list of files how many it cannot show. A desktop's own dialog has no place for it, and
 /// shows all.
-void Window_Open_Panel::tellWhatIsHidden()
+void Window_Open_Panel::tellWhatIsHidden(const OpenPanel &panel)
 {
     auto *const grid = qobject_cast<QGridLayout *>(layout());
     const auto *const files = findChild<QFileSystemModel *>();
@@ -122,12 +134,14 @@ void Window_Open_Panel::tellWhatIsHidden()
     label->setObjectName(u"labelUnreadable"_s);
     label->setWordWrap(true);
     grid->addWidget(label, grid->rowCount(), 0, 1, -1);
-    const auto count = [label](const QString &folder) {
-        const int hidden = compilation::namesIn(folder).unreadable;
+    const auto count = [label, panel](const QString &folder) {
+        const int hidden = hiddenChoices(folder, panel);
         label->setVisible(hidden > 0);
-        label->setText(tr("%n file(s) of this folder cannot be shown: the names are not valid UTF-8 text. "
-                          "Rename them to choose them.",
-            nullptr, hidden));
+        label->setText(panel.choose == OpenPanel::Choose::Folder
+                ? tr("%n folder(s) cannot be shown here: the names are not valid UTF-8 text. Rename them to choose "
+                     "them.", nullptr, hidden)
+                : tr("%n file(s) of this folder cannot be shown: the names are not valid UTF-8 text. Rename them to "
+                     "choose them.", nullptr, hidden));
     };
     connect(files, &QFileSystemModel::rootPathChanged, label, count);
     count(files->rootPath());

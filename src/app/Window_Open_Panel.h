@@ -24,7 +24,7 @@ protected:
 private:
     void setUp(const OpenPanel &panel);
     void keepMarksExact();
-    void tellWhatIsHidden();
+    void tellWhatIsHidden(const OpenPanel &panel);
     QString typedName() const;
     void offerToOpen();
 

@@ -1,6 +1,10 @@
 #include "compilation/FolderNames.h"
 
+#include "compilation/Measuring.h"
+
 #include <QFile>
+
+#include <algorithm>
 
 #include <dirent.h>
 
@@ -19,10 +23,17 @@ FolderNames namesIn(const QString &folder)
         if (name.isValidUtf8())
             found.names.append(QString::fromUtf8(name));
         else
-            ++found.unreadable;
+            found.unreadable.append({name.toByteArray(), entry->d_type == DT_DIR});
     }
     ::closedir(stream);
     return found;
+}
+
+int unreadableFiles(const FolderNames &found, const QStringList &extensions, Qt::CaseSensitivity sensitivity)
+{
+    return static_cast<int>(std::ranges::count_if(found.unreadable, [&](const FolderNames::Unreadable &entry) {
+        return extensions.contains(pathExtension(QString::fromUtf8(entry.name)), sensitivity);
+    }));
 }
 
 bool isReadable(const QUrl &url)

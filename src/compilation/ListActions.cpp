@@ -80,23 +80,31 @@ void AppDelegate::pickMediaFolder(ListKind kind)
                                             : tr("Add the video files of a folder to the list");
     const QList<QUrl> chosen = around.questions->choose(panel, window);
     if (!chosen.isEmpty())
-        addMediaFolder(kind, chosen.first().toLocalFile());
+        addMediaFolder(kind, QDir::cleanPath(chosen.first().toLocalFile()));
 }
 
 void AppDelegate::addMediaFolder(ListKind kind, const QString &folder)
 {
+    addMediaFiles(kind, mediaIn(kind, folder));
+}
+
+QList<QUrl> AppDelegate::mediaIn(ListKind kind, const QString &folder)
+{
+    // Unlike the panel's filter this distinguishes upper and lower case.
+    const QStringList &accepted = acceptedExtensions(kind);
     const compilation::FolderNames found = compilation::namesIn(folder);
-    if (found.unreadable > 0) {
-        alert(tr("%n file(s) cannot be listed", nullptr, found.unreadable),
+    if (const int unreadable = compilation::unreadableFiles(found, accepted, Qt::CaseSensitive)) {
+        alert(tr("%n file(s) cannot be listed", nullptr, unreadable),
               tr("Their names in the folder “%1” are not valid UTF-8 text. Rename them and add the folder again.").arg(folder));
     }
-    // Unlike the panel's filter this distinguishes upper and lower case.
+    // Two slashes at the start of a path would make a host of its first name.
+    const QString place = folder.endsWith(u'/') ? folder : folder + u'/';
     QList<QUrl> urls;
     for (const QString &name : found.names) {
-        if (acceptedExtensions(kind).contains(compilation::pathExtension(name)))
-            urls.append(QUrl::fromLocalFile(u"%1/%2"_s.arg(folder, name)));
+        if (accepted.contains(compilation::pathExtension(name)))
+            urls.append(QUrl::fromLocalFile(place + name));
     }
-    addMediaFiles(kind, urls);
+    return urls;
 }
 
 void AppDelegate::addMediaFiles(ListKind kind, const QList<QUrl> &urls)
@@ -132,6 +140,7 @@ void AppDelegate::mediaFileMeasured(ListKind kind, const QList<NodeMediaFile> &r
     if (records.size() < count)
         return;
     arrayMediaFiles.append(records);
+    forgetSorting();
     if (windowUniqueProgress)
         windowUniqueProgress->endSheet();
     windowUniqueProgress = nullptr;
@@ -169,12 +178,13 @@ void AppDelegate::OnActionDataAddFolder()
     panel.message = tr("Add a folder to the list");
     const QList<QUrl> chosen = around.questions->choose(panel, window);
     if (!chosen.isEmpty())
-        addDataFolder(chosen.first().toLocalFile());
+        addDataFolder(QDir::cleanPath(chosen.first().toLocalFile()));
 }
 
 void AppDelegate::addDataFolder(const QString &path)
 {
     arrayDataFolders.append(compilation::folderRecord(path, folderSize(path)));
+    forgetSorting();
     refreshTableDataFolders();
 }
 
@@ -194,11 +204,18 @@ void AppDelegate::addDroppedFiles(const QList<QUrl> &urls)
     const int tab = ui->tabviewMain->currentIndex();
     const ListKind kind = tab == 0 ? ListKind::Audio : ListKind::Video;
     QList<QUrl> taken, refused, unreadable;
-    for (const QUrl &url : urls)
-        (listTakes(tab, url) ? taken : compilation::isReadable(url) ? refused : unreadable).append(url);
+    for (const QUrl &url : urls) {
+        const bool isFolder = url.isLocalFile() && QFileInfo(url.toLocalFile()).isDir();
+        const QList<QUrl> inside = tab != 2 && isFolder ? mediaIn(kind, QDir::cleanPath(url.toLocalFile())) : QList<QUrl>();
+        if (!inside.isEmpty())
+            taken.append(inside);
+        else
+            (listTakes(tab, url) ? taken : compilation::isReadable(url) ? refused : unreadable).append(url);
+    }
     if (!refused.isEmpty()) {
         const QString rule = tab == 2 ? tr("This list takes folders.")
-                                      : tr("This list takes files that end in %1.").arg(acceptedExtensions(kind).join(u", "_s));
+                                      : tr("This list takes files that end in %1, and folders with such files in them.")
+                                            .arg(acceptedExtensions(kind).join(u", "_s));
         alert(tr("Not everything can go on this list"), rule + u"\n\n"_s + namesOf(refused));
     }
     if (!unreadable.isEmpty())
@@ -210,7 +227,7 @@ void AppDelegate::addDroppedFiles(const QList<QUrl> &urls)
 }
 
 template <class Record>
-void AppDelegate::deleteSelected(const ListTableView *table, QList<Record> &list)
+void AppDelegate::deleteSelected(ListTableView *table, QList<Record> &list)
 {
     const QList<int> rows = table->selectedRows();
     if (!rows.isEmpty()) {
@@ -226,6 +243,8 @@ void AppDelegate::deleteSelected(const ListTableView *table, QList<Record> &list
         list = kept;
     }
     refreshTable(table);
+    if (!rows.isEmpty())
+        table->setCurrentRow(rows.first());
 }
 
 void AppDelegate::OnActionAudioDelete()

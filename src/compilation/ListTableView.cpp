@@ -86,11 +86,20 @@ QList<int> ListTableView::selectedRows() const
 void ListTableView::selectRows(const QList<int> &rows)
 {
     QItemSelection selection;
-    for (const int row : rows)
-        selection.select(model()->index(row, 0), model()->index(row, model()->columnCount() - 1));
+    for (qsizetype first = 0, last = 0; first < rows.size(); first = ++last) {
+        while (last + 1 < rows.size() && rows.at(last + 1) == rows.at(last) + 1)
+            ++last;
+        selection.append({model()->index(rows.at(first), 0), model()->index(rows.at(last), model()->columnCount() - 1)});
+    }
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     if (!rows.isEmpty())
         selectionModel()->setCurrentIndex(model()->index(rows.last(), 0), QItemSelectionModel::NoUpdate);
+}
+
+void ListTableView::setCurrentRow(int row)
+{
+    const QModelIndex index = model()->index(qMin(row, model()->rowCount() - 1), 0);
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
 }
 
 int ListTableView::lastSelectedRow() const
@@ -122,22 +131,30 @@ void ListTableView::keyPressEvent(QKeyEvent *event)
         QTableView::keyPressEvent(event);
 }
 
+// What is dropped stays where it lies. A file manager that offers to move it, and is told that this was
+// done, may remove it.
+bool ListTableView::takes(QDropEvent *event)
+{
+    const Qt::DropActions possible = event->possibleActions();
+    if (!event->mimeData()->hasUrls() || !(possible & (Qt::CopyAction | Qt::LinkAction)))
+        return false;
+    event->setDropAction(possible & Qt::CopyAction ? Qt::CopyAction : Qt::LinkAction);
+    event->accept();
+    return true;
+}
+
 void ListTableView::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (event->mimeData()->hasUrls())
-        event->acceptProposedAction();
+    takes(event);
 }
 
 void ListTableView::dragMoveEvent(QDragMoveEvent *event)
 {
-    if (event->mimeData()->hasUrls())
-        event->acceptProposedAction();
+    takes(event);
 }
 
 void ListTableView::dropEvent(QDropEvent *event)
 {
-    if (!event->mimeData()->hasUrls())
-        return;
-    event->acceptProposedAction();
-    Q_EMIT filesDropped(event->mimeData()->urls());
+    if (takes(event))
+        Q_EMIT filesDropped(event->mimeData()->urls());
 }

@@ -24,8 +24,10 @@ public:
 
     /// The selected rows in ascending order.
     QList<int> selectedRows() const;
-    /// Replaces the selection.
+    /// Replaces the selection with these rows, which are in ascending order.
     void selectRows(const QList<int> &rows);
+    /// Lets the keyboard go on from this row, or the last one where there are fewer, without selecting it.
+    void setCurrentRow(int row);
     /// The row selected last, -1 without a selection.
     int lastSelectedRow() const;
 
@@ -42,6 +44,8 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
+    static bool takes(QDropEvent *event);
+
     QString m_emptyHint;
     int m_selectedColumn = -1;
 };

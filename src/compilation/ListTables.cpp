@@ -134,6 +134,12 @@ void AppDelegate::tableView_sortDescriptorsDidChange(ListTableView *table)
     table->selectRows(selected);
 }
 
+void AppDelegate::forgetSorting()
+{
+    for (const ListTableView *table : {ui->tableviewAudioFiles, ui->tableviewVideoFiles, ui->tableviewDataFolders})
+        table->horizontalHeader()->setSortIndicatorShown(false);
+}
+
 void AppDelegate::reorderList(const ListTableView *table, const QList<qsizetype> &order, QList<int> &selected)
 {
     if (table == ui->tableviewDataFolders)
@@ -167,6 +173,7 @@ void AppDelegate::moveSelectedEntries(int by)
         order.swapItemsAt(row, row + by);
     std::ranges::sort(selected);
     reorderList(table, order, selected);
+    forgetSorting();
     refreshTable(table);
     table->selectRows(selected);
 }

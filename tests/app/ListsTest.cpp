@@ -96,6 +96,7 @@ private Q_SLOTS:
     void folderThatIsGone();
     void namesThatAreNotTextAreTold();
     void namesThatTheDialogCannotShow();
+    void pathsWithATrailingSlash();
     void duplicates();
     void dataFolder();
     void dataFolderTwice();
@@ -112,6 +113,8 @@ private Q_SLOTS:
     void movingRows();
     void dropOnAudio();
     void dropOnData();
+    void dropOfAnAlbum();
+    void dropIsNeverAMove();
     void dropThatDoesNotFitIsTold();
 
 private:
@@ -584,6 +587,9 @@ void ListsTest::namesThatAreNotTextAreTold()
 {
     makeFile(media(u"good.mp3"_s));
     makeFileOfBytes(m_media->path().toUtf8() + "/bad \xff\xfe.mp3");
+    // What would not be listed anyway is not told of.
+    makeFileOfBytes(m_media->path().toUtf8() + "/bad \xff\xfe.txt");
+    makeFileOfBytes(m_media->path().toUtf8() + "/bad \xff\xfe.MP3");
     person::Expect<QFileDialog> dialog(
         [this](QFileDialog *panel) { person::openFolder(panel, m_media->path()); });
     QString told;
@@ -605,7 +611,8 @@ void ListsTest::namesThatAreNotTextAreTold()
 void ListsTest::namesThatTheDialogCannotShow()
 {
     makeFile(media(u"good.mp3"_s));
-    makeFileOfBytes(m_media->path().toUtf8() + "/bad \xff\xfe.mp3");
+    makeFileOfBytes(m_media->path().toUtf8() + "/bad \xff\xfe.Mp3");
+    makeFileOfBytes(m_media->path().toUtf8() + "/bad \xff\xfe.txt");
     QString told;
     person::Expect<QFileDialog> dialog([&](QFileDialog *panel) {
         const auto *label = panel->findChild<QLabel *>(u"labelUnreadable"_s);
@@ -618,6 +625,23 @@ void ListsTest::namesThatTheDialogCannotShow()
     click("toolbar_btn_Audio_Add_Files");
     QVERIFY(dialog.happened());
     QVERIFY2(told.startsWith(u"1 file"_s) && told.contains(u"UTF-8"_s), qPrintable(told));
+}
+
+void ListsTest::pathsWithATrailingSlash()
+{
+    makeFile(media(u"album/song.mp3"_s));
+    {
+        person::Expect<QFileDialog> dialog([this](QFileDialog *panel) { person::openFolder(panel, media(u"album/"_s)); });
+        click("toolbar_btn_Audio_Add_Folder");
+        QVERIFY(dialog.happened());
+        QVERIFY(awaitAdded());
+        QCOMPARE(m_app->controller->arrayMediaFiles.first().s_File_Path, media(u"album/song.mp3"_s));
+    }
+    showTab(2);
+    person::Expect<QFileDialog> dialog([this](QFileDialog *panel) { person::openFolder(panel, media(u"album//"_s)); });
+    click("toolbar_btn_Data_Add_Folder");
+    QVERIFY(dialog.happened());
+    QCOMPARE(m_app->controller->arrayDataFolders.first().s_Path, media(u"album"_s));
 }
 
 void ListsTest::duplicates()
@@ -677,6 +701,7 @@ void ListsTest::deleting()
         person::clickRow(audio(), audio()->model()->index(row, 0), Qt::ControlModifier);
     click("toolbar_btn_Audio_Delete");
     QCOMPARE(column(audio(), 0), left);
+    QCOMPARE(audio()->currentIndex().row(), qMin(*std::ranges::min_element(rows), static_cast<int>(left.size()) - 1));
     QCOMPARE(m_app->controller->i_Audio_Total_Duration_in_Seconds, 205 * left.size());
     QVERIFY(audio()->selectedRows().isEmpty());
 }
@@ -823,6 +848,51 @@ void ListsTest::dropOnAudio()
     person::drop(audio(), { QUrl::fromLocalFile(media(u"b.MP3"_s)), QUrl::fromLocalFile(media(u"a.wav"_s)) });
     QVERIFY(awaitAdded());
     QCOMPARE(column(audio(), 0), QStringList({ u"b.MP3"_s, u"a.wav"_s }));
+}
+
+void ListsTest::dropOfAnAlbum()
+{
+    m_app->controller->around.questions = &m_app->questions;
+    for (const auto &name : { u"album/one.mp3"_s, u"album/TWO.MP3"_s, u"album/cover.jpg"_s, u"album/disc 2/three.mp3"_s,
+             u"no music/text.txt"_s, u"last.wav"_s })
+        makeFile(media(name));
+    QList<QUrl> urls;
+    for (const auto &name : { u"album/"_s, u"no music"_s, u"last.wav"_s })
+        urls.append(QUrl::fromLocalFile(media(name)));
+    person::drop(audio(), urls);
+    QVERIFY(awaitAdded());
+    QCOMPARE(column(audio(), 0), QStringList({ u"one.mp3"_s, u"last.wav"_s }));
+    QCOMPARE(m_app->controller->arrayMediaFiles.first().s_File_Path, media(u"album/one.mp3"_s));
+    QCOMPARE(m_app->questions.alerts.size(), 1);
+    QVERIFY(m_app->questions.alerts.first().informative.endsWith(u"\n\nno music"_s));
+}
+
+// A file manager that is told that files were moved may take them away.
+void ListsTest::dropIsNeverAMove()
+{
+    makeFile(media(u"a.mp3"_s));
+    QMimeData data;
+    data.setUrls({ QUrl::fromLocalFile(media(u"a.mp3"_s)) });
+    const QPoint place = audio()->viewport()->rect().center();
+    const std::pair<Qt::DropActions, Qt::DropAction> offers[] = {
+        { Qt::CopyAction | Qt::MoveAction | Qt::LinkAction, Qt::CopyAction },
+        { Qt::MoveAction | Qt::LinkAction, Qt::LinkAction },
+    };
+    for (const auto &[possible, taken] : offers) {
+        QDragEnterEvent enter(place, possible, &data, Qt::LeftButton, Qt::ShiftModifier);
+        QCoreApplication::sendEvent(audio()->viewport(), &enter);
+        QCOMPARE(enter.dropAction(), taken);
+        QDropEvent drop(place, possible, &data, Qt::LeftButton, Qt::ShiftModifier);
+        drop.setDropAction(Qt::MoveAction);
+        QCoreApplication::sendEvent(audio()->viewport(), &drop);
+        QVERIFY(drop.isAccepted());
+        QCOMPARE(drop.dropAction(), taken);
+        QVERIFY(awaitAdded());
+    }
+    QDragEnterEvent onlyMove(place, Qt::MoveAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(audio()->viewport(), &onlyMove);
+    QVERIFY(!onlyMove.isAccepted());
+    QCOMPARE(audio()->model()->rowCount(), 2);
 }
 
 void ListsTest::dropOnData()

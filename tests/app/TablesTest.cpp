@@ -52,6 +52,8 @@ private Q_SLOTS:
     void noColumnOnlyRefreshes();
     void emptyList();
     void selectionIsKept();
+    void theHeadingClaimsAnOrderOnlyWhileItIsKept();
+    void selectionOfManyRows();
     void sortingIsTheWritingOrder();
     void textColour();
     void manyRows();
@@ -297,6 +299,54 @@ void TablesTest::selectionIsKept()
     QCOMPARE(table()->selectedRows(), QList<int>({ 1, 3 }));
     person::clickHeading(table(), 0);
     QCOMPARE(table()->selectedRows(), QList<int>({ 0, 2 }));
+}
+
+void TablesTest::theHeadingClaimsAnOrderOnlyWhileItIsKept()
+{
+    AppDelegate &controller = *m_app->controller;
+    const auto claimed = [this] { return table()->horizontalHeader()->isSortIndicatorShown(); };
+    const auto sorted = [&] {
+        show({ file(u"c"_s), file(u"a"_s), file(u"b"_s) });
+        person::clickHeading(table(), 0);
+        return claimed();
+    };
+    QVERIFY(!claimed());
+    QVERIFY(sorted());
+    person::clickRow(table(), table()->model()->index(1, 0));
+    person::click(m_app->window.get(), "toolbar_btn_Audio_Delete");
+    QVERIFY(claimed());
+    person::clickRow(table(), table()->model()->index(1, 0));
+    controller.moveSelectedEntries(1); // the last row cannot go down
+    QVERIFY(claimed());
+    controller.moveSelectedEntries(-1);
+    QVERIFY(!claimed());
+    QVERIFY(sorted());
+    QSignalSpy added(&controller, &AppDelegate::addingEnded);
+    controller.addMediaFiles(AppDelegate::ListKind::Audio, { QUrl::fromLocalFile(u"/x/0.mp3"_s) });
+    QVERIFY(added.wait());
+    QVERIFY(!claimed());
+    QVERIFY(sorted());
+    showTab(2);
+    showTab(0);
+    QVERIFY(!claimed());
+}
+
+void TablesTest::selectionOfManyRows()
+{
+    QList<NodeMediaFile> files;
+    for (int i = 0; i < 5000; ++i)
+        files.append(file(QString::number(i)));
+    show(files);
+    QList<int> rows;
+    for (int row = 0; row < 5000; row += row % 7 == 3 ? 2 : 1)
+        rows.append(row);
+    table()->selectRows(rows);
+    QCOMPARE(table()->selectedRows(), rows);
+    QCOMPARE(table()->selectionModel()->selection().size(), std::ranges::count_if(rows, [&rows](int row) {
+        return !rows.contains(row - 1);
+    }));
+    table()->selectRows({});
+    QCOMPARE(table()->selectedRows(), QList<int>());
 }
 
 void TablesTest::sortingIsTheWritingOrder()

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QDialogButtonBox>
+#include <QLayout>
 #include <QPainter>
 #include <QPushButton>
 
@@ -25,6 +26,7 @@ void Sheet::beginSheet()
         for (QAbstractButton *button : box->buttons())
             button->setIcon({});
     adjustSize();
+    growToText();
     show();
 }
 
@@ -32,6 +34,29 @@ void Sheet::endSheet()
 {
     hide();
     deleteLater();
+}
+
+QString Sheet::wrappable(const QString &text)
+{
+    constexpr qsizetype longestRun = 40;
+    constexpr QChar zeroWidthSpace(0x200b);
+    QString broken;
+    qsizetype run = 0;
+    for (const QChar character : text) {
+        run = character.isSpace() ? 0 : run + 1;
+        if (run > longestRun && !character.isLowSurrogate()) {
+            broken += zeroWidthSpace;
+            run = 1;
+        }
+        broken += character;
+    }
+    return broken;
+}
+
+void Sheet::growToText()
+{
+    layout()->activate(); // it remembers how high the old text was
+    resize(width(), qMax(height(), heightForWidth(width())));
 }
 
 void Sheet::reject()

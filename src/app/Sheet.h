@@ -20,6 +20,11 @@ public:
     /// Takes the sheet away and destroys it once control is back in the event loop.
     void endSheet();
 
+    /// The text with invisible places to break in words, such as file names, that are too long for a line.
+    static QString wrappable(const QString &text);
+    /// Makes the sheet higher where a text in it has become longer.
+    void growToText();
+
 Q_SIGNALS:
     void quitRequested();
 

@@ -80,6 +80,7 @@ Window_Performing_Operation::~Window_Performing_Operation() = default;
 void Window_Performing_Operation::windowDidLoad()
 {
     m_ui->labelDescription->setTextFormat(Qt::PlainText);
+    m_newestLine = m_ui->labelDescription->text();
     m_ui->pgAnimation->start();
 }
 
@@ -98,13 +99,16 @@ void Window_Performing_Operation::showNewestLine(const QByteArray &output)
     constexpr qsizetype most = 200;
     m_unfinished = m_unfinished.mid(end + 1, most);
     const QString line = QString::fromUtf8(lines.mid(start, most)).simplified();
-    if (!line.isEmpty())
-        m_ui->labelDescription->setText(line);
+    if (line.isEmpty())
+        return;
+    m_newestLine = line;
+    m_ui->labelDescription->setText(wrappable(line));
+    growToText();
 }
 
 QString Window_Performing_Operation::newestLine() const
 {
-    return m_ui->labelDescription->text();
+    return m_newestLine;
 }
 
 Window_Operation_Terminated::Window_Operation_Terminated(AppDelegate *controller, QWidget *parent)
@@ -134,7 +138,7 @@ void Window_Operation_Terminated::showOutcome()
     QString text = troubles.first(qMin(shown, troubles.size())).join(u'\n');
     if (troubles.size() > shown)
         text += u'\n' + tr("and %n more", nullptr, static_cast<int>(troubles.size() - shown));
-    m_ui->labelDescription->setText(text);
+    m_ui->labelDescription->setText(wrappable(text));
     QPushButton *log = m_ui->buttonBox->addButton(tr("Activity Log…"), QDialogButtonBox::ActionRole);
     log->setAutoDefault(false);
     connect(log, &QPushButton::clicked, this, [this] {

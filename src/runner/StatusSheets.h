@@ -65,6 +65,7 @@ public:
 private:
     void windowDidLoad();
 
+    QString m_newestLine;
     std::unique_ptr<Ui::Window_Performing_Operation> m_ui;
     QByteArray m_unfinished; ///< the beginning of the line that is being printed
 };

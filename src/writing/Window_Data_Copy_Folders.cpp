@@ -51,7 +51,7 @@ QString Window_Data_Copy_Folders::copyDestination(const QString &dataFolder, con
 
 void Window_Data_Copy_Folders::windowDidLoad()
 {
-    m_ui->labelDescription->setTextFormat(Qt::PlainText);
+    m_ui->labelFolder->setTextFormat(Qt::PlainText);
     m_ui->pgAnimation->start();
     timerCloseWindow.setSingleShot(true);
     connect(&timerCloseWindow, &QTimer::timeout, this, &Window_Data_Copy_Folders::TimerCloseWindow);
@@ -78,11 +78,18 @@ void Window_Data_Copy_Folders::copyNextFolder()
     m_target = u"%1/%2"_s.arg(m_controller->s_Data_Folder, name);
     const QString destination = copyDestination(m_controller->s_Data_Folder, name);
     QDir().mkpath(destination);
-    m_ui->labelDescription->setText(
-        tr("%1 (%2 of %3)")
-            .arg(name, QString::number(m_index + 1), QString::number(m_controller->arrayDataFolders.size())));
+    showFolder(name);
     startCopy(source, destination);
     timerCloseWindow.start(m_controller->around.stagingPoll);
+}
+
+void Window_Data_Copy_Folders::showFolder(const QString &name)
+{
+    constexpr int width = 280;
+    const QString shown = fontMetrics().elidedText(QString(name).simplified(), Qt::ElideMiddle, width);
+    m_ui->labelFolder->setText(
+        tr("%1 (%2 of %3)")
+            .arg(shown, QString::number(m_index + 1), QString::number(m_controller->arrayDataFolders.size())));
 }
 
 void Window_Data_Copy_Folders::startCopy(const QString &source, const QString &destination)

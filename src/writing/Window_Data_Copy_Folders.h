@@ -39,6 +39,7 @@ private:
     void windowDidLoad();
     void TimerCloseWindow();
     void copyNextFolder();
+    void showFolder(const QString &name);
     void startCopy(const QString &source, const QString &destination);
     void poll();
     void measured(double copied);

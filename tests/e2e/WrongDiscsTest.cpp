@@ -14,9 +14,9 @@ struct Found {
 
 const Found founds[] = {
     {"none", false, ""},      {"cd-r", false, "CD"},   {"cd-r", true, "CD"},    {"cd-rw", false, "CD"},
-    {"cd-rw", true, "CD"},    {"dvd-r", false, "DVD"}, {"dvd-r", true, "DVD"},  {"dvd-rw", true, "DVD"},
-    {"dvd+r", false, "DVD"},  {"dvd+r", true, "DVD"},  {"dvd+rw", true, "DVD"}, {"bd-r", false, "BD"},
-    {"bd-r", true, "BD"},     {"bd-re", true, "BD"},
+    {"cd-rw", true, "CD"},    {"dvd-r", false, "DVD"}, {"dvd-r", true, "DVD"},  {"dvd-rw", false, "DVD"}, {"dvd-rw", true, "DVD"},
+    {"dvd+r", false, "DVD"},  {"dvd+r", true, "DVD"},  {"dvd+rw", false, "DVD"}, {"dvd+rw", true, "DVD"}, {"bd-r", false, "BD"},
+    {"bd-r", true, "BD"},     {"bd-re", false, "BD"},  {"bd-re", true, "BD"},
 };
 
 bool isRewritable(const Found &found)

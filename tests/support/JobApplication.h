@@ -239,7 +239,7 @@ public:
     QString trouble() const
     {
         const auto *text = controller->windowOperationCompleted->findChild<QLabel *>(QStringLiteral("labelDescription"));
-        return text->isVisible() ? text->text() : QString();
+        return text->isVisible() ? text->text().remove(QChar(0x200b)) : QString();
     }
 
     static QStringList namesIn(const QString &folder)

@@ -146,7 +146,7 @@ public:
     {
         const auto *text
             = controller->windowOperationCompleted->findChild<QLabel *>(QStringLiteral("labelDescription"));
-        return text->isVisible() ? text->text() : QString();
+        return text->isVisible() ? text->text().remove(QChar(0x200b)) : QString();
     }
 
     void closeCompleteSheet() const { person::pressTitled(controller->windowOperationCompleted, QStringLiteral("OK")); }

@@ -3,6 +3,8 @@
 #include "ui/Spinner.h"
 #include "writing/FolderStaging.h"
 
+#include <QRegularExpression>
+
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -182,6 +184,7 @@ private Q_SLOTS:
 
     void aFolderThatIsThereAtOnceStillTakesOneInterval()
     {
+        QCOMPARE(Surroundings().stagingPoll, 60'000);
         JobApplication app;
         app.around.stagingPoll = 400;
         app.file(u"a/one"_s);
@@ -376,6 +379,33 @@ private Q_SLOTS:
         QVERIFY(app.completes());
         QVERIFY(spinning);
         QVERIFY(ticks >= 10);
+    }
+
+    void theSheetNamesTheFolderAndTellsWhyItTakesSoLong()
+    {
+        JobApplication app;
+        app.around.stagingPoll = 600;
+        app.file(QString(255, u'W') + u"/one"_s);
+        app.file(u"<b>photos/two"_s);
+        ready(app, {QString(255, u'W'), u"<b>photos"_s});
+        QStringList shown;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] {
+            const auto sheet = app.controller->windowDataCopyFolders;
+            const auto *name = sheet ? sheet->findChild<QLabel *>(u"labelFolder"_s) : nullptr;
+            if (!name || name->text().isEmpty() || shown.contains(name->text()))
+                return;
+            shown.append(name->text());
+            QVERIFY(sheet->findChild<QLabel *>(u"labelDescription"_s)->text().contains(u"minute"_s));
+            QVERIFY(name->width() >= name->sizeHint().width());
+            QCOMPARE(sheet->pgAnimation()->width(), 32);
+        });
+        timer.start(50);
+        app.press("btnBurn");
+        QVERIFY(app.completes());
+        QCOMPARE(shown.size(), 2);
+        QVERIFY2(shown.first().contains(QRegularExpression(u"^W+…W+ \\(1 of 2\\)$"_s)), qUtf8Printable(shown.first()));
+        QCOMPARE(shown.last(), u"<b>photos (2 of 2)"_s);
     }
 
     void theListedFolderIsNeverTouched()

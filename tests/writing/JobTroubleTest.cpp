@@ -285,6 +285,28 @@ private Q_SLOTS:
         QVERIFY(app.completes());
     }
 
+    void longWordsStayInsideTheSheets()
+    {
+        JobApplication app;
+        app.burnWith("printf '%0250d is a long name.\\n' 1\n" + app.waitFor("line") + "exit 1\n");
+        ready(app);
+        app.press("btnBurn");
+        const QString line = u'0' + QString(198, u'0') + u'0';
+        const auto fits = [&app](const Sheet *sheet) {
+            const auto *text = sheet->findChild<QLabel *>(u"labelDescription"_s);
+            return sheet->width() < app.window->width() && text->height() >= text->heightForWidth(text->width())
+                && text->width() >= text->minimumSizeHint().width();
+        };
+        QTRY_VERIFY(app.controller->windowPerformingOperation);
+        QTRY_COMPARE(app.controller->windowPerformingOperation->newestLine(), line);
+        QTRY_VERIFY(fits(app.controller->windowPerformingOperation));
+        QCOMPARE(app.controller->windowPerformingOperation->pgAnimation()->width(), 32);
+        app.release(app.drutil, "line");
+        QVERIFY(app.completes());
+        QVERIFY2(app.trouble().contains(line), qUtf8Printable(app.trouble()));
+        QTRY_VERIFY(fits(app.controller->windowOperationCompleted));
+    }
+
     void theMainWindowTakesNoInputBelowASheet()
     {
         JobApplication app;

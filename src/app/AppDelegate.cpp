@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 
+#include "app/FolderClaim.h"
 #include "app/MainWindow.h"
 #include "app/Preferences.h"
 #include "compilation/FolderTree.h"
@@ -97,8 +98,7 @@ void AppDelegate::applicationDidFinishLaunching()
     s_Current_Drive_Number = u"1"_s;
     if (!makeWorkingFolders())
         return around.exitProcess(0);
-    for (const QString &folder : {s_Output_Folder, s_Audio_Folder, s_Video_Folder, s_Data_Folder})
-        RemoveAllContentInFolder(folder);
+    emptyWorkingFolders();
     s_Video_Output_Format = preference(preferences::videoFormat);
     s_Audio_Output_Format = preference(preferences::audioFormat);
     array_Optical_Media_Drives.clear();
@@ -149,6 +149,16 @@ bool AppDelegate::makeWorkingFolders()
             storeFirstRunFormats();
     }
     return true;
+}
+
+void AppDelegate::emptyWorkingFolders()
+{
+    for (const QString &folder : {s_Output_Folder, s_Audio_Folder, s_Video_Folder, s_Data_Folder}) {
+        if (const auto claim = FolderClaim::take(folder))
+            RemoveAllContentInFolder(folder);
+        else
+            activityLog->note(tr("A working folder was not emptied, as another Corvalis prepares a disc in it"), folder);
+    }
 }
 
 void AppDelegate::storeFirstRunFormats()

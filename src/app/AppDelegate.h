@@ -20,6 +20,7 @@
 #include <memory>
 
 class ActivityLog;
+class FolderClaim;
 class MainWindow;
 class QSettings;
 class ListTableView;
@@ -99,6 +100,7 @@ public:
     QString s_Orig_Duration;
     quint64 i_Orig_Duration_in_Seconds = 0; ///< of the file being transcoded
     quint64 u_Duration_Segment_in_Seconds = 0, u_Duration_All_Segments_in_Seconds = 0;
+    std::unique_ptr<FolderClaim> folderClaim; ///< on the working folder of the present job
     qsizetype jobStart = 0; ///< where the present job begins in the activity log
     quint64 u_Type_Progress = 0; ///< 1 audio, 0 video, else progress is not read
 
@@ -133,6 +135,7 @@ public:
     void awakeFromNib();
     void applicationDidFinishLaunching();
     void RemoveAllContentInFolder(const QString &folder);
+    void emptyWorkingFolders(); ///< but for those in which another Corvalis prepares a disc
     void windowWillClose();
     void applicationWillTerminate();
     void Terminate_App();
@@ -305,6 +308,7 @@ public:
     void burnData(const DiscForm &form);
     /// Converts every listed file with the arguments that `argumentsFor` gives, behind the progress sheet.
     void convertList(quint64 progressMode, const std::function<QStringList(const NodeMediaFile &)> &argumentsFor);
+    bool claimFolder(const QString &folder); ///< empties it for this job; false: an alert has told whose it is
     void beginJob(); ///< what the operation-complete sheet reports begins here
     void Burn_Audio_CD();
     void Burn_Audio_MP3_CD();

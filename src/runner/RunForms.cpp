@@ -4,6 +4,7 @@
 // Progress arrives in dataReady() and errData(). It ends once, in the operation's termination handler:
 // every new run first drops the watchers of the run before, so no handler can fire a second time.
 #include "app/AppDelegate.h"
+#include "app/FolderClaim.h"
 #include "app/MainWindow.h"
 #include "runner/ActivityLog.h"
 #include "runner/ProgressParser.h"
@@ -161,6 +162,7 @@ void AppDelegate::Close_Window_Performing_Operation()
 
 void AppDelegate::Show_Window_Operation_Complete()
 {
+    folderClaim.reset();
     delete windowOperationCompleted;
     windowOperationCompleted = new Window_Operation_Terminated(this, window);
     windowOperationCompleted->beginSheet();

@@ -46,7 +46,8 @@ void AppDelegate::burnAudio(const AudioForm &form)
     if (!mayWrite(form.checks, arrayMediaFiles.isEmpty()))
         return;
     beginJob();
-    RemoveAllContentInFolder(s_Audio_Folder);
+    if (!claimFolder(s_Audio_Folder))
+        return;
     convertList(1, [this, &form](const NodeMediaFile &file) {
         i_Burn_Audio_Type = form.burnAudioType;
         return form.transcoderArguments(file.s_File_Path,

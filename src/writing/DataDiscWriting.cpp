@@ -41,7 +41,8 @@ void AppDelegate::burnData(const DiscForm &form)
     if (!mayWrite(form, arrayDataFolders.isEmpty()))
         return;
     beginJob();
-    RemoveAllContentInFolder(s_Data_Folder);
+    if (!claimFolder(s_Data_Folder))
+        return;
     Show_Window_Data_Copy_Folders();
 }
 

@@ -1,4 +1,5 @@
 // Copying a disc with one drive: an image of the mounted disc, the eject, a blank, the image onto it.
+#include "app/FolderClaim.h"
 #include "app/MainWindow.h"
 #include "writing/DiscForms.h"
 
@@ -17,7 +18,8 @@ void AppDelegate::DuplicateMedia()
     if (chosen.isEmpty())
         return;
     beginJob();
-    RemoveAllContentInFolder(s_Data_Folder);
+    if (!claimFolder(s_Data_Folder))
+        return;
     runInBackground(around.hdiutil,
                     {u"makehybrid"_s, u"-o"_s, duplicationImage(), chosen.first().toLocalFile(), u"-iso"_s, u"-joliet"_s},
                     &AppDelegate::CreateISOfromDriveTerminated, Output::Ignored);
@@ -54,8 +56,11 @@ bool AppDelegate::promptForBlank()
 
 void AppDelegate::TimerDuplicateMediaCopy()
 {
-    if (!promptForBlank())
-        return RemoveAllContentInFolder(s_Data_Folder);
+    if (!promptForBlank()) {
+        RemoveAllContentInFolder(s_Data_Folder);
+        folderClaim.reset();
+        return;
+    }
     runInBackground(around.hdiutil, {u"burn"_s, duplicationImage()}, &AppDelegate::MediaDuplicationTerminated,
                     Output::Observed);
     Show_Window_Performing_Operation();

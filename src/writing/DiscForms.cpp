@@ -1,5 +1,6 @@
 #include "writing/DiscForms.h"
 
+#include "app/FolderClaim.h"
 #include "compilation/Measuring.h"
 #include "runner/ActivityLog.h"
 #include "runner/StatusSheets.h"
@@ -70,6 +71,19 @@ bool AppDelegate::mayWrite(const DiscForm &form, bool listIsEmpty)
     if (m_b_Debug_Mode)
         alert(type, form.warning);
     return false;
+}
+
+bool AppDelegate::claimFolder(const QString &folder)
+{
+    folderClaim.reset();
+    folderClaim = FolderClaim::take(folder);
+    if (!folderClaim) {
+        alert(tr("Another Corvalis is at work"),
+              tr("It prepares a disc in the folder %1. Wait until that disc is done and try again.").arg(folder));
+        return false;
+    }
+    RemoveAllContentInFolder(folder);
+    return true;
 }
 
 void AppDelegate::beginJob()

@@ -26,7 +26,8 @@ void AppDelegate::burnVideo(const DiscForm &form)
     if (!mayWrite(form, arrayMediaFiles.isEmpty()))
         return;
     beginJob();
-    RemoveAllContentInFolder(s_Video_Folder);
+    if (!claimFolder(s_Video_Folder))
+        return;
     convertList(0, [this](const NodeMediaFile &file) {
         return writing::mpegArguments(file.s_File_Path, writing::convertedPath(s_Video_Folder, file.s_File_Path, "mpg"_L1),
                                       s_Video_Output_Format, s_Audio_Output_Format);

@@ -1,5 +1,6 @@
 // The program as a process: how it ends, and what it answers on the command line.
 #include "app/BatchRun.h"
+#include "app/FolderClaim.h"
 #include "app/Surface.h"
 #include "runner/StatusSheets.h"
 #include "support/Person.h"
@@ -68,6 +69,9 @@ private Q_SLOTS:
     void signalEndsABatchRunAtWork_data() { signalEndsTheWindow_data(); }
     void signalEndsABatchRunAtWork();
     void emptiesItsFoldersAtTheNextStart();
+
+    void leavesAnothersJobAlone();
+    void claimsOfAFolder();
 
     void folderThatCannotBeMade_data();
     void folderThatCannotBeMade();
@@ -167,6 +171,56 @@ void ProgramTest::emptiesItsFoldersAtTheNextStart()
     QVERIFY(!QFile::exists(folder.home(u"Documents/CorvalisAudio/left over.wav"_s)));
     folder.process.terminate();
     QCOMPARE(folder.ended(), 0);
+}
+
+void ProgramTest::leavesAnothersJobAlone()
+{
+    ProgramFolder folder;
+    folder.drutil.print(u"status"_s, "Type: CD-R\noverwritable\n");
+    folder.drutil.run(works);
+    // The converted file, which the writing tool reads.
+    folder.ffmpeg.run(
+        "for last; do :; done; case \"$last\" in */CorvalisAudio/*) echo sound > \"$last\";; esac");
+    const QString song = folder.home(u"song.mp3"_s);
+    const QString converted = folder.home(u"Documents/CorvalisAudio/song.mp3"_s);
+    makeFile(song);
+    folder.start({ u"--burn"_s, u"MP3 CD"_s, song });
+    QTRY_VERIFY_WITH_TIMEOUT(contentOf(folder.drutil.path() + u".pid"_s).endsWith('\n'), 20'000);
+    QCOMPARE(contentOf(converted), "sound\n");
+
+    QProcess second;
+    second.setProcessEnvironment(folder.process.processEnvironment());
+    second.start(folder.program(), { u"--burn"_s, u"MP3 CD"_s, song });
+    QVERIFY(second.waitForFinished(20'000));
+    QCOMPARE(second.exitCode(), 1);
+    const QByteArray told = second.readAllStandardError();
+    QVERIFY2(told.startsWith("Another Corvalis is at work\n"), told.constData());
+    QCOMPARE(contentOf(converted), "sound\n");
+    QCOMPARE(folder.drutil.runs(u"burn"_s).size(), 1);
+
+    // What lived in a folder dies with the process, and the next start tidies up.
+    folder.process.kill();
+    QVERIFY(folder.process.waitForFinished());
+    ::kill(static_cast<pid_t>(contentOf(folder.drutil.path() + u".pid"_s).trimmed().toLongLong()), SIGKILL);
+    folder.drutil.run("ls \"$HOME/Documents/CorvalisAudio\" > \"$0.$1.seen\"");
+    second.start(folder.program(), { u"--burn"_s, u"MP3 CD"_s, song });
+    QVERIFY(second.waitForFinished(20'000));
+    QCOMPARE(second.exitCode(), 0);
+    QCOMPARE(contentOf(folder.drutil.path() + u".list.seen"_s), QByteArray());
+    QCOMPARE(contentOf(folder.drutil.path() + u".burn.seen"_s), "song.mp3\n");
+}
+
+void ProgramTest::claimsOfAFolder()
+{
+    QTemporaryDir folder;
+    auto claim = FolderClaim::take(folder.path());
+    QVERIFY(claim);
+    QVERIFY(!FolderClaim::take(folder.path()));
+    // Another path to the same folder.
+    QVERIFY(!FolderClaim::take(folder.path() + u"/."_s));
+    claim.reset();
+    QVERIFY(FolderClaim::take(folder.path()));
+    QVERIFY(FolderClaim::take(folder.filePath(u"not there"_s)));
 }
 
 void ProgramTest::folderThatCannotBeMade_data()

@@ -150,6 +150,7 @@ public:
     // ---- Menus (app/)
     void OnMenuQuit();
     void OnMenuDebugMode();
+    void openPage(const QUrl &page); ///< in the browser; tells the address where that fails
     void OnMenuHelpAppHomePage();
     void OnMenuHelpCompanyHomePage();
     void OnMenuHelpSubmitTicket();

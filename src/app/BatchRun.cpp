@@ -14,6 +14,7 @@
 #include <QRadioButton>
 
 #include <cstdio>
+#include <utility>
 
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -36,6 +37,8 @@ int terminalWidth()
 int BatchQuestions::ask(const Alert &alert, QWidget *over)
 {
     m_alerted = true;
+    if (m_beforeAlert)
+        m_beforeAlert();
     std::fprintf(stderr, "%s\n%s\n", qUtf8Printable(alert.message), qUtf8Printable(alert.informative));
     return m_show ? m_windows.ask(alert, over) : 0;
 }
@@ -50,6 +53,7 @@ BatchRun::BatchRun(const BatchJob &job, AppDelegate *controller, BatchQuestions 
                    std::function<void(int)> finish)
     : m_job(job), m_controller(controller), m_questions(questions), m_finish(std::move(finish))
 {
+    m_questions->setBeforeAlert([this] { endLine(); });
     m_progress.setInterval(200);
     connect(&m_progress, &QTimer::timeout, this, &BatchRun::showProgress);
 }
@@ -132,7 +136,8 @@ void BatchRun::burn()
 void BatchRun::completed()
 {
     const QStringList troubles = m_controller->activityLog->troublesSince(m_controller->jobStart);
-    printLine(troubles.isEmpty() ? tr("Operation complete") : tr("The operation has ended, but not everything went well"));
+    printLine(Stage::Done, troubles.isEmpty() ? tr("Operation complete")
+                                              : tr("The operation has ended, but not everything went well"));
     end(0);
     for (const QString &trouble : troubles)
         std::fprintf(stderr, "%s\n", qUtf8Printable(trouble));
@@ -145,9 +150,7 @@ void BatchRun::completed()
 void BatchRun::end(int status)
 {
     m_progress.stop();
-    if (!m_lastLine.isEmpty() && terminalWidth() > 0)
-        std::printf("\n");
-    std::fflush(stdout);
+    endLine();
     if (status != 0 && !m_job.show)
         m_finish(status);
 }
@@ -158,29 +161,44 @@ void BatchRun::showProgress()
         return bar->maximum() > 0 ? bar->value() * 100 / bar->maximum() : 0;
     };
     if (const Window_Unique_Progress *adding = m_controller->windowUniqueProgress) {
-        printLine(tr("Adding files: %1 of %2").arg(adding->progressBar()->value()).arg(adding->progressBar()->maximum()));
+        printLine(Stage::Adding, tr("Adding files: %1 of %2")
+                                     .arg(adding->progressBar()->value())
+                                     .arg(adding->progressBar()->maximum()));
     } else if (const Window_Progress *converting = m_controller->windowProgress) {
-        printLine(tr("Converting: file %1 of %2, %3 %")
+        printLine(Stage::Converting, tr("Converting: file %1 of %2, %3 %")
                       .arg(qMin(converting->progressOverall()->value() + 1, converting->progressOverall()->maximum()))
                       .arg(converting->progressOverall()->maximum())
                       .arg(percent(converting->progressBar())));
     } else if (m_controller->windowDataCopyFolders) {
-        printLine(tr("Gathering the folders"));
+        printLine(Stage::Gathering, tr("Gathering the folders"));
     } else if (const Window_Performing_Operation *working = m_controller->windowPerformingOperation) {
-        printLine(working->newestLine());
+        printLine(Stage::Writing, working->newestLine());
     }
 }
 
-void BatchRun::printLine(const QString &line)
+void BatchRun::printLine(Stage stage, const QString &line)
 {
     if (line == m_lastLine)
         return;
+    // In a file each is a line of its own: one for each stage, and a sign of life now and then.
+    constexpr qint64 sign = 5000;
+    const bool newStage = std::exchange(m_stage, stage) != stage;
+    if (terminalWidth() == 0 && !newStage && m_sinceLine.elapsed() < sign)
+        return;
+    m_sinceLine.start();
     m_lastLine = line;
-    // On a terminal one line is written over and over, which only works as long as it does not wrap;
-    // elsewhere each is a line of its own.
+    // On a terminal one line is written over and over, which only works as long as it does not wrap.
     if (const int width = terminalWidth())
         std::printf("\r\033[K%s", qUtf8Printable(line.left(width - 1)));
     else
         std::printf("%s\n", qUtf8Printable(line));
+    std::fflush(stdout);
+}
+
+void BatchRun::endLine()
+{
+    if (!m_lastLine.isEmpty() && terminalWidth() > 0)
+        std::printf("\n");
+    m_lastLine.clear();
     std::fflush(stdout);
 }

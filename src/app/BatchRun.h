@@ -3,6 +3,7 @@
 
 #include "app/Questions.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -28,11 +29,14 @@ public:
     QList<QUrl> choose(const OpenPanel &panel, QWidget *over) override;
 
     bool alerted() const { return m_alerted; }
+    /// What is done before an alert's texts are printed.
+    void setBeforeAlert(std::function<void()> act) { m_beforeAlert = std::move(act); }
     void answerNextPanelWith(const QList<QUrl> &urls) { m_answer = urls; }
 
 private:
     const bool m_show;
     bool m_alerted = false;
+    std::function<void()> m_beforeAlert;
     QList<QUrl> m_answer;
     WindowQuestions m_windows;
 };
@@ -60,7 +64,9 @@ private:
     void burn();
     void completed();
     void showProgress();
-    void printLine(const QString &line);
+    enum class Stage { None, Adding, Converting, Gathering, Writing, Done };
+    void printLine(Stage stage, const QString &line);
+    void endLine();
     void end(int status);
 
     const BatchJob m_job;
@@ -68,5 +74,7 @@ private:
     BatchQuestions *const m_questions;
     const std::function<void(int)> m_finish;
     QTimer m_progress;
+    Stage m_stage = Stage::None;
     QString m_lastLine;
+    QElapsedTimer m_sinceLine; ///< since one was printed where there is no terminal
 };

@@ -30,24 +30,30 @@ void AppDelegate::OnMenuDebugMode()
     ui->menuitemDebugMode->setChecked(m_b_Debug_Mode);
 }
 
+void AppDelegate::openPage(const QUrl &page)
+{
+    if (!QDesktopServices::openUrl(page))
+        alert(tr("The page could not be opened"), tr("Open it in a browser: %1").arg(page.toString()));
+}
+
 void AppDelegate::OnMenuHelpAppHomePage()
 {
-    QDesktopServices::openUrl(homePage);
+    openPage(homePage);
 }
 
 void AppDelegate::OnMenuHelpCompanyHomePage()
 {
-    QDesktopServices::openUrl(makersHomePage);
+    openPage(makersHomePage);
 }
 
 void AppDelegate::OnMenuHelpSubmitTicket()
 {
-    QDesktopServices::openUrl(supportTicket);
+    openPage(supportTicket);
 }
 
 void AppDelegate::OnMenuHelpPrivacyPolicy()
 {
-    QDesktopServices::openUrl(privacyPolicy);
+    openPage(privacyPolicy);
 }
 
 void AppDelegate::OnMenuHelpAbout()

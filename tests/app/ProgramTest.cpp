@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QTest>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
@@ -57,6 +58,37 @@ int windowThatEnds(const QString &way)
     return 99; // the process should have ended long ago
 }
 
+/// A terminal of so many columns.
+class Terminal {
+public:
+    explicit Terminal(unsigned short columns)
+        : m_fd(::posix_openpt(O_RDWR | O_NOCTTY))
+    {
+        const winsize size{ 24, columns, 0, 0 };
+        if (m_fd < 0 || ::grantpt(m_fd) != 0 || ::unlockpt(m_fd) != 0
+            || ::ioctl(m_fd, TIOCSWINSZ, &size) != 0)
+            qFatal("there is no terminal to be had");
+    }
+    ~Terminal() { ::close(m_fd); }
+    Terminal(const Terminal &) = delete;
+    Terminal &operator=(const Terminal &) = delete;
+
+    QString path() const { return QString::fromLocal8Bit(::ptsname(m_fd)); }
+
+    /// All that was written, once its last writer is gone; then a terminal has no end but an error.
+    QByteArray shown() const
+    {
+        QByteArray shown;
+        char piece[4096];
+        while (const ssize_t count = qMax(ssize_t(0), ::read(m_fd, piece, sizeof piece)))
+            shown.append(piece, count);
+        return shown;
+    }
+
+private:
+    const int m_fd;
+};
+
 } // namespace
 
 class ProgramTest : public QObject {
@@ -89,6 +121,8 @@ private Q_SLOTS:
     void onlyOwnWordsInABatchRun();
     void nobodyReadsTheProgress();
     void progressFitsTheTerminal();
+    void alertHasItsOwnLine();
+    void progressInAFile();
 
     void pathsAreWhatTheyAreToAShell_data();
     void pathsAreWhatTheyAreToAShell();
@@ -451,24 +485,16 @@ void ProgramTest::nobodyReadsTheProgress()
 
 void ProgramTest::progressFitsTheTerminal()
 {
-    const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY);
-    QVERIFY(terminal >= 0 && ::grantpt(terminal) == 0 && ::unlockpt(terminal) == 0);
-    const winsize size{ 24, 30, 0, 0 };
-    QCOMPARE(::ioctl(terminal, TIOCSWINSZ, &size), 0);
+    const Terminal terminal(30);
     ProgramFolder folder;
     folder.drutil.print(u"status"_s, "Type: CD-R\noverwritable\n");
     folder.drutil.run(
         "case \"$1\" in burn) echo 'a line that is longer than the terminal is wide'; sleep 1;; esac");
     makeFile(folder.home(u"song.mp3"_s));
-    folder.process.setStandardOutputFile(QString::fromLocal8Bit(::ptsname(terminal)));
+    folder.process.setStandardOutputFile(terminal.path());
     QCOMPARE(folder.run({ u"--burn"_s, u"MP3 CD"_s, folder.home(u"song.mp3"_s) }), 0);
-    // With its last writer gone, a terminal has no end but an error.
-    QByteArray shown;
-    char piece[4096];
-    while (const ssize_t count = qMax(ssize_t(0), ::read(terminal, piece, sizeof piece)))
-        shown.append(piece, count);
-    ::close(terminal);
-    QVERIFY2(shown.contains("Writing: a line that is longe"), shown.constData());
+    const QByteArray shown = terminal.shown();
+    QVERIFY2(shown.contains("a line that is longer than th"), shown.constData());
     QVERIFY2(shown.endsWith("Operation complete\r\n"), shown.constData());
     // One line, written over and over.
     QCOMPARE(shown.count('\n'), 1);
@@ -476,6 +502,37 @@ void ProgramTest::progressFitsTheTerminal()
         line.replace("\033[K", "");
         QVERIFY2(line.size() < 30, line.constData());
     }
+}
+
+void ProgramTest::alertHasItsOwnLine()
+{
+    const Terminal terminal(80);
+    ProgramFolder folder;
+    folder.drutil.print(u"status"_s, "Type: No Media Inserted\n");
+    folder.ffmpeg.run("sleep 1");
+    makeFile(folder.home(u"song.mp3"_s));
+    folder.process.setStandardOutputFile(terminal.path());
+    folder.process.setStandardErrorFile(terminal.path());
+    QCOMPARE(folder.run({ u"--burn"_s, u"MP3 CD"_s, folder.home(u"song.mp3"_s) }), 1);
+    const QByteArray shown = terminal.shown();
+    QVERIFY2(shown.contains("Adding files: 0 of 1\r\nNo disc\r\n"), shown.constData());
+    QVERIFY2(shown.endsWith("and try again.\r\n"), shown.constData());
+}
+
+void ProgramTest::progressInAFile()
+{
+    ProgramFolder folder;
+    folder.drutil.print(u"status"_s, "Type: CD-R\noverwritable\n");
+    folder.drutil.run("case \"$1\" in burn) for i in 1 2 3 4 5 6 7 8 9 10 11 12; do echo \"$i %\"; sleep "
+                      "0.25; done;; esac");
+    makeFile(folder.home(u"song.mp3"_s));
+    QCOMPARE(folder.run({ u"--burn"_s, u"MP3 CD"_s, folder.home(u"song.mp3"_s) }), 0);
+    const QList<QByteArray> lines = folder.process.readAllStandardOutput().trimmed().split('\n');
+    // Not every one of them.
+    const auto writing = std::ranges::count_if(
+        lines, [](const QByteArray &line) { return line.endsWith(" %") && !line.contains(':'); });
+    QVERIFY2(writing > 0 && writing < 6, lines.join(" | ").constData());
+    QCOMPARE(lines.last(), QByteArray("Operation complete"));
 }
 
 void ProgramTest::pathsAreWhatTheyAreToAShell_data()

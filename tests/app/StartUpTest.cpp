@@ -65,6 +65,7 @@ private Q_SLOTS:
     void quitEnds();
     void debugMode();
     void helpPages();
+    void helpPageWithoutABrowser();
     void about();
 };
 
@@ -386,6 +387,17 @@ public:
     Q_INVOKABLE void open(const QUrl &url) { pages.append(url.toString()); }
 };
 
+void StartUpTest::helpPageWithoutABrowser()
+{
+    TestApplication app;
+    app.launch();
+    // Off screen, the toolkit knows of no desktop that could open anything.
+    person::choose(app.window.get(), "menuitemHelpAppHomePage");
+    QCOMPARE(app.questions.alerts.size(), 1);
+    QCOMPARE(app.questions.alerts.first().message, u"The page could not be opened"_s);
+    QVERIFY(app.questions.alerts.first().informative.contains(u"https://"_s));
+}
+
 void StartUpTest::helpPages()
 {
     Browser browser;
@@ -397,6 +409,7 @@ void StartUpTest::helpPages()
         person::choose(app.window.get(), item);
         QCOMPARE(browser.pages.size(), before + 1);
     }
+    QVERIFY(app.questions.alerts.isEmpty());
     QCOMPARE(QSet<QString>(browser.pages.cbegin(), browser.pages.cend()).size(), 4);
 }
 

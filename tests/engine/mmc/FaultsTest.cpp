@@ -2,6 +2,7 @@
 #include "Session.h"
 #include "drive/LibburnDrive.h"
 
+#include <atomic>
 #include <chrono>
 #include <semaphore>
 
@@ -144,11 +145,12 @@ private Q_SLOTS:
     {
         Session session({ dvdPlusR });
         std::binary_semaphore asked(0);
-        bool written = false;
+        std::atomic<bool> written = false; // set by the thread that writes
         session.stopAt = [&] {
-            if (written)
-                asked.release();
-            return std::exchange(written, false);
+            if (!written.exchange(false))
+                return false;
+            asked.release();
+            return true;
         };
         session.drive.refuse = [&](const Command &command) -> std::optional<Sense> {
             if (isWrite(command) && command.number(2, 4) == 160) {

@@ -19,7 +19,7 @@ inline Ran runProgram(const QString &program, const QStringList &arguments,
     process.setProcessEnvironment(environment);
     process.start(program, arguments);
     Ran ran;
-    if (process.waitForFinished(240000) && process.exitStatus() == QProcess::NormalExit)
+    if (process.waitForFinished(-1) && process.exitStatus() == QProcess::NormalExit)
         ran.exit = process.exitCode();
     ran.out = QString::fromUtf8(process.readAllStandardOutput());
     ran.err = QString::fromUtf8(process.readAllStandardError());

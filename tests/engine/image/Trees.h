@@ -145,7 +145,7 @@ inline int run(const QString &program, const QStringList &arguments, QByteArray 
 {
     QProcess process;
     process.start(program, arguments);
-    if (!process.waitForFinished(240000) || process.exitStatus() != QProcess::NormalExit)
+    if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit)
         return -1;
     if (output)
         *output = process.readAllStandardOutput();

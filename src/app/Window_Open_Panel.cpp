@@ -75,9 +75,12 @@ void Window_Open_Panel::keepMarksExact()
     m_field = findChild<QLineEdit *>(u"fileNameEdit"_s);
     if (!m_field)
         return;
-    const auto listenTo = [this](const QWidget *focused) { m_field->blockSignals(focused != m_field); };
+    // The focus also changes while the dialog's widgets are destroyed, when nothing of this class is left.
+    const auto listenTo = [field = static_cast<QObject *>(m_field)](const QWidget *focused) {
+        field->blockSignals(focused != field);
+    };
     listenTo(QApplication::focusWidget());
-    connect(qApp, &QApplication::focusChanged, this, [listenTo](QWidget *, QWidget *now) { listenTo(now); });
+    connect(qApp, &QApplication::focusChanged, m_field, [listenTo](QWidget *, QWidget *now) { listenTo(now); });
     connect(m_field, &QLineEdit::textChanged, this, &Window_Open_Panel::offerToOpen);
     const auto *const list = findChild<QTreeView *>(u"treeView"_s);
     connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,

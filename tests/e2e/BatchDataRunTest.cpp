@@ -79,8 +79,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(run.dataFolder(u"photos/large"_s)), 60'000);
         run.process.terminate();
         QVERIFY(run.process.waitForFinished(30'000));
-        QCOMPARE(run.process.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(run.process.exitCode(), 0);
+        QCOMPARE(run.process.exitStatus(), QProcess::CrashExit); // of the signal: no disc was made
         QVERIFY(QFile::exists(run.dataFolder(u"photos"_s)));
 
         QVERIFY(QDir(run.source()).removeRecursively());

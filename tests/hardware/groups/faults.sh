@@ -152,7 +152,7 @@ check source-shrinks shrinking
 # What is added meanwhile is not on the disc, and the disc is whole.
 growing() {
     put_in dvd+r
-    big_folder f 16
+    big_folder f 8
     cp -r f before
     in_background drutil burn f -drive "$number"
     until_writing

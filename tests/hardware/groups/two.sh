@@ -15,7 +15,7 @@ stable() {
         call drutil status -drive $i
         [ $i = 3 ] || expect_out "Name: /dev/sr$((i - 1))$"
     done
-    expect_refusal 3 'no drive of that number'
+    expect_refusal 3 'There is no drive "[23]"'
 }
 check numbers-are-stable stable
 
@@ -65,7 +65,7 @@ first_goes() {
     expect_status 0
     expect_out 'Name: /dev/sr1$'
     call drutil status -drive 2
-    expect_refusal 3 'no drive of that number'
+    expect_refusal 3 'There is no drive "[23]"'
     iscsiadm -m session --rescan
     until_true 20 test -b /dev/sr0 || fail "the drive did not come back"
     udevadm settle -t 10

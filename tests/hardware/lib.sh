@@ -113,7 +113,7 @@ pull_drive() {
 plug_drive() {
     if in_lab; then iscsiadm -m node --login
     else printf 'Plug %s in again, press Enter: ' "$device" >/dev/tty; read -r </dev/tty; fi
-    until_true 30 test -b "$device"
+    until_true 90 test -b "$device"
     udevadm settle -t 10
 }
 

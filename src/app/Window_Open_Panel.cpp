@@ -54,6 +54,7 @@ Window_Open_Panel::Window_Open_Panel(const OpenPanel &panel, const QString &star
 void Window_Open_Panel::setUp(const OpenPanel &panel)
 {
     setAcceptMode(AcceptOpen);
+    setSupportedSchemes({u"file"_s});
     if (panel.choose == OpenPanel::Choose::Folder) {
         setFileMode(Directory);
         setOption(ShowDirsOnly);

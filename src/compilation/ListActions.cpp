@@ -30,9 +30,12 @@ const QStringList videoExtensions{u"wmv"_s,  u"mov"_s, u"mpg"_s,    u"mpeg"_s, u
 QString namesOf(const QList<QUrl> &urls)
 {
     constexpr qsizetype shown = 10;
+    constexpr qsizetype half = 30; // of a name that would make the alert too wide
     QStringList names;
-    for (const QUrl &url : urls.first(qMin(shown, urls.size())))
-        names.append(url.fileName());
+    for (const QUrl &url : urls.first(qMin(shown, urls.size()))) {
+        const QString name = url.fileName().simplified();
+        names.append(name.size() > 2 * half ? name.first(half) + u'…' + name.last(half) : name);
+    }
     if (urls.size() > shown)
         names.append(AppDelegate::tr("and %n more", nullptr, static_cast<int>(urls.size() - shown)));
     return names.join(u'\n');

@@ -45,6 +45,14 @@ QByteArray decoded(const QString &path)
                                     u"pcm_s16le"_s, u"-ar"_s, u"44100"_s, u"-ac"_s, u"2"_s, u"-"_s });
 }
 
+/// The file as an MP3 disc has it, converted to `path` without the program under test.
+QByteArray asMp3(const QString &source, const QString &path)
+{
+    runWell(u"ffmpeg"_s, { u"-v"_s, u"error"_s, u"-y"_s, u"-i"_s, source, u"-vn"_s, u"-ar"_s, u"44100"_s, u"-ac"_s,
+                             u"2"_s, u"-ab"_s, u"192k"_s, u"-f"_s, u"mp3"_s, path });
+    return contentOf(path);
+}
+
 /// What lies on an audio disc of these files: a pause, and then track after track in whole sectors.
 QByteArray discOf(const QStringList &paths, QList<qsizetype> *starts = nullptr)
 {
@@ -186,9 +194,16 @@ private Q_SLOTS:
             QCOMPARE(reader::stream(tree + u'/' + name, u"a"_s, u"codec_name,sample_rate,channels,bit_rate"_s),
                 u"codec_name=mp3|sample_rate=44100|channels=2|bit_rate=192000"_s);
         }
+        QList<QByteArray> contents;
+        for (const QString &name : names()) {
+            contents.append(asMp3(machine.mediaPath(name), machine.mediaPath(u"again"_s)));
+            QVERIFY2(contentOf(tree + u'/' + base(name) + u".mp3"_s) == contents.last(), qUtf8Printable(name));
+        }
         QCOMPARE(reader::countedByIsoinfo(machine.recorder.iso()), expected.size());
         const QString joliet = reader::extractedBy7z(machine.recorder.iso(), machine.media.path());
-        QCOMPARE(QDir(joliet).entryList(QDir::Files | QDir::Hidden).size(), expected.size());
+        for (const QFileInfo &file : QDir(joliet).entryInfoList(QDir::Files | QDir::Hidden))
+            QVERIFY2(contents.removeOne(contentOf(file.filePath())), qUtf8Printable(file.fileName()));
+        QVERIFY(contents.isEmpty());
     }
 
     void ofTwoSongsOfOneNameTheFirstIsWrittenAndTheOtherTold()

@@ -107,6 +107,31 @@ private Q_SLOTS:
         QVERIFY(app.completes());
     }
 
+    void progressIsReadInTwoModesOnly_data()
+    {
+        QTest::addColumn<quint64>("mode");
+        QTest::addColumn<int>("shown");
+        QTest::newRow("video") << quint64(0) << 50;
+        QTest::newRow("audio") << quint64(1) << 50;
+        QTest::newRow("another") << quint64(2) << 1;
+    }
+    void progressIsReadInTwoModesOnly()
+    {
+        QFETCH(quint64, mode);
+        JobApplication app;
+        app.launch();
+        app.controller->Show_Window_Progress(1);
+        QProgressBar *bar = app.controller->windowProgress->progressBar();
+        bar->setRange(0, 100);
+        bar->setValue(1);
+        app.controller->i_Orig_Duration_in_Seconds = 14;
+        app.controller->u_Type_Progress = mode;
+        app.controller->showProgress(u"frame= 10 time=00:00:07.20 bitrate="_s);
+        QTEST(bar->value(), "shown");
+        app.controller->showProgress(u"frame= 10 no time"_s);
+        QTEST(bar->value(), "shown");
+    }
+
     void aTranscoderThatAsksGetsNoAnswerAndEnds()
     {
         JobApplication app;

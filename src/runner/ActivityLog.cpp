@@ -111,7 +111,8 @@ QStringList ActivityLog::troublesSince(qsizetype position) const
             continue;
         }
         const QString what = activity.subject.isEmpty() ? QFileInfo(activity.command.first()).fileName() : activity.subject;
-        troubles.append(what + u": "_s + (said.isEmpty() ? activity.outcome : said));
+        const bool named = !activity.subject.isEmpty() && said.contains(activity.subject);
+        troubles.append((named ? QString() : what + u": "_s) + (said.isEmpty() ? activity.outcome : said));
     }
     return troubles;
 }

@@ -177,6 +177,9 @@ void ActivityLogTest::tellsTroublesByWhatWasWorkedOn()
     log.end(run, u"ended with status 1"_s, true);
     QCOMPARE(log.troublesSince(0), QStringList(u"song.mp3: no music"_s));
     QVERIFY(log.text().contains(u"/usr/bin/ffmpeg -i /m/song.mp3"_s));
+    // A tool that names it itself is enough.
+    log.append(run, "/m/song.mp3: no such file\n");
+    QCOMPARE(log.troublesSince(0), QStringList(u"/m/song.mp3: no such file"_s));
 }
 
 void ActivityLogTest::tellsTroublesOfOneJob()

@@ -41,9 +41,11 @@ private:
 /// Copies what the walk comes by. Two cursors go through the two trees side by side.
 class Copier : public compilation::TreeVisitor {
 public:
-    Copier(TreeCursor &source, TreeCursor &copy, std::string destination, const std::string &never, CopyState &state,
-           const std::function<void(const std::string &)> &failed)
-        : TreeVisitor(source), m_to(copy), m_destination(std::move(destination)), m_state(state), m_failed(failed)
+    /// `source` and `destination` are the paths of the folders that begin the two trees.
+    Copier(TreeCursor &from, std::string source, TreeCursor &to, std::string destination, const std::string &never,
+           CopyState &state, const std::function<void(const std::string &)> &failed)
+        : TreeVisitor(from), m_to(to), m_source(std::move(source)), m_destination(std::move(destination)),
+          m_state(state), m_failed(failed)
     {
         struct stat info;
         if (::stat(never.c_str(), &info) == 0)
@@ -54,16 +56,14 @@ public:
     bool beginFolder(const std::string &name)
     {
         struct stat info;
-        if (m_folders.empty())
-            m_top = '/' + name;
         if (::fstat(at.fd(), &info) != 0)
-            return fail({}, errno), false;
+            return fail(here(), errno), false;
         if (std::pair(info.st_dev, info.st_ino) == m_never)
-            return fail({}, "is the folder in which the disc is gathered, and is left out"), false;
+            return fail(here(), "is the folder in which the disc is gathered, and is left out"), false;
         if (m_state.stop)
             return false;
         if ((::mkdirat(m_to.fd(), name.c_str(), S_IRWXU) != 0 && errno != EEXIST) || !m_to.enter(name))
-            return fail({}, errno), false;
+            return fail(m_destination + at.path(), errno), false;
         m_folders.push_back(info);
         return true;
     }
@@ -74,13 +74,13 @@ public:
         if (m_state.stop)
             return false;
         if (::fstatat(at.fd(), entry.name.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0)
-            fail('/' + entry.name, errno);
+            fail(here(entry.name), errno);
         else if (S_ISDIR(info.st_mode))
             return enterFolder(entry.name);
         else if (S_ISLNK(info.st_mode))
             copyLink(entry.name, info);
         else if (!S_ISREG(info.st_mode))
-            fail('/' + entry.name, "is no file, folder or link, and is left out");
+            fail(here(entry.name), "is no file, folder or link, and is left out");
         else if (info.st_nlink == 1 || !linkToFirst(entry.name, info))
             copyFile(entry.name);
         return false;
@@ -88,7 +88,7 @@ public:
 
     void left(const std::string &) override { finishFolder(); }
 
-    void unreadable(int error) override { fail({}, error); }
+    void unreadable(int error) override { fail(here(), error); }
 
     /// Gives the folder of the copy the mode and the times of its source, and goes up from it.
     void finishFolder()
@@ -97,16 +97,21 @@ public:
         m_folders.pop_back();
         if (m_to.leave())
             return;
-        fail({}, "its copy was moved while it was being made");
+        fail(here(), "its copy was moved while it was being made");
         m_state.stop = true;
     }
 
-    void fail(const std::string &below, const std::string &why) { m_failed(m_top + at.path() + below + ": " + why); }
+    /// The path of the source's folder in which the walk is.
+    std::string here() const { return m_source + at.path(); }
+
+    void fail(const std::string &path, const std::string &why) { m_failed(path + ": " + why); }
 
 private:
-    void fail(const std::string &below, int error)
+    std::string here(const std::string &name) const { return here() + '/' + name; }
+
+    void fail(const std::string &path, int error)
     {
-        fail(below, std::generic_category().message(error));
+        fail(path, std::generic_category().message(error));
         if (error == ENOSPC || error == EDQUOT)
             m_state.stop = true;
     }
@@ -114,7 +119,7 @@ private:
     bool enterFolder(const std::string &name)
     {
         if (!at.enter(name))
-            return fail('/' + name, errno), false;
+            return fail(here(name), errno), false;
         if (beginFolder(name))
             return true;
         at.leave();
@@ -125,7 +130,7 @@ private:
     bool linkToFirst(const std::string &name, const struct stat &info)
     {
         const auto [first, isNew]
-            = m_linked.try_emplace({info.st_dev, info.st_ino}, m_destination + m_top + at.path() + '/' + name);
+            = m_linked.try_emplace({info.st_dev, info.st_ino}, m_destination + at.path() + '/' + name);
         return !isNew && ::linkat(AT_FDCWD, first->second.c_str(), m_to.fd(), name.c_str(), 0) == 0;
     }
 
@@ -136,7 +141,7 @@ private:
         if (m_state.stop)
             return;
         if (length < 0 || ::symlinkat(target.data(), m_to.fd(), name.c_str()) != 0)
-            return fail('/' + name, errno);
+            return fail(here(name), errno);
         const timespec times[] = {info.st_atim, info.st_mtim};
         ::utimensat(m_to.fd(), name.c_str(), times, AT_SYMLINK_NOFOLLOW);
     }
@@ -147,14 +152,14 @@ private:
         const Descriptor from(::openat(at.fd(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
         struct stat info;
         if (from < 0 || ::fstat(from, &info) != 0)
-            return fail('/' + name, errno);
+            return fail(here(name), errno);
         // A source on a server may answer late, when the folder of the copy has already been emptied.
         if (m_state.stop)
             return;
         const Descriptor to(::openat(m_to.fd(), name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
                                      S_IRUSR | S_IWUSR));
         if (to < 0)
-            return fail('/' + name, errno);
+            return fail(here(name), errno);
         const bool copied = copyContent(from, to, info);
         const int error = errno;
         if (copied && !m_state.stop)
@@ -162,7 +167,7 @@ private:
         // Half a file would look like a whole one on the disc.
         ::unlinkat(m_to.fd(), name.c_str(), 0);
         if (!copied)
-            fail('/' + name, error);
+            fail(here(name), error);
     }
 
     bool copyContent(int from, int to, const struct stat &info)
@@ -254,8 +259,8 @@ private:
     }
 
     TreeCursor &m_to;
+    const std::string m_source;
     const std::string m_destination;
-    std::string m_top; ///< "/name" of the folder that is copied
     std::vector<struct stat> m_folders; ///< the source of each folder of the copy from the top to here
     CopyState &m_state;
     const std::function<void(const std::string &)> &m_failed;
@@ -287,11 +292,11 @@ void copyFolder(const std::string &source, const std::string &destination, const
         failed(source + ": has no name under which it could be copied");
     else if (from.fd() < 0 || to.fd() < 0)
         failed((from.fd() < 0 ? source : destination) + ": " + std::generic_category().message(errno));
-    else if (Copier copier(from, to, destination, never, state, failed); copier.beginFolder(name)) {
+    else if (Copier copier(from, path, to, destination + '/' + name, never, state, failed); copier.beginFolder(name)) {
         if (walkTree(copier))
             copier.finishFolder();
         else
-            copier.fail({}, "was moved while it was being copied");
+            copier.fail(copier.here(), "was moved while it was being copied");
     }
     state.ended = true;
 }

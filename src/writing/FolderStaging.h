@@ -22,7 +22,7 @@ struct CopyState {
 /// the folder `destination`, under the name that `source` has.
 /// Times, modes, symbolic links and hard links are kept; file contents are shared or copied by the
 /// kernel where the file system can (FICLONE, copy_file_range), and holes stay holes. What cannot be
-/// copied is told to `failed`, one sentence with its name, and left out, never copied in part; a full disk ends the copy.
+/// copied is told to `failed`, one sentence that begins with its path, and left out, never copied in part; a full disk ends the copy.
 /// `never` is a folder that is not entered: the working folder may itself lie inside the source.
 /// Blocks; any thread; `failed` is called in the same one.
 void copyFolder(const std::string &source, const std::string &destination, const std::string &never,

@@ -1,6 +1,8 @@
 // A data disc by the unattended form. It takes the minute that a folder's copy is waited for at least.
 #include "support/WholeMachine.h"
 
+#include <csignal>
+
 using namespace Qt::StringLiterals;
 
 namespace {

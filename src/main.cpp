@@ -24,7 +24,7 @@ constexpr int wrongArguments = 2;
 
 [[noreturn]] void refuse(const QString &sentence)
 {
-    std::fprintf(stderr, "corvalis: %s\nTry 'corvalis --help'.\n", qUtf8Printable(sentence));
+    std::fprintf(stderr, "corvalis: %s\nTry 'corvalis --help'.\n", surface::printable(sentence).constData());
     std::exit(wrongArguments);
 }
 
@@ -49,7 +49,8 @@ void refuseUnreadableNames(int argc, char **argv)
 {
     for (int i = 1; i < argc; ++i) {
         if (!QByteArrayView(argv[i]).isValidUtf8())
-            refuse(u"argument %1 is not valid UTF-8 text; rename the file and try again."_s.arg(i));
+            refuse(u"argument %1, \"%2\", is not valid UTF-8 text; rename the file and try again."_s.arg(
+                QString::number(i), QString::fromUtf8(argv[i])));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
+#include "app/Surface.h"
 #include "app/Window_New_Disc.h"
 #include "runner/ActivityLog.h"
 #include "runner/StatusSheets.h"
@@ -39,7 +40,8 @@ int BatchQuestions::ask(const Alert &alert, QWidget *over)
     m_alerted = true;
     if (m_beforeAlert)
         m_beforeAlert();
-    std::fprintf(stderr, "%s\n%s\n", qUtf8Printable(alert.message), qUtf8Printable(alert.informative));
+    std::fprintf(stderr, "%s\n%s\n", surface::printable(alert.message).constData(),
+                 surface::printable(alert.informative).constData());
     return m_show ? m_windows.ask(alert, over) : 0;
 }
 
@@ -140,7 +142,7 @@ void BatchRun::completed()
                                               : tr("The operation has ended, but not everything went well"));
     end(0);
     for (const QString &trouble : troubles)
-        std::fprintf(stderr, "%s\n", qUtf8Printable(trouble));
+        std::fprintf(stderr, "%s\n", surface::printable(trouble).constData());
     if (m_job.show)
         return;
     m_controller->Close_Window_Operation_Complete();
@@ -189,9 +191,9 @@ void BatchRun::printLine(Stage stage, const QString &line)
     m_lastLine = line;
     // On a terminal one line is written over and over, which only works as long as it does not wrap.
     if (const int width = terminalWidth())
-        std::printf("\r\033[K%s", qUtf8Printable(line.left(width - 1)));
+        std::printf("\r\033[K%s", surface::printable(line.left(width - 1)).constData());
     else
-        std::printf("%s\n", qUtf8Printable(line));
+        std::printf("%s\n", surface::printable(line).constData());
     std::fflush(stdout);
 }
 

@@ -1,7 +1,6 @@
 #include "app/Surface.h"
 
 #include <QByteArrayView>
-#include <QString>
 #include <QtGlobal>
 
 #include <cstdio>
@@ -86,6 +85,15 @@ void chosen(Place place)
 void hush()
 {
     install(tellOwnMessages);
+}
+
+QByteArray printable(QString text)
+{
+    for (QChar &c : text) {
+        if (c.category() == QChar::Other_Control && c != u'\n' && c != u'\t')
+            c = QChar::ReplacementCharacter;
+    }
+    return text.toUtf8();
 }
 
 void endWithoutDisplay()

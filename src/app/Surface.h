@@ -2,6 +2,9 @@
 // main().
 #pragma once
 
+#include <QByteArray>
+#include <QString>
+
 namespace surface {
 
 /// Where the program is to appear.
@@ -26,6 +29,10 @@ void chosen(Place place);
 /// At a terminal, what the toolkit has to say of windows, locales and folders is no news: from now on only
 /// the program's own words are told.
 void hush();
+
+/// A text for a terminal, in UTF-8. Signs that would command the terminal, as they may stand in the name of a
+/// file, are replaced; line breaks and tabs stay.
+QByteArray printable(QString text);
 
 /// Says that there is no display, and ends the process with 1.
 [[noreturn]] void endWithoutDisplay();

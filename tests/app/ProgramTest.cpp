@@ -126,6 +126,7 @@ private Q_SLOTS:
 
     void pathsAreWhatTheyAreToAShell_data();
     void pathsAreWhatTheyAreToAShell();
+    void namesDoNotCommandTheTerminal();
     void withoutADisplay_data();
     void withoutADisplay();
     void withoutAHome();
@@ -367,7 +368,8 @@ void ProgramTest::argumentThatIsNotText()
     // What Qt cannot remove.
     QProcess::execute(u"/bin/sh"_s, { u"-c"_s, u"rm -f \"$0\"/*.mp3"_s, folder.home() });
     const QString said = folder.errors();
-    QVERIFY2(said.contains(u"argument 3"_s) && said.contains(u"UTF-8"_s), qPrintable(said));
+    QVERIFY2(
+        said.contains(u"argument 3, \"bad \ufffd.mp3\""_s) && said.contains(u"UTF-8"_s), qPrintable(said));
 }
 
 void ProgramTest::help()
@@ -569,6 +571,24 @@ void ProgramTest::pathsAreWhatTheyAreToAShell()
     const QString meant = BatchRun::meantPath(argument);
     QDir::setCurrent(before);
     QCOMPARE(meant, path.isEmpty() ? here.path() : here.filePath(path));
+}
+
+void ProgramTest::namesDoNotCommandTheTerminal()
+{
+    QCOMPARE(surface::printable(u"a\tb\nc é\x1b[31m\a\x7f\u009b"_s), "a\tb\nc é\ufffd[31m\ufffd\ufffd\ufffd");
+    ProgramFolder folder;
+    folder.drutil.print(u"status"_s, "Type: CD-R\noverwritable\n");
+    folder.drutil.run("case \"$1\" in burn) printf '\\033[31mred\\n'; sleep 1; exit 1;; esac");
+    folder.ffmpeg.run("printf '\\033[31mno music'; exit 1");
+    const QString song = folder.home(u"\x1b[31msong.mp3"_s);
+    makeFile(song);
+    QCOMPARE(folder.run({ u"--burn"_s, u"MP3 CD"_s, song }), 0);
+    const QByteArray said = folder.process.readAllStandardError();
+    QVERIFY2(said.contains("no music") && said.contains("red"), said.constData());
+    QVERIFY(!said.contains('\x1b'));
+    QVERIFY(!folder.process.readAllStandardOutput().contains('\x1b'));
+    QCOMPARE(folder.run({ u"--burn"_s, u"MP3 CD"_s, song + u".gone"_s }), 2);
+    QVERIFY(!folder.process.readAllStandardError().contains('\x1b'));
 }
 
 void ProgramTest::withoutADisplay_data()

@@ -27,12 +27,13 @@ Error badBlock(std::uint64_t block, bool readable, const std::string &driveName)
 void BlockDigests::start(std::uint64_t blocks)
 {
     m_digests.clear();
-    m_digests.reserve(blocks);
+    if (m_keeping)
+        m_digests.reserve(blocks);
 }
 
 void BlockDigests::add(std::span<const std::byte> data)
 {
-    for (; data.size() >= blockBytes; data = data.subspan(blockBytes))
+    for (; m_keeping && data.size() >= blockBytes; data = data.subspan(blockBytes))
         m_digests.push_back(digest(data.data()));
 }
 

@@ -14,6 +14,12 @@ namespace engine::drive {
 /// its end.
 class BlockDigests {
 public:
+    /// Without `keeping`, for a disc that is not compared, nothing is taken and no memory needed.
+    explicit BlockDigests(bool keeping = true)
+        : m_keeping(keeping)
+    {
+    }
+
     /// Forgets everything; memory for `blocks` digests is set aside.
     void start(std::uint64_t blocks);
 
@@ -26,6 +32,7 @@ public:
     std::size_t matching(std::uint64_t first, std::span<const std::byte> data) const;
 
 private:
+    bool m_keeping;
     std::vector<std::uint32_t> m_digests;
 };
 

@@ -83,7 +83,7 @@ using Content = std::unique_ptr<DiscData>;
 Result<void> writeAndVerify(
     Lease &lease, DiscData &data, const std::string &driveName, const BurnOptions &options)
 {
-    BlockDigests sent;
+    BlockDigests sent(options.verify);
     if (auto written = lease.writeData(data, sent, options.control); !written)
         return written;
     if (!options.verify)

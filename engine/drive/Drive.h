@@ -85,8 +85,8 @@ public:
     virtual Result<void> erase(EraseMode mode, const Control &control) = 0;
 
     /// Writes `data` from the first block on, closes the disc and notes every block that went out in
-    /// `sent`. The medium must be writable from its start now and large enough. An error says in which state
-    /// the disc is left.
+    /// `sent`, if that keeps them. The medium must be writable from its start now and large enough. An error
+    /// says in which state the disc is left.
     virtual Result<void> writeData(DiscData &data, BlockDigests &sent, const Control &control) = 0;
 
     /// Writes all tracks of an audio disc, session at once. The medium must be a blank CD.

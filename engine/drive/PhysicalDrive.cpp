@@ -110,7 +110,7 @@ Result<void> PhysicalLease::writeData(DiscData &data, BlockDigests &sent, const 
     // A format sets spare blocks aside, and how many is known only now.
     if (auto fits = checkRoom(data.blocks(), now->free, m_name); !fits)
         return fits;
-    const auto tapState = std::make_shared<TapState>();
+    const auto tapState = std::make_shared<TapState>(std::move(sent));
     Job job;
     job.tracks = [&]() -> Result<std::vector<Track>> {
         const Result<burn_source *> stream = data.start();

@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace burn {
@@ -35,6 +36,11 @@ std::ptrdiff_t readSource(burn::burn_source *source, std::span<std::byte> buffer
 
 /// What went through a tap. The writer thread sets it, the controlling thread asks for it.
 struct TapState {
+    explicit TapState(BlockDigests taken = BlockDigests())
+        : digests(std::move(taken))
+    {
+    }
+
     BlockDigests digests;
     std::atomic<std::uint64_t> bytes = 0; ///< released after each digest is in place
     std::atomic<bool> ranDry = false; ///< the source failed, or ended before its last block

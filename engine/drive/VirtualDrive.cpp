@@ -186,7 +186,7 @@ Result<void> VirtualLease::writeData(DiscData &data, BlockDigests &sent, const C
     const Result<burn::burn_source *> stream = data.start();
     if (!stream)
         return stream.error();
-    const auto tapState = std::make_shared<TapState>();
+    const auto tapState = std::make_shared<TapState>(std::move(sent));
     Content content;
     content.track.source = tap(*stream, data.blocks(), tapState);
     content.sectors = data.blocks();

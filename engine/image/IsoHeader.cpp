@@ -270,6 +270,9 @@ WriteOptions writeOptions(bool rockRidge)
     iso_write_opts_set_sort_files(made, 1);
     iso_write_opts_set_output_charset(made, "UTF-8");
     iso_write_opts_set_tail_blocks(made, paddingBlocks);
+    // Only the tree comes through libisofs' ring buffer, which would otherwise take 2 MiB.
+    constexpr std::size_t bufferedBlocks = 64;
+    iso_write_opts_set_fifo_size(made, bufferedBlocks);
     return options;
 }
 

@@ -21,7 +21,7 @@ namespace engine::image {
 
 namespace {
 
-constexpr std::size_t gatherSize = 256 * 1024;
+constexpr std::size_t gatherSize = 64 * 1024;
 
 std::string nameOf(const std::string &folder)
 {

@@ -52,6 +52,15 @@ private Q_SLOTS:
 
     void anExactCopyIsGood() { QVERIFY(verify(m_lease, m_sent, "drive 1", {})); }
 
+    void nothingIsKeptOfADiscThatIsNotCompared()
+    {
+        BlockDigests none(false);
+        none.start(blocks);
+        none.add(m_lease.content);
+        QCOMPARE(none.blocks(), std::uint64_t(0));
+        QCOMPARE(m_sent.blocks(), std::uint64_t(blocks));
+    }
+
     void oneBitIsFound_data()
     {
         QTest::addColumn<int>("block");

@@ -40,5 +40,4 @@ def bench_measuring(bench):
     if told != du:
         raise RuntimeError(f"the folder was measured as {told} bytes, and du says {du}")
     cost = bench.in_turns(ours=lambda: bench.work("size", tree), du=lambda: bench.run("du", "-sbL", tree))
-    bench.remove("many")
     return [time_row(f"measuring {bench.scaled(200_000):,} files", cost["ours"], "du -sbL", cost["du"], 1.0)]

@@ -78,7 +78,7 @@ void AppDelegate::dataBurnTerminated()
 {
     if (windowPerformingOperation) {
         const QString said = windowPerformingOperation->newestLine();
-        windowPerformingOperation->showNewestLine(tr("%1 The working folder is being emptied.").arg(said).toUtf8());
+        windowPerformingOperation->showNewestLine(tr("%1 The working folder is being emptied.\n").arg(said).toUtf8());
     }
     // Behind the working sheet: what still copies would fill the folder again after it was emptied, and
     // emptying it of very many files takes seconds.

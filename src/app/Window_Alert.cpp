@@ -51,7 +51,8 @@ void Window_Alert::showTexts(const Alert &alert)
     m_ui->labelMessage->setVisible(!longMessage);
     m_ui->labelMessage->setMinimumWidth(textWidth);
     const bool informativeInReport = report && !longMessage;
-    m_ui->labelInformative->setText(alert.informative);
+    // Also an unseen label lays its text out, which takes long for what a tool printed.
+    m_ui->labelInformative->setText(informativeInReport ? QString() : alert.informative);
     m_ui->labelInformative->setMinimumWidth(textWidth);
     m_ui->labelInformative->setVisible(!informativeInReport && !alert.informative.isEmpty());
     m_ui->textReport->setVisible(report);

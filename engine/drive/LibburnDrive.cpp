@@ -24,25 +24,17 @@ char *unchanged(const char *text)
     return const_cast<char *>(text);
 }
 
+/// libburn is never closed: the thread of a write that was broken off still sends messages when its drive is idle
+/// already, and burn_finish() takes away what it sends them to.
 bool openLibrary()
 {
-    class Library {
-    public:
-        Library()
-            : ready(burn_initialize() != 0)
-        {
-            if (ready)
-                burn_msgs_set_severities(unchanged("SORRY"), unchanged("NEVER"), unchanged(""));
-        }
-        ~Library()
-        {
-            if (ready)
-                burn_finish();
-        }
-        const bool ready;
-    };
-    static const Library library;
-    return library.ready;
+    static const bool ready = [] {
+        if (burn_initialize() == 0)
+            return false;
+        burn_msgs_set_severities(unchanged("SORRY"), unchanged("NEVER"), unchanged(""));
+        return true;
+    }();
+    return ready;
 }
 
 /// libburn's description of a disc, freed in the order it wants.

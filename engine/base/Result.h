@@ -10,9 +10,9 @@ namespace engine {
 /// Exit codes that the engine's programs share.
 enum class Exit : int {
     success = 0,
-    failed = 1,   ///< the operation was tried and failed
-    usage = 2,    ///< wrong arguments
-    noDisc = 3,   ///< no such drive, or no disc in it
+    failed = 1, ///< the operation was tried and failed
+    usage = 2, ///< wrong arguments
+    noDisc = 3, ///< no such drive, or no disc in it
     interrupted = 130,
     terminated = 143,
 };
@@ -29,8 +29,14 @@ struct Error {
 template <class T>
 class [[nodiscard]] Result {
 public:
-    Result(T value) : m_state(std::in_place_index<0>, std::move(value)) {}
-    Result(Error error) : m_state(std::in_place_index<1>, std::move(error)) {}
+    Result(T value)
+        : m_state(std::in_place_index<0>, std::move(value))
+    {
+    }
+    Result(Error error)
+        : m_state(std::in_place_index<1>, std::move(error))
+    {
+    }
 
     explicit operator bool() const { return m_state.index() == 0; }
     T &value() & { return std::get<0>(m_state); }
@@ -51,7 +57,11 @@ template <>
 class [[nodiscard]] Result<void> {
 public:
     Result() = default;
-    Result(Error error) : m_error(std::move(error)), m_ok(false) {}
+    Result(Error error)
+        : m_error(std::move(error))
+        , m_ok(false)
+    {
+    }
 
     explicit operator bool() const { return m_ok; }
     const Error &error() const { return m_error; }

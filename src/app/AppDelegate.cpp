@@ -30,7 +30,7 @@ namespace {
 QString toolPath(const QString &name)
 {
     const QString here = QCoreApplication::applicationDirPath();
-    for (const QString &path : {u"/usr/bin/"_s + name, here + u'/' + name}) {
+    for (const QString &path : { u"/usr/bin/"_s + name, here + u'/' + name }) {
         if (QFile::exists(path))
             return path;
     }
@@ -57,8 +57,11 @@ Surroundings Surroundings::ofThisMachine(Questions *questions)
 }
 
 AppDelegate::AppDelegate(MainWindow *mainWindow, Surroundings surroundings)
-    : window(mainWindow), ui(mainWindow->ui()), around(std::move(surroundings)), activityLog(new ActivityLog(this)),
-      preferences(std::make_unique<QSettings>(u"Corvalis"_s, u"Corvalis"_s))
+    : window(mainWindow)
+    , ui(mainWindow->ui())
+    , around(std::move(surroundings))
+    , activityLog(new ActivityLog(this))
+    , preferences(std::make_unique<QSettings>(u"Corvalis"_s, u"Corvalis"_s))
 {
 }
 
@@ -68,7 +71,8 @@ AppDelegate::~AppDelegate()
     QThreadPool::globalInstance()->waitForDone();
     endStagingCopies();
     // The window may live on; its tables must not ask this object for their rows then.
-    for (ListTableView *table : {ui->tableviewAudioFiles, ui->tableviewVideoFiles, ui->tableviewDataFolders})
+    for (ListTableView *table :
+        { ui->tableviewAudioFiles, ui->tableviewVideoFiles, ui->tableviewDataFolders })
         table->setModel(nullptr);
 }
 
@@ -130,10 +134,10 @@ bool AppDelegate::makeWorkingFolders()
         QString failure;
     };
     const QList<WorkingFolder> folders{
-        {&AppDelegate::s_Output_Folder, u"Corvalis"_s, u"Error #0008. Application will exit."_s},
-        {&AppDelegate::s_Audio_Folder, u"CorvalisAudio"_s, u"Error #0009. Application will exit."_s},
-        {&AppDelegate::s_Video_Folder, u"CorvalisVideo"_s, u"Error #000a. Application will exit."_s},
-        {&AppDelegate::s_Data_Folder, u"CorvalisData"_s, u"Error #000b. Application will exit."_s},
+        { &AppDelegate::s_Output_Folder, u"Corvalis"_s, u"Error #0008. Application will exit."_s },
+        { &AppDelegate::s_Audio_Folder, u"CorvalisAudio"_s, u"Error #0009. Application will exit."_s },
+        { &AppDelegate::s_Video_Folder, u"CorvalisVideo"_s, u"Error #000a. Application will exit."_s },
+        { &AppDelegate::s_Data_Folder, u"CorvalisData"_s, u"Error #000b. Application will exit."_s },
     };
     for (const WorkingFolder &folder : folders)
         this->*folder.path = documents.filePath(folder.name);
@@ -153,11 +157,12 @@ bool AppDelegate::makeWorkingFolders()
 
 void AppDelegate::emptyWorkingFolders()
 {
-    for (const QString &folder : {s_Output_Folder, s_Audio_Folder, s_Video_Folder, s_Data_Folder}) {
+    for (const QString &folder : { s_Output_Folder, s_Audio_Folder, s_Video_Folder, s_Data_Folder }) {
         if (const auto claim = FolderClaim::take(folder))
             RemoveAllContentInFolder(folder);
         else
-            activityLog->note(tr("A working folder was not emptied, as another Corvalis prepares a disc in it"), folder);
+            activityLog->note(
+                tr("A working folder was not emptied, as another Corvalis prepares a disc in it"), folder);
     }
 }
 
@@ -180,7 +185,7 @@ void AppDelegate::RemoveAllContentInFolder(const QString &folder)
 
 QSize AppDelegate::windowWillResize_toSize(QSize proposed)
 {
-    return proposed.expandedTo({700, 400});
+    return proposed.expandedTo({ 700, 400 });
 }
 
 void AppDelegate::windowWillClose()
@@ -200,7 +205,7 @@ void AppDelegate::Terminate_App()
 
 void AppDelegate::alert(const QString &message, const QString &informative)
 {
-    around.questions->ask({message, informative, {u"Close"_s}}, window);
+    around.questions->ask({ message, informative, { u"Close"_s } }, window);
 }
 
 void AppDelegate::schedule(QPointer<QTimer> &timer, TimerRoutine routine)

@@ -39,7 +39,7 @@ class MainWindow;
 namespace runner {
 class ToolRun;
 struct ToolEnd;
-}
+} // namespace runner
 
 namespace writing {
 struct CopyState;
@@ -75,7 +75,7 @@ public:
     QString SourcePath, DestPath, DestPathISO; ///< of the image being made
 
     // ---- State: project and mode
-    qint64 i_Type_of_New_Disc = 1; ///< 1..8, what the new-disc sheet last confirmed; 99 while it is being cancelled
+    qint64 i_Type_of_New_Disc = 1; ///< 1..8, as last confirmed; 99 while the new-disc sheet is cancelled
     qint64 i_Audio_Type = 0, i_Video_Type = 0, i_Data_Type = 0; ///< variant of each list tab
     qint64 i_Burn_Audio_Type = 0; ///< 1 CD-DA, 2 MP3, while an audio disc is made
 
@@ -85,13 +85,14 @@ public:
     QList<Object_Optical_Drive> array_Optical_Media_Drives; ///< as found at start-up
     qint64 i_Audio_Total_Duration_in_Seconds = 0, i_Video_Total_Duration_in_Seconds = 0;
     qint64 i_Data_Total_Size_in_KBytes = 0;
-    bool m_b_Col1_Ascenging = true, m_b_Col2_Ascenging = false, m_b_Col3_Ascenging = false, m_b_Col4_Ascenging = false;
+    bool m_b_Col1_Ascenging = true, m_b_Col2_Ascenging = false, m_b_Col3_Ascenging = false,
+         m_b_Col4_Ascenging = false;
 
     QList<std::shared_ptr<writing::CopyState>> stagingCopies; ///< folder copies that may still run
 
     // ---- State: drive, formats, debug
     QString s_Current_Drive_Number;
-    QString s_Video_Output_Format, s_Audio_Output_Format; ///< "0" NTSC, Dolby Digital; anything else PAL, MPEG audio
+    QString s_Video_Output_Format, s_Audio_Output_Format; ///< "0" NTSC, Dolby Digital; else PAL, MPEG audio
     bool m_b_Debug_Mode = false;
 
     // ---- State: the running tool
@@ -109,7 +110,8 @@ public:
     qint64 b_List_Alternating_Rows = 1;
 
     // ---- State: one-shot timers, owned by this controller as its children
-    QPointer<QTimer> timerBurnAudioCD, timerBurnMP3, timerBurnVideo, timerBurnDataFolder, timerDuplicateMediaCopy;
+    QPointer<QTimer> timerBurnAudioCD, timerBurnMP3, timerBurnVideo, timerBurnDataFolder,
+        timerDuplicateMediaCopy;
     QPointer<QTimer> timerCreateISOStep1, timerCreateISOStep2, timerCreateISOStep3;
     QPointer<QTimer> timerSetAlternatingRows, timerForceColorsAtStartup;
 
@@ -223,7 +225,7 @@ public:
     void pickMediaFolder(ListKind kind);
     void addMediaFiles(ListKind kind, const QList<QUrl> &urls); ///< returns at once; addingEnded() follows
     void addMediaFolder(ListKind kind, const QString &folder);
-    QList<QUrl> mediaIn(ListKind kind, const QString &folder); ///< the accepted files; tells of names that are not text
+    QList<QUrl> mediaIn(ListKind kind, const QString &folder); ///< the accepted files; tells what is no text
     void mediaFileMeasured(ListKind kind, const QList<NodeMediaFile> &records, qsizetype count);
     void addDataFolder(const QString &path);
     template <class Record>
@@ -249,7 +251,7 @@ public:
     void OnActionDataClear();
     void OnActionDataNewDisc();
     void OnActionDataCopyDisc();
-    void addDroppedFiles(const QList<QUrl> &urls); ///< onto the list of the selected tab; tells what does not fit
+    void addDroppedFiles(const QList<QUrl> &urls); ///< onto the selected tab; tells what does not fit
     bool listTakes(int tab, const QUrl &url) const; ///< whether it can go on the tab's list
     void moveSelectedEntries(int by); ///< up (-1) or down (1) in the list of the selected tab
 
@@ -269,7 +271,7 @@ public:
 
     // ---- Running tools (runner/)
     QByteArray captureTool(const QString &program, const QStringList &arguments,
-                           runner::ToolEnd *end = nullptr); ///< blocks; any thread
+        runner::ToolEnd *end = nullptr); ///< blocks; any thread
     using Observer = void (AppDelegate::*)();
     /// What a background run is watched for beside its end: `drutil` runs have their output logged.
     enum class Output { Observed, Ignored };
@@ -297,7 +299,7 @@ public:
     void Show_Window_Progress(qsizetype items);
     void Close_Window_Progress();
     using TimerRoutine = void (AppDelegate::*)();
-    void schedule(QPointer<QTimer> &timer, TimerRoutine routine); ///< one shot after 0.1 s, replacing a pending one
+    void schedule(QPointer<QTimer> &timer, TimerRoutine routine); ///< after 0.1 s, replacing a pending one
 
     // ---- Writing discs (writing/)
     /// What the three forms of every kind of disc have in common: the checks before a job.
@@ -308,8 +310,9 @@ public:
     void burnVideo(const DiscForm &form);
     void burnData(const DiscForm &form);
     /// Converts every listed file with the arguments that `argumentsFor` gives, behind the progress sheet.
-    void convertList(quint64 progressMode, const std::function<QStringList(const NodeMediaFile &)> &argumentsFor);
-    bool claimFolder(const QString &folder); ///< empties it for this job; false: an alert has told whose it is
+    void convertList(
+        quint64 progressMode, const std::function<QStringList(const NodeMediaFile &)> &argumentsFor);
+    bool claimFolder(const QString &folder); ///< empties it for this job; false: an alert told whose it is
     void beginJob(); ///< what the operation-complete sheet reports begins here
     void Burn_Audio_CD();
     void Burn_Audio_MP3_CD();
@@ -325,7 +328,7 @@ public:
     void TimerBurnDataFolder();
     void Show_Window_Data_Copy_Folders();
     void Close_Window_Data_Copy_Folders();
-    bool endStagingCopies(); ///< stops folder copies that still run and waits; false: one does not stop. Any thread
+    bool endStagingCopies(); ///< stops the running ones and waits; false: one goes on. Any thread
     void Show_Window_Video_Settings();
     void Close_Window_Video_Settings();
     void DuplicateMedia();

@@ -47,7 +47,8 @@ QColor textColourOnBar(const QWidget *widget)
     return colour.isValid() ? readableTextOn(colour) : widget->palette().color(QPalette::WindowText);
 }
 
-BarButton::BarButton(QWidget *parent) : QAbstractButton(parent)
+BarButton::BarButton(QWidget *parent)
+    : QAbstractButton(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::ArrowCursor);
@@ -57,7 +58,8 @@ void BarButton::setLook(Look look)
 {
     m_look = look;
     const bool card = look == Look::Card;
-    setSizePolicy(card ? QSizePolicy::Expanding : QSizePolicy::Fixed, card ? QSizePolicy::Expanding : QSizePolicy::Fixed);
+    setSizePolicy(card ? QSizePolicy::Expanding : QSizePolicy::Fixed,
+        card ? QSizePolicy::Expanding : QSizePolicy::Fixed);
     setMaximumHeight(card ? tallestCard : QWIDGETSIZE_MAX);
     updateGeometry();
 }
@@ -101,13 +103,13 @@ QSize BarButton::sizeHint() const
     const QSize text(metrics.horizontalAdvance(this->text()), metrics.height());
     switch (m_look) {
     case Look::Tool:
-        return {qMax(64, text.width() + 16), 6 + toolIcon + 4 + text.height() + 6};
+        return { qMax(64, text.width() + 16), 6 + toolIcon + 4 + text.height() + 6 };
     case Look::Mode:
-        return {text.width() + 24, text.height() + 10};
+        return { text.width() + 24, text.height() + 10 };
     case Look::Card:
-        return {320, qMax(cardIcon, text.height() * 4) + 40};
+        return { 320, qMax(cardIcon, text.height() * 4) + 40 };
     case Look::Prominent:
-        return {qMax(200, toolIcon + 10 + text.width() + 40), qMax(48, text.height() + 24)};
+        return { qMax(200, toolIcon + 10 + text.width() + 40), qMax(48, text.height() + 24) };
     }
     Q_UNREACHABLE();
 }
@@ -117,13 +119,14 @@ QSize BarButton::minimumSizeHint() const
     if (m_look != Look::Card)
         return sizeHint();
     // A heading and two lines; three rows of cards have to fit into the smallest window.
-    return {220, qMax(cardIcon, QFontMetrics(headingFont()).height() * 3) + 24};
+    return { 220, qMax(cardIcon, QFontMetrics(headingFont()).height() * 3) + 24 };
 }
 
 void BarButton::paintSymbol(QPainter &painter, const QRect &where, const QColor &colour) const
 {
     if (!m_symbol.isEmpty())
-        symbolIcon(m_symbol, colour).paint(&painter, where, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+        symbolIcon(m_symbol, colour)
+            .paint(&painter, where, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
 }
 
 void BarButton::paintBackground(QPainter &painter, const QColor &text) const
@@ -152,19 +155,21 @@ void BarButton::paintBackground(QPainter &painter, const QColor &text) const
 void BarButton::paintSymbolOverText(QPainter &painter, const QColor &text) const
 {
     const int top = (height() - (toolIcon + 4 + fontMetrics().height())) / 2;
-    paintSymbol(painter, {(width() - toolIcon) / 2, top, toolIcon, toolIcon}, text);
+    paintSymbol(painter, { (width() - toolIcon) / 2, top, toolIcon, toolIcon }, text);
     painter.drawText(QRect(0, top + toolIcon + 4, width(), fontMetrics().height()), Qt::AlignCenter,
-                     fontMetrics().elidedText(this->text(), Qt::ElideRight, width() - 4));
+        fontMetrics().elidedText(this->text(), Qt::ElideRight, width() - 4));
 }
 
 void BarButton::paintSymbolBesideText(QPainter &painter, const QColor &text) const
 {
     const int iconWidth = m_symbol.isEmpty() ? 0 : toolIcon + 10;
-    const QString shown = painter.fontMetrics().elidedText(this->text(), Qt::ElideRight, width() - iconWidth - 16);
+    const QString shown =
+        painter.fontMetrics().elidedText(this->text(), Qt::ElideRight, width() - iconWidth - 16);
     const int textWidth = painter.fontMetrics().horizontalAdvance(shown);
     const int left = (width() - iconWidth - textWidth) / 2;
-    paintSymbol(painter, {left, (height() - toolIcon) / 2, toolIcon, toolIcon}, text);
-    painter.drawText(QRect(left + iconWidth, 0, textWidth + 1, height()), Qt::AlignVCenter | Qt::AlignLeft, shown);
+    paintSymbol(painter, { left, (height() - toolIcon) / 2, toolIcon, toolIcon }, text);
+    painter.drawText(
+        QRect(left + iconWidth, 0, textWidth + 1, height()), Qt::AlignVCenter | Qt::AlignLeft, shown);
 }
 
 QStringList BarButton::descriptionLines(int width, int most) const
@@ -178,8 +183,9 @@ QStringList BarButton::descriptionLines(int width, int most) const
             break;
         line.setLineWidth(width);
         const bool isLast = lines.size() + 1 == most;
-        lines.append(isLast ? fontMetrics().elidedText(m_description.mid(line.textStart()), Qt::ElideRight, width)
-                            : m_description.mid(line.textStart(), line.textLength()));
+        lines.append(isLast
+                ? fontMetrics().elidedText(m_description.mid(line.textStart()), Qt::ElideRight, width)
+                : m_description.mid(line.textStart(), line.textLength()));
     }
     layout.endLayout();
     return lines;
@@ -202,7 +208,8 @@ void BarButton::paintCard(QPainter &painter, const QColor &text) const
     const QPoint corner = tall ? QPoint((width() - icon) / 2, top) : QPoint(margin, (height() - icon) / 2);
     paintSymbol(painter, { corner, QSize(icon, icon) }, text);
     top += above;
-    const auto place = static_cast<int>(tall ? Qt::AlignHCenter | Qt::AlignTop : Qt::AlignLeft | Qt::AlignTop);
+    const auto place =
+        static_cast<int>(tall ? Qt::AlignHCenter | Qt::AlignTop : Qt::AlignLeft | Qt::AlignTop);
     painter.drawText(QRect(left, top, room.width(), headingHeight), place,
         painter.fontMetrics().elidedText(this->text(), Qt::ElideRight, room.width()));
     top += headingHeight;
@@ -267,5 +274,5 @@ void BarLabel::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setPen(textColourOnBar(this));
     painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine,
-                     fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+        fontMetrics().elidedText(text(), Qt::ElideRight, width()));
 }

@@ -15,10 +15,9 @@
 #include <QRadioButton>
 
 #include <cstdio>
-#include <utility>
-
 #include <sys/ioctl.h>
 #include <unistd.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -41,7 +40,7 @@ int BatchQuestions::ask(const Alert &alert, QWidget *over)
     if (m_beforeAlert)
         m_beforeAlert();
     std::fprintf(stderr, "%s\n%s\n", surface::printable(alert.message).constData(),
-                 surface::printable(alert.informative).constData());
+        surface::printable(alert.informative).constData());
     return m_show ? m_windows.ask(alert, over) : 0;
 }
 
@@ -51,9 +50,12 @@ QList<QUrl> BatchQuestions::choose(const OpenPanel &panel, QWidget *over)
     return answer.isEmpty() && m_show ? m_windows.choose(panel, over) : answer;
 }
 
-BatchRun::BatchRun(const BatchJob &job, AppDelegate *controller, BatchQuestions *questions,
-                   std::function<void(int)> finish)
-    : m_job(job), m_controller(controller), m_questions(questions), m_finish(std::move(finish))
+BatchRun::BatchRun(
+    const BatchJob &job, AppDelegate *controller, BatchQuestions *questions, std::function<void(int)> finish)
+    : m_job(job)
+    , m_controller(controller)
+    , m_questions(questions)
+    , m_finish(std::move(finish))
 {
     m_questions->setBeforeAlert([this] { endLine(); });
     m_progress.setInterval(200);
@@ -83,10 +85,11 @@ QString BatchRun::objection(const BatchJob &job)
             return tr("%1 is no folder: a data disc is made of folders.").arg(path);
         if (data)
             continue;
-        const QStringList &accepted = AppDelegate::acceptedExtensions(job.type->tab == 0 ? AppDelegate::ListKind::Audio
-                                                                                         : AppDelegate::ListKind::Video);
+        const QStringList &accepted = AppDelegate::acceptedExtensions(
+            job.type->tab == 0 ? AppDelegate::ListKind::Audio : AppDelegate::ListKind::Video);
         if (!info.isFile() || !accepted.contains(info.suffix(), Qt::CaseInsensitive)) {
-            return tr("%1 is not a file that this disc can take. Accepted are: %2.").arg(path, accepted.join(u", "_s));
+            return tr("%1 is not a file that this disc can take. Accepted are: %2.")
+                .arg(path, accepted.join(u", "_s));
         }
     }
     return {};
@@ -117,7 +120,7 @@ void BatchRun::add()
     if (!data)
         m_questions->answerNextPanelWith(urls);
     for (qsizetype i = 0; data && i < urls.size(); ++i) {
-        m_questions->answerNextPanelWith({urls.at(i)});
+        m_questions->answerNextPanelWith({ urls.at(i) });
         m_controller->OnActionDataAddFolder();
     }
     if (data || urls.isEmpty())
@@ -138,8 +141,9 @@ void BatchRun::burn()
 void BatchRun::completed()
 {
     const QStringList troubles = m_controller->activityLog->troublesSince(m_controller->jobStart);
-    printLine(Stage::Done, troubles.isEmpty() ? tr("Operation complete")
-                                              : tr("The operation has ended, but not everything went well"));
+    printLine(Stage::Done,
+        troubles.isEmpty() ? tr("Operation complete")
+                           : tr("The operation has ended, but not everything went well"));
     end(0);
     for (const QString &trouble : troubles)
         std::fprintf(stderr, "%s\n", surface::printable(trouble).constData());
@@ -163,14 +167,17 @@ void BatchRun::showProgress()
         return bar->maximum() > 0 ? bar->value() * 100 / bar->maximum() : 0;
     };
     if (const Window_Unique_Progress *adding = m_controller->windowUniqueProgress) {
-        printLine(Stage::Adding, tr("Adding files: %1 of %2")
-                                     .arg(adding->progressBar()->value())
-                                     .arg(adding->progressBar()->maximum()));
+        printLine(Stage::Adding,
+            tr("Adding files: %1 of %2")
+                .arg(adding->progressBar()->value())
+                .arg(adding->progressBar()->maximum()));
     } else if (const Window_Progress *converting = m_controller->windowProgress) {
-        printLine(Stage::Converting, tr("Converting: file %1 of %2, %3 %")
-                      .arg(qMin(converting->progressOverall()->value() + 1, converting->progressOverall()->maximum()))
-                      .arg(converting->progressOverall()->maximum())
-                      .arg(percent(converting->progressBar())));
+        printLine(Stage::Converting,
+            tr("Converting: file %1 of %2, %3 %")
+                .arg(qMin(
+                    converting->progressOverall()->value() + 1, converting->progressOverall()->maximum()))
+                .arg(converting->progressOverall()->maximum())
+                .arg(percent(converting->progressBar())));
     } else if (m_controller->windowDataCopyFolders) {
         printLine(Stage::Gathering, tr("Gathering the folders"));
     } else if (const Window_Performing_Operation *working = m_controller->windowPerformingOperation) {

@@ -23,7 +23,10 @@ struct BatchJob {
 /// panels with what the command line named. With windows shown, a person answers the alerts.
 class BatchQuestions : public Questions {
 public:
-    explicit BatchQuestions(bool show) : m_show(show) {}
+    explicit BatchQuestions(bool show)
+        : m_show(show)
+    {
+    }
 
     int ask(const Alert &alert, QWidget *over) override;
     QList<QUrl> choose(const OpenPanel &panel, QWidget *over) override;
@@ -48,7 +51,8 @@ class BatchRun : public QObject {
 public:
     /// `finish` is called once with the exit status: 0 the operation-complete sheet was reached, 1 an
     /// alert ended the job.
-    BatchRun(const BatchJob &job, AppDelegate *controller, BatchQuestions *questions, std::function<void(int)> finish);
+    BatchRun(const BatchJob &job, AppDelegate *controller, BatchQuestions *questions,
+        std::function<void(int)> finish);
 
     void start();
 

@@ -5,11 +5,13 @@
 
 #include <QCloseEvent>
 
-MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_ui(std::make_unique<Ui::MainWindow>())
+MainWindow::MainWindow(QWidget *parent)
+    : QMainWindow(parent)
+    , m_ui(std::make_unique<Ui::MainWindow>())
 {
     m_ui->setupUi(this);
     m_ui->menuitemVirtualSeparator->setSeparator(true);
-    setMinimumSize(AppDelegate::windowWillResize_toSize({0, 0}));
+    setMinimumSize(AppDelegate::windowWillResize_toSize({ 0, 0 }));
 }
 
 MainWindow::~MainWindow() = default;

@@ -58,12 +58,13 @@ void AppDelegate::OnMenuHelpPrivacyPolicy()
 
 void AppDelegate::OnMenuHelpAbout()
 {
-    around.questions->ask({tr("Corvalis %1").arg(QCoreApplication::applicationVersion()),
-                           tr("Prepares and writes optical discs.\n\nFree software under the GNU General Public "
-                              "License, version 2 or later.\nBuilt on Qt %1, libburn, libisofs, ffmpeg and mpv.")
-                               .arg(QString::fromLatin1(qVersion())),
-                           {u"Close"_s}},
-                          window);
+    around.questions->ask(
+        { tr("Corvalis %1").arg(QCoreApplication::applicationVersion()),
+            tr("Prepares and writes optical discs.\n\nFree software under the GNU General Public "
+               "License, version 2 or later.\nBuilt on Qt %1, libburn, libisofs, ffmpeg and mpv.")
+                .arg(QString::fromLatin1(qVersion())),
+            { u"Close"_s } },
+        window);
 }
 
 void AppDelegate::OnMenuActivityLog()

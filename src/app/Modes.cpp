@@ -13,27 +13,27 @@ struct ModeRow {
     BarButton *Ui::MainWindow::*button;
     void (AppDelegate::*pipeline)();
 };
-const std::array<ModeRow, 8> modes{{
-    {&Ui::MainWindow::btnAudioCD, &AppDelegate::Burn_Audio_CD},
-    {&Ui::MainWindow::btnMP3CD, &AppDelegate::Burn_Audio_MP3_CD},
-    {&Ui::MainWindow::btnMP3DVD, &AppDelegate::Burn_Audio_MP3_DVD},
-    {&Ui::MainWindow::btnVideoDVD, &AppDelegate::Burn_Video_DVD},
-    {&Ui::MainWindow::btnVideoBluray, &AppDelegate::Burn_Video_Bluray},
-    {&Ui::MainWindow::btnDataCD, &AppDelegate::Burn_Data_CD},
-    {&Ui::MainWindow::btnDataDVD, &AppDelegate::Burn_Data_DVD},
-    {&Ui::MainWindow::btnDataBluray, &AppDelegate::Burn_Data_Bluray},
-}};
+const std::array<ModeRow, 8> modes{ {
+    { &Ui::MainWindow::btnAudioCD, &AppDelegate::Burn_Audio_CD },
+    { &Ui::MainWindow::btnMP3CD, &AppDelegate::Burn_Audio_MP3_CD },
+    { &Ui::MainWindow::btnMP3DVD, &AppDelegate::Burn_Audio_MP3_DVD },
+    { &Ui::MainWindow::btnVideoDVD, &AppDelegate::Burn_Video_DVD },
+    { &Ui::MainWindow::btnVideoBluray, &AppDelegate::Burn_Video_Bluray },
+    { &Ui::MainWindow::btnDataCD, &AppDelegate::Burn_Data_CD },
+    { &Ui::MainWindow::btnDataDVD, &AppDelegate::Burn_Data_DVD },
+    { &Ui::MainWindow::btnDataBluray, &AppDelegate::Burn_Data_Bluray },
+} };
 
 /// What a list tab has, by its index.
 struct ListTabRow {
     qint64 AppDelegate::*variant;
     void (AppDelegate::*refresh)();
 };
-const std::array<ListTabRow, 3> listTabs{{
-    {&AppDelegate::i_Audio_Type, &AppDelegate::refreshTableAudioFiles},
-    {&AppDelegate::i_Video_Type, &AppDelegate::refreshTableVideoFiles},
-    {&AppDelegate::i_Data_Type, &AppDelegate::refreshTableDataFolders},
-}};
+const std::array<ListTabRow, 3> listTabs{ {
+    { &AppDelegate::i_Audio_Type, &AppDelegate::refreshTableAudioFiles },
+    { &AppDelegate::i_Video_Type, &AppDelegate::refreshTableVideoFiles },
+    { &AppDelegate::i_Data_Type, &AppDelegate::refreshTableDataFolders },
+} };
 
 const ListTabRow &listTab(int index)
 {
@@ -45,7 +45,7 @@ const ListTabRow &listTab(int index)
 void AppDelegate::setModeDefaults()
 {
     i_Audio_Type = i_Video_Type = i_Data_Type = 0;
-    for (const int code : {1, 4, 6})
+    for (const int code : { 1, 4, 6 })
         markVariant(code);
     ui->tabviewMain->setCurrentIndex(0);
     ui->btnBurn->setText(projects::byCode(1)->burnTitle);
@@ -158,7 +158,7 @@ QString AppDelegate::selectedPage() const
 
 void AppDelegate::tabView_didSelectTabViewItem(const QString &identifier)
 {
-    const QStringList identifiers{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s};
+    const QStringList identifiers{ u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s };
     const qsizetype index = identifiers.indexOf(identifier);
     if (index >= 0)
         didSelectTab(static_cast<int>(index));
@@ -174,8 +174,8 @@ void AppDelegate::didSelectTab(int index)
         if (const ProjectType *type = projects::byVariant(index, this->*listTab(index).variant))
             ui->btnBurn->setText(type->burnTitle);
     }
-    QAction *const items[] = {ui->submenuItemTabAudio, ui->submenuItemTabVideo, ui->submenuItemTabData,
-                              ui->submenuItemTabISO, ui->submenuItemTabTools};
+    QAction *const items[] = { ui->submenuItemTabAudio, ui->submenuItemTabVideo, ui->submenuItemTabData,
+        ui->submenuItemTabISO, ui->submenuItemTabTools };
     for (int i = 0; i < 5; ++i)
         items[i]->setChecked(i == index);
     offerListActions(index);
@@ -183,7 +183,7 @@ void AppDelegate::didSelectTab(int index)
 
 void AppDelegate::offerKinds(int tab)
 {
-    QAction *const items[] = {ui->menuitemKind1, ui->menuitemKind2, ui->menuitemKind3};
+    QAction *const items[] = { ui->menuitemKind1, ui->menuitemKind2, ui->menuitemKind3 };
     for (int variant = 0; variant < 3; ++variant) {
         const ProjectType *type = projects::byVariant(tab, variant);
         items[variant]->setVisible(type);
@@ -198,12 +198,13 @@ void AppDelegate::offerListActions(int tab)
     offerKinds(tab);
     const bool media = tab <= 1;
     const bool list = tab <= 2;
-    for (QAction *action : {ui->menuitemAddFolder, ui->menuitemCopyDisc, ui->menuitemBurn, ui->menuitemDelete,
-                            ui->menuitemClear, ui->menuitemSelectAll, ui->menuitemMoveUp, ui->menuitemMoveDown})
+    for (QAction *action :
+        { ui->menuitemAddFolder, ui->menuitemCopyDisc, ui->menuitemBurn, ui->menuitemDelete,
+            ui->menuitemClear, ui->menuitemSelectAll, ui->menuitemMoveUp, ui->menuitemMoveDown })
         action->setEnabled(list);
-    for (QAction *action : {ui->menuitemPlay, ui->menuitemSort3, ui->menuitemSort4})
+    for (QAction *action : { ui->menuitemPlay, ui->menuitemSort3, ui->menuitemSort4 })
         action->setEnabled(media);
-    for (QAction *action : {ui->menuitemAddFiles, ui->menuitemSort1, ui->menuitemSort2})
+    for (QAction *action : { ui->menuitemAddFiles, ui->menuitemSort1, ui->menuitemSort2 })
         action->setEnabled(list);
     ui->menuitemAddFiles->setText(tab == 2 ? tr("&Add Folder…") : tr("&Add Files…"));
     ui->menuitemAddFolder->setVisible(tab != 2);

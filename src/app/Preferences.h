@@ -6,7 +6,9 @@
 namespace preferences {
 
 inline constexpr QLatin1StringView videoFormat("QuendralVideoFormat18"); ///< "0" NTSC, else PAL
-inline constexpr QLatin1StringView audioFormat("QuendralAudioFormat18"); ///< "0" Dolby Digital, else MPEG audio
-inline constexpr QLatin1StringView lastDrive("Quendral_Last_Selected_Drive_18"); ///< title of the chosen drive
+inline constexpr QLatin1StringView audioFormat(
+    "QuendralAudioFormat18"); ///< "0" Dolby Digital, else MPEG audio
+inline constexpr QLatin1StringView lastDrive(
+    "Quendral_Last_Selected_Drive_18"); ///< title of the chosen drive
 
 } // namespace preferences

@@ -18,16 +18,16 @@ namespace projects {
 
 inline constexpr int cancelled = 99;
 
-inline constexpr std::array<ProjectType, 8> all{{
-    {1, QLatin1StringView("Audio CD"), 0, 0, QLatin1StringView("Burn Audio CD")},
-    {2, QLatin1StringView("MP3 CD"), 0, 1, QLatin1StringView("Burn MP3 CD")},
-    {3, QLatin1StringView("MP3 DVD"), 0, 2, QLatin1StringView("Burn MP3 DVD")},
-    {4, QLatin1StringView("Video DVD"), 1, 0, QLatin1StringView("Burn Video DVD")},
-    {5, QLatin1StringView("Video Blu-ray"), 1, 1, QLatin1StringView("Burn Video Blu-ray")},
-    {6, QLatin1StringView("Data CD"), 2, 0, QLatin1StringView("Burn Data CD")},
-    {7, QLatin1StringView("Data DVD"), 2, 1, QLatin1StringView("Burn Data DVD")},
-    {8, QLatin1StringView("Data Blu-ray"), 2, 2, QLatin1StringView("Burn Data Blu-ray")},
-}};
+inline constexpr std::array<ProjectType, 8> all{ {
+    { 1, QLatin1StringView("Audio CD"), 0, 0, QLatin1StringView("Burn Audio CD") },
+    { 2, QLatin1StringView("MP3 CD"), 0, 1, QLatin1StringView("Burn MP3 CD") },
+    { 3, QLatin1StringView("MP3 DVD"), 0, 2, QLatin1StringView("Burn MP3 DVD") },
+    { 4, QLatin1StringView("Video DVD"), 1, 0, QLatin1StringView("Burn Video DVD") },
+    { 5, QLatin1StringView("Video Blu-ray"), 1, 1, QLatin1StringView("Burn Video Blu-ray") },
+    { 6, QLatin1StringView("Data CD"), 2, 0, QLatin1StringView("Burn Data CD") },
+    { 7, QLatin1StringView("Data DVD"), 2, 1, QLatin1StringView("Burn Data DVD") },
+    { 8, QLatin1StringView("Data Blu-ray"), 2, 2, QLatin1StringView("Burn Data Blu-ray") },
+} };
 
 /// The row of a code, null for any other number.
 constexpr const ProjectType *byCode(long long code)

@@ -45,12 +45,13 @@ QList<QUrl> WindowQuestions::choose(const OpenPanel &panel, QWidget *over)
 QList<QUrl> WindowQuestions::usable(QList<QUrl> chosen, const QStringList &extensions, QWidget *over)
 {
     if (chosen.removeIf([](const QUrl &url) { return !compilation::isReadable(url); }) > 0)
-        ask({unusableFiles(), unreadableNamesText(), {u"Close"_s}}, over);
+        ask({ unusableFiles(), unreadableNamesText(), { u"Close"_s } }, over);
     // A name that is typed passes the dialog's filter by.
     const auto isOfOtherKind = [&extensions](const QUrl &url) {
-        return !extensions.isEmpty() && !extensions.contains(QFileInfo(url.fileName()).suffix(), Qt::CaseInsensitive);
+        return !extensions.isEmpty()
+            && !extensions.contains(QFileInfo(url.fileName()).suffix(), Qt::CaseInsensitive);
     };
     if (chosen.removeIf(isOfOtherKind) > 0)
-        ask({unusableFiles(), otherKindText(extensions), {u"Close"_s}}, over);
+        ask({ unusableFiles(), otherKindText(extensions), { u"Close"_s } }, over);
     return chosen;
 }

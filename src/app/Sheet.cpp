@@ -8,7 +8,8 @@
 #include <QPushButton>
 
 Sheet::Sheet(QWidget *parent, Dismiss dismiss)
-    : QDialog(parent, Qt::Sheet | Qt::FramelessWindowHint), m_dismiss(dismiss)
+    : QDialog(parent, Qt::Sheet | Qt::FramelessWindowHint)
+    , m_dismiss(dismiss)
 {
     setWindowModality(Qt::WindowModal);
     auto *quit = new QAction(this);
@@ -102,7 +103,8 @@ void Sheet::placeOverParent()
     move(corner);
 }
 
-SheetHeading::SheetHeading(QWidget *parent) : QLabel(parent)
+SheetHeading::SheetHeading(QWidget *parent)
+    : QLabel(parent)
 {
     QFont heading = font();
     heading.setBold(true);

@@ -30,7 +30,7 @@ Q_SIGNALS:
 
 protected:
     /// What Escape does, where a person may dismiss the sheet.
-    virtual void cancelled() {}
+    virtual void cancelled() { }
 
     void reject() override;
     void closeEvent(QCloseEvent *event) override;

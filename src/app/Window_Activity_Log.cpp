@@ -18,7 +18,9 @@
 using namespace Qt::StringLiterals;
 
 Window_Activity_Log::Window_Activity_Log(ActivityLog *log, QWidget *parent)
-    : QWidget(parent, Qt::Window), m_log(log), m_ui(std::make_unique<Ui::Window_Activity_Log>())
+    : QWidget(parent, Qt::Window)
+    , m_log(log)
+    , m_ui(std::make_unique<Ui::Window_Activity_Log>())
 {
     m_ui->setupUi(this);
     m_ui->textOutput->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
@@ -31,10 +33,13 @@ Window_Activity_Log::Window_Activity_Log(ActivityLog *log, QWidget *parent)
     m_refresh.setSingleShot(true);
     m_refresh.setInterval(200);
     connect(&m_refresh, &QTimer::timeout, this, &Window_Activity_Log::refresh);
-    connect(m_log, &ActivityLog::changed, this, [this] {
-        if (isVisible() && !m_refresh.isActive())
-            m_refresh.start();
-    }, Qt::QueuedConnection);
+    connect(
+        m_log, &ActivityLog::changed, this,
+        [this] {
+            if (isVisible() && !m_refresh.isActive())
+                m_refresh.start();
+        },
+        Qt::QueuedConnection);
     connect(m_ui->listRuns, &QTreeWidget::itemSelectionChanged, this, &Window_Activity_Log::showOutput);
     connect(m_ui->btnCopy, &QPushButton::clicked, this, &Window_Activity_Log::copy);
     connect(m_ui->btnSave, &QPushButton::clicked, this, &Window_Activity_Log::save);
@@ -51,7 +56,7 @@ void Window_Activity_Log::refresh()
         QTreeWidgetItem *item = list->topLevelItem(static_cast<int>(position));
         if (!item) {
             item = new QTreeWidgetItem(list);
-            item->setSizeHint(0, {0, list->fontMetrics().height() + 8});
+            item->setSizeHint(0, { 0, list->fontMetrics().height() + 8 });
         }
         const bool isRun = !activity.command.isEmpty();
         item->setText(0, activity.started.toString(u"HH:mm:ss"_s));
@@ -111,12 +116,14 @@ QString Window_Activity_Log::saveTo(const QString &path) const
 
 void Window_Activity_Log::save()
 {
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save the activity log"), u"corvalis-activity.txt"_s);
+    const QString path =
+        QFileDialog::getSaveFileName(this, tr("Save the activity log"), u"corvalis-activity.txt"_s);
     if (path.isEmpty())
         return;
     const QString failure = saveTo(path);
     if (!failure.isEmpty())
-        Window_Alert({tr("The log could not be saved"), path + u'\n' + failure, {u"Close"_s}}, this).exec();
+        Window_Alert({ tr("The log could not be saved"), path + u'\n' + failure, { u"Close"_s } }, this)
+            .exec();
 }
 
 void Window_Activity_Log::showEvent(QShowEvent *event)

@@ -24,14 +24,18 @@ bool isLong(const QString &text)
 } // namespace
 
 Window_Alert::Window_Alert(const Alert &alert, QWidget *over)
-    : QDialog(over), m_ui(std::make_unique<Ui::Window_Alert>()), m_last(static_cast<int>(alert.buttons.size()) - 1)
+    : QDialog(over)
+    , m_ui(std::make_unique<Ui::Window_Alert>())
+    , m_last(static_cast<int>(alert.buttons.size()) - 1)
 {
     m_ui->setupUi(this);
     setWindowTitle(over ? over->window()->windowTitle() : QString());
     setWindowModality(Qt::ApplicationModal);
     const bool question = alert.buttons.size() > 1;
-    const QIcon icon = symbolIcon(alert.fixedWidth ? u"info-emblem"_s : question ? u"warning"_s : u"info-emblem"_s,
-                                  palette().color(QPalette::WindowText));
+    const QIcon icon = symbolIcon(alert.fixedWidth ? u"info-emblem"_s
+            : question                             ? u"warning"_s
+                                                   : u"info-emblem"_s,
+        palette().color(QPalette::WindowText));
     m_ui->labelIcon->setPixmap(icon.pixmap(QSize(32, 32), devicePixelRatioF()));
     showTexts(alert);
     addButtons(alert.buttons);
@@ -69,7 +73,7 @@ void Window_Alert::showReport(const QString &text, bool columns)
     field->setPlainText(text);
     // As high as its text, within reason; the rest scrolls.
     constexpr qsizetype most = 14;
-    const auto lines = static_cast<int>(columns ? qBound(qsizetype{5}, text.count(u'\n') + 2, most) : most);
+    const auto lines = static_cast<int>(columns ? qBound(qsizetype{ 5 }, text.count(u'\n') + 2, most) : most);
     field->setMinimumWidth(field->fontMetrics().averageCharWidth() * 80);
     field->setFixedHeight(field->fontMetrics().lineSpacing() * lines);
     // Where nothing is selected, the whole report is what one wants to paste into a letter.
@@ -85,8 +89,8 @@ void Window_Alert::showReport(const QString &text, bool columns)
 void Window_Alert::addButtons(const QStringList &titles)
 {
     for (int position = 0; position < titles.size(); ++position) {
-        QPushButton *button = m_ui->buttonBox->addButton(titles.at(position), position == 0 ? QDialogButtonBox::AcceptRole
-                                                                                            : QDialogButtonBox::RejectRole);
+        QPushButton *button = m_ui->buttonBox->addButton(
+            titles.at(position), position == 0 ? QDialogButtonBox::AcceptRole : QDialogButtonBox::RejectRole);
         button->setAutoDefault(true);
         connect(button, &QPushButton::clicked, this, [this, position] { done(position); });
         if (position == 0) {

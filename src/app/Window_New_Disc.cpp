@@ -6,11 +6,13 @@
 #include <QPushButton>
 
 Window_New_Disc::Window_New_Disc(AppDelegate *controller, QWidget *parent)
-    : Sheet(parent, Dismiss::ByPerson), m_controller(controller), m_ui(std::make_unique<Ui::Window_New_Disc>())
+    : Sheet(parent, Dismiss::ByPerson)
+    , m_controller(controller)
+    , m_ui(std::make_unique<Ui::Window_New_Disc>())
 {
     m_ui->setupUi(this);
-    m_radios = {m_ui->radio1, m_ui->radio2, m_ui->radio3, m_ui->radio4,
-                m_ui->radio5, m_ui->radio6, m_ui->radio7, m_ui->radio8};
+    m_radios = { m_ui->radio1, m_ui->radio2, m_ui->radio3, m_ui->radio4, m_ui->radio5, m_ui->radio6,
+        m_ui->radio7, m_ui->radio8 };
     connect(this, &Sheet::quitRequested, controller, &AppDelegate::OnMenuQuit);
     connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &Window_New_Disc::OnOK);
     connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &Window_New_Disc::OnCancel);

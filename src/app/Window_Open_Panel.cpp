@@ -38,7 +38,8 @@ int hiddenChoices(const QString &folder, const OpenPanel &panel)
     const bool folders = panel.choose == OpenPanel::Choose::Folder;
     if (!folders && !panel.extensions.isEmpty())
         return compilation::unreadableFiles(found, panel.extensions, Qt::CaseInsensitive);
-    return static_cast<int>(std::ranges::count(found.unreadable, folders, &compilation::FolderNames::Unreadable::isFolder));
+    return static_cast<int>(
+        std::ranges::count(found.unreadable, folders, &compilation::FolderNames::Unreadable::isFolder));
 }
 
 } // namespace
@@ -54,7 +55,7 @@ Window_Open_Panel::Window_Open_Panel(const OpenPanel &panel, const QString &star
 void Window_Open_Panel::setUp(const OpenPanel &panel)
 {
     setAcceptMode(AcceptOpen);
-    setSupportedSchemes({u"file"_s});
+    setSupportedSchemes({ u"file"_s });
     if (panel.choose == OpenPanel::Choose::Folder) {
         setFileMode(Directory);
         setOption(ShowDirsOnly);
@@ -77,11 +78,11 @@ void Window_Open_Panel::keepMarksExact()
     if (!m_field)
         return;
     // The focus also changes while the dialog's widgets are destroyed, when nothing of this class is left.
-    const auto listenTo = [field = static_cast<QObject *>(m_field)](const QWidget *focused) {
-        field->blockSignals(focused != field);
-    };
+    const auto listenTo = [field = static_cast<QObject *>(m_field)](
+                              const QWidget *focused) { field->blockSignals(focused != field); };
     listenTo(QApplication::focusWidget());
-    connect(qApp, &QApplication::focusChanged, m_field, [listenTo](QWidget *, QWidget *now) { listenTo(now); });
+    connect(
+        qApp, &QApplication::focusChanged, m_field, [listenTo](QWidget *, QWidget *now) { listenTo(now); });
     connect(m_field, &QLineEdit::textChanged, this, &Window_Open_Panel::offerToOpen);
     const auto *const list = findChild<QTreeView *>(u"treeView"_s);
     connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -142,10 +143,14 @@ void Window_Open_Panel::tellWhatIsHidden(const OpenPanel &panel)
         const int hidden = hiddenChoices(folder, panel);
         label->setVisible(hidden > 0);
         label->setText(panel.choose == OpenPanel::Choose::Folder
-                ? tr("%n folder(s) cannot be shown here: the names are not valid UTF-8 text. Rename them to choose "
-                     "them.", nullptr, hidden)
-                : tr("%n file(s) of this folder cannot be shown: the names are not valid UTF-8 text. Rename them to "
-                     "choose them.", nullptr, hidden));
+                ? tr("%n folder(s) cannot be shown here: the names are not valid UTF-8 text. Rename them to "
+                     "choose "
+                     "them.",
+                    nullptr, hidden)
+                : tr("%n file(s) of this folder cannot be shown: the names are not valid UTF-8 text. Rename "
+                     "them to "
+                     "choose them.",
+                    nullptr, hidden));
     };
     connect(files, &QFileSystemModel::rootPathChanged, label, count);
     count(files->rootPath());

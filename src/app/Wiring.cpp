@@ -34,86 +34,89 @@ using D = AppDelegate;
 using U = Ui::MainWindow;
 
 const ButtonRow buttons[] = {
-    {&U::btnAudioCD, &D::OnActionAudioCD},
-    {&U::btnMP3CD, &D::OnActionMP3CD},
-    {&U::btnMP3DVD, &D::OnActionMP3DVD},
-    {&U::btnVideoDVD, &D::OnActionVideoDVD},
-    {&U::btnVideoBluray, &D::OnActionVideoBluray},
-    {&U::btnDataCD, &D::OnActionDataCD},
-    {&U::btnDataDVD, &D::OnActionDataDVD},
-    {&U::btnDataBluray, &D::OnActionDataBluray},
-    {&U::btnBurn, &D::OnBtnBurn},
-    {&U::toolbar_btn_Audio_Add_Files, &D::OnActionAudioAddFiles},
-    {&U::toolbar_btn_Audio_Add_Folder, &D::OnActionAudioAddFolder},
-    {&U::toolbar_btn_Audio_Delete, &D::OnActionAudioDelete},
-    {&U::toolbar_btn_Audio_Clear, &D::OnActionAudioClear},
-    {&U::toolbar_btn_Audio_Play, &D::OnActionAudioPlay},
-    {&U::toolbar_btn_Audio_New_Disc, &D::OnActionAudioNewDisc},
-    {&U::toolbar_btn_Audio_Copy_Disc, &D::OnActionAudioCopyDisc},
-    {&U::toolbar_btn_Video_Add_Files, &D::OnActionVideoAddFiles},
-    {&U::toolbar_btn_Video_Add_Folder, &D::OnActionVideoAddFolder},
-    {&U::toolbar_btn_Video_Delete, &D::OnActionVideoDelete},
-    {&U::toolbar_btn_Video_Clear, &D::OnActionVideoClear},
-    {&U::toolbar_btn_Video_Play, &D::OnActionVideoPlay},
-    {&U::toolbar_btn_Video_Settings, &D::OnActionVideoSettings},
-    {&U::toolbar_btn_Video_New_Disc, &D::OnActionVideoNewDisc},
-    {&U::toolbar_btn_Video_Copy_Disc, &D::OnActionVideoCopyDisc},
-    {&U::toolbar_btn_Data_Add_Folder, &D::OnActionDataAddFolder},
-    {&U::toolbar_btn_Data_Delete, &D::OnActionDataDelete},
-    {&U::toolbar_btn_Data_Clear, &D::OnActionDataClear},
-    {&U::toolbar_btn_Data_New_Disc, &D::OnActionDataNewDisc},
-    {&U::toolbar_btn_Data_Copy_Disc, &D::OnActionDataCopyDisc},
-    {&U::toolbar_btn_ISO_Create_ISO, &D::OnActionISOCreate},
-    {&U::toolbar_btn_ISO_Burn_ISO, &D::OnActionISOBurn},
-    {&U::toolbar_btn_Tools_Erase_Disc, &D::OnToolsFormatRWMedia},
-    {&U::toolbar_btn_Tools_Eject_Disc, &D::OnToolsEjectDisc},
-    {&U::toolbar_btn_Tools_Load_Disc, &D::OnToolsLoadDisc},
-    {&U::toolbar_btn_Tools_Disc_Info, &D::OnToolsDiscInfo},
-    {&U::toolbar_btn_Tools_Colors, &D::OnToolsColors},
-    {&U::toolbar_btn_Tools_Activity_Log, &D::OnMenuActivityLog},
+    { &U::btnAudioCD, &D::OnActionAudioCD },
+    { &U::btnMP3CD, &D::OnActionMP3CD },
+    { &U::btnMP3DVD, &D::OnActionMP3DVD },
+    { &U::btnVideoDVD, &D::OnActionVideoDVD },
+    { &U::btnVideoBluray, &D::OnActionVideoBluray },
+    { &U::btnDataCD, &D::OnActionDataCD },
+    { &U::btnDataDVD, &D::OnActionDataDVD },
+    { &U::btnDataBluray, &D::OnActionDataBluray },
+    { &U::btnBurn, &D::OnBtnBurn },
+    { &U::toolbar_btn_Audio_Add_Files, &D::OnActionAudioAddFiles },
+    { &U::toolbar_btn_Audio_Add_Folder, &D::OnActionAudioAddFolder },
+    { &U::toolbar_btn_Audio_Delete, &D::OnActionAudioDelete },
+    { &U::toolbar_btn_Audio_Clear, &D::OnActionAudioClear },
+    { &U::toolbar_btn_Audio_Play, &D::OnActionAudioPlay },
+    { &U::toolbar_btn_Audio_New_Disc, &D::OnActionAudioNewDisc },
+    { &U::toolbar_btn_Audio_Copy_Disc, &D::OnActionAudioCopyDisc },
+    { &U::toolbar_btn_Video_Add_Files, &D::OnActionVideoAddFiles },
+    { &U::toolbar_btn_Video_Add_Folder, &D::OnActionVideoAddFolder },
+    { &U::toolbar_btn_Video_Delete, &D::OnActionVideoDelete },
+    { &U::toolbar_btn_Video_Clear, &D::OnActionVideoClear },
+    { &U::toolbar_btn_Video_Play, &D::OnActionVideoPlay },
+    { &U::toolbar_btn_Video_Settings, &D::OnActionVideoSettings },
+    { &U::toolbar_btn_Video_New_Disc, &D::OnActionVideoNewDisc },
+    { &U::toolbar_btn_Video_Copy_Disc, &D::OnActionVideoCopyDisc },
+    { &U::toolbar_btn_Data_Add_Folder, &D::OnActionDataAddFolder },
+    { &U::toolbar_btn_Data_Delete, &D::OnActionDataDelete },
+    { &U::toolbar_btn_Data_Clear, &D::OnActionDataClear },
+    { &U::toolbar_btn_Data_New_Disc, &D::OnActionDataNewDisc },
+    { &U::toolbar_btn_Data_Copy_Disc, &D::OnActionDataCopyDisc },
+    { &U::toolbar_btn_ISO_Create_ISO, &D::OnActionISOCreate },
+    { &U::toolbar_btn_ISO_Burn_ISO, &D::OnActionISOBurn },
+    { &U::toolbar_btn_Tools_Erase_Disc, &D::OnToolsFormatRWMedia },
+    { &U::toolbar_btn_Tools_Eject_Disc, &D::OnToolsEjectDisc },
+    { &U::toolbar_btn_Tools_Load_Disc, &D::OnToolsLoadDisc },
+    { &U::toolbar_btn_Tools_Disc_Info, &D::OnToolsDiscInfo },
+    { &U::toolbar_btn_Tools_Colors, &D::OnToolsColors },
+    { &U::toolbar_btn_Tools_Activity_Log, &D::OnMenuActivityLog },
 };
 
 const ItemRow items[] = {
-    {&U::menuitemNewDisc, &D::OnMenuDiscNew},
-    {&U::menuitemQuit, &D::OnMenuQuit},
-    {&U::menuitemVideoSettings, &D::OnActionVideoSettings},
-    {&U::submenuItemTabAudio, &D::OnMenuTabAudio},
-    {&U::submenuItemTabVideo, &D::OnMenuTabVideo},
-    {&U::submenuItemTabData, &D::OnMenuTabData},
-    {&U::submenuItemTabISO, &D::OnMenuTabISO},
-    {&U::submenuItemTabTools, &D::OnMenuTabTools},
-    {&U::submenuItemDriveSlot1, &D::OnMenuDriveSlot1},
-    {&U::submenuItemDriveSlot2, &D::OnMenuDriveSlot2},
-    {&U::submenuItemDriveSlot3, &D::OnMenuDriveSlot3},
-    {&U::submenuItemDriveSlot4, &D::OnMenuDriveSlot4},
-    {&U::submenuItemDriveSlot5, &D::OnMenuDriveSlot5},
-    {&U::submenuItemDriveSlot6, &D::OnMenuDriveSlot6},
-    {&U::menuitemShowWrittenDiscs, &D::OnMenuDriveShowDiscs},
-    {&U::menuitemISOCreate, &D::OnActionISOCreate},
-    {&U::menuitemISOBurn, &D::OnActionISOBurn},
-    {&U::menuitemEraseFull, &D::OnToolsFormatFull},
-    {&U::menuitemEraseQuick, &D::OnToolsFormatQuick},
-    {&U::menuitemEject, &D::OnToolsEjectDisc},
-    {&U::menuitemLoad, &D::OnToolsLoadDisc},
-    {&U::menuitemDiscInfo, &D::OnToolsDiscInfo},
-    {&U::menuitemColors, &D::OnToolsColors},
-    {&U::menuitemActivityLog, &D::OnMenuActivityLog},
-    {&U::menuitemHelpAppHomePage, &D::OnMenuHelpAppHomePage},
-    {&U::menuitemHelpCompanyHomePage, &D::OnMenuHelpCompanyHomePage},
-    {&U::menuitemHelpSubmitTicket, &D::OnMenuHelpSubmitTicket},
-    {&U::menuitemHelpPrivacyPolicy, &D::OnMenuHelpPrivacyPolicy},
-    {&U::menuitemDebugMode, &D::OnMenuDebugMode},
-    {&U::menuitemHelpAbout, &D::OnMenuHelpAbout},
+    { &U::menuitemNewDisc, &D::OnMenuDiscNew },
+    { &U::menuitemQuit, &D::OnMenuQuit },
+    { &U::menuitemVideoSettings, &D::OnActionVideoSettings },
+    { &U::submenuItemTabAudio, &D::OnMenuTabAudio },
+    { &U::submenuItemTabVideo, &D::OnMenuTabVideo },
+    { &U::submenuItemTabData, &D::OnMenuTabData },
+    { &U::submenuItemTabISO, &D::OnMenuTabISO },
+    { &U::submenuItemTabTools, &D::OnMenuTabTools },
+    { &U::submenuItemDriveSlot1, &D::OnMenuDriveSlot1 },
+    { &U::submenuItemDriveSlot2, &D::OnMenuDriveSlot2 },
+    { &U::submenuItemDriveSlot3, &D::OnMenuDriveSlot3 },
+    { &U::submenuItemDriveSlot4, &D::OnMenuDriveSlot4 },
+    { &U::submenuItemDriveSlot5, &D::OnMenuDriveSlot5 },
+    { &U::submenuItemDriveSlot6, &D::OnMenuDriveSlot6 },
+    { &U::menuitemShowWrittenDiscs, &D::OnMenuDriveShowDiscs },
+    { &U::menuitemISOCreate, &D::OnActionISOCreate },
+    { &U::menuitemISOBurn, &D::OnActionISOBurn },
+    { &U::menuitemEraseFull, &D::OnToolsFormatFull },
+    { &U::menuitemEraseQuick, &D::OnToolsFormatQuick },
+    { &U::menuitemEject, &D::OnToolsEjectDisc },
+    { &U::menuitemLoad, &D::OnToolsLoadDisc },
+    { &U::menuitemDiscInfo, &D::OnToolsDiscInfo },
+    { &U::menuitemColors, &D::OnToolsColors },
+    { &U::menuitemActivityLog, &D::OnMenuActivityLog },
+    { &U::menuitemHelpAppHomePage, &D::OnMenuHelpAppHomePage },
+    { &U::menuitemHelpCompanyHomePage, &D::OnMenuHelpCompanyHomePage },
+    { &U::menuitemHelpSubmitTicket, &D::OnMenuHelpSubmitTicket },
+    { &U::menuitemHelpPrivacyPolicy, &D::OnMenuHelpPrivacyPolicy },
+    { &U::menuitemDebugMode, &D::OnMenuDebugMode },
+    { &U::menuitemHelpAbout, &D::OnMenuHelpAbout },
 };
 
 const ListItemRow listItems[] = {
-    {&U::menuitemAddFiles, {&D::OnActionAudioAddFiles, &D::OnActionVideoAddFiles, &D::OnActionDataAddFolder}},
-    {&U::menuitemAddFolder, {&D::OnActionAudioAddFolder, &D::OnActionVideoAddFolder, &D::OnActionDataAddFolder}},
-    {&U::menuitemDelete, {&D::OnActionAudioDelete, &D::OnActionVideoDelete, &D::OnActionDataDelete}},
-    {&U::menuitemClear, {&D::OnActionAudioClear, &D::OnActionVideoClear, &D::OnActionDataClear}},
-    {&U::menuitemPlay, {&D::OnActionAudioPlay, &D::OnActionVideoPlay, nullptr}},
-    {&U::menuitemCopyDisc, {&D::OnActionAudioCopyDisc, &D::OnActionVideoCopyDisc, &D::OnActionDataCopyDisc}},
-    {&U::menuitemBurn, {&D::OnBtnBurn, &D::OnBtnBurn, &D::OnBtnBurn}},
+    { &U::menuitemAddFiles,
+        { &D::OnActionAudioAddFiles, &D::OnActionVideoAddFiles, &D::OnActionDataAddFolder } },
+    { &U::menuitemAddFolder,
+        { &D::OnActionAudioAddFolder, &D::OnActionVideoAddFolder, &D::OnActionDataAddFolder } },
+    { &U::menuitemDelete, { &D::OnActionAudioDelete, &D::OnActionVideoDelete, &D::OnActionDataDelete } },
+    { &U::menuitemClear, { &D::OnActionAudioClear, &D::OnActionVideoClear, &D::OnActionDataClear } },
+    { &U::menuitemPlay, { &D::OnActionAudioPlay, &D::OnActionVideoPlay, nullptr } },
+    { &U::menuitemCopyDisc,
+        { &D::OnActionAudioCopyDisc, &D::OnActionVideoCopyDisc, &D::OnActionDataCopyDisc } },
+    { &U::menuitemBurn, { &D::OnBtnBurn, &D::OnBtnBurn, &D::OnBtnBurn } },
 };
 
 /// The blanks that can be put into a virtual recorder, by the disc utility's names.
@@ -122,11 +125,15 @@ struct BlankRow {
     const char *kind;
 };
 const BlankRow blanks[] = {
-    {&U::menuitemInsert_cd_r, "cd-r"},           {&U::menuitemInsert_cd_rw, "cd-rw"},
-    {&U::menuitemInsert_dvd_r, "dvd-r"},         {&U::menuitemInsert_dvd_plus_r, "dvd+r"},
-    {&U::menuitemInsert_dvd_rw, "dvd-rw"},       {&U::menuitemInsert_dvd_plus_rw, "dvd+rw"},
-    {&U::menuitemInsert_bd_r, "bd-r"},           {&U::menuitemInsert_bd_re, "bd-re"},
-    {&U::menuitemRemoveDisc, "none"},
+    { &U::menuitemInsert_cd_r, "cd-r" },
+    { &U::menuitemInsert_cd_rw, "cd-rw" },
+    { &U::menuitemInsert_dvd_r, "dvd-r" },
+    { &U::menuitemInsert_dvd_plus_r, "dvd+r" },
+    { &U::menuitemInsert_dvd_rw, "dvd-rw" },
+    { &U::menuitemInsert_dvd_plus_rw, "dvd+rw" },
+    { &U::menuitemInsert_bd_r, "bd-r" },
+    { &U::menuitemInsert_bd_re, "bd-re" },
+    { &U::menuitemRemoveDisc, "none" },
 };
 
 } // namespace
@@ -153,7 +160,7 @@ void AppDelegate::connectMenus()
                 (this->*row.handlers.at(static_cast<std::size_t>(tab)))();
         });
     }
-    QAction *const kinds[] = {ui->menuitemKind1, ui->menuitemKind2, ui->menuitemKind3};
+    QAction *const kinds[] = { ui->menuitemKind1, ui->menuitemKind2, ui->menuitemKind3 };
     for (int variant = 0; variant < 3; ++variant) {
         connect(kinds[variant], &QAction::triggered, this, [this, variant] {
             if (const ProjectType *type = projects::byVariant(ui->tabviewMain->currentIndex(), variant))
@@ -162,10 +169,10 @@ void AppDelegate::connectMenus()
     }
     for (const BlankRow &row : blanks) {
         connect(ui->*row.item, &QAction::triggered, this,
-                [this, row] { OnMenuDriveInsertBlank(QString::fromLatin1(row.kind)); });
+            [this, row] { OnMenuDriveInsertBlank(QString::fromLatin1(row.kind)); });
     }
     connect(ui->tabviewMain, &QTabWidget::currentChanged, this,
-            [this] { tabView_didSelectTabViewItem(selectedPage()); });
+        [this] { tabView_didSelectTabViewItem(selectedPage()); });
 }
 
 void AppDelegate::connectLists()
@@ -178,9 +185,9 @@ void AppDelegate::connectLists()
         int wideColumn;
     };
     const TableRow tables[] = {
-        {ui->tableviewAudioFiles, Kind::Media, &D::OnActionAudioPlay, ListTableModel::MediaPath},
-        {ui->tableviewVideoFiles, Kind::Media, &D::OnActionVideoPlay, ListTableModel::MediaPath},
-        {ui->tableviewDataFolders, Kind::Data, nullptr, ListTableModel::DataFolder},
+        { ui->tableviewAudioFiles, Kind::Media, &D::OnActionAudioPlay, ListTableModel::MediaPath },
+        { ui->tableviewVideoFiles, Kind::Media, &D::OnActionVideoPlay, ListTableModel::MediaPath },
+        { ui->tableviewDataFolders, Kind::Data, nullptr, ListTableModel::DataFolder },
     };
     for (const TableRow &row : tables) {
         ListTableView *const table = row.table;
@@ -194,7 +201,7 @@ void AppDelegate::connectLists()
         if (row.open)
             connect(table, &ListTableView::rowOpened, this, row.open);
     }
-    QAction *const sorts[] = {ui->menuitemSort1, ui->menuitemSort2, ui->menuitemSort3, ui->menuitemSort4};
+    QAction *const sorts[] = { ui->menuitemSort1, ui->menuitemSort2, ui->menuitemSort3, ui->menuitemSort4 };
     for (int column = 0; column < 4; ++column) {
         connect(sorts[column], &QAction::triggered, this, [this, column] {
             if (ListTableView *table = selectedTable()) {

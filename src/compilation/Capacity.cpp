@@ -11,10 +11,11 @@ qint32 capacity(Page page, qint64 kind)
         std::array<qint32, 3> kinds;
     };
     static constexpr std::array rows{
-        Row{Page::Audio,
-            {constAudioCDCDASpaceInSeconds, constAudioCDMP3SpaceInSeconds, constAudioDVDMP3SpaceInSeconds}},
-        Row{Page::Video, {constVideoDVDSpaceInSeconds, constVideoBRSpaceInSeconds, 0}},
-        Row{Page::Data, {constDataCDSpaceInKBytes, constDataDVDSpaceInKBytes, constDataBRSpaceInKBytes}},
+        Row{ Page::Audio,
+            { constAudioCDCDASpaceInSeconds, constAudioCDMP3SpaceInSeconds,
+                constAudioDVDMP3SpaceInSeconds } },
+        Row{ Page::Video, { constVideoDVDSpaceInSeconds, constVideoBRSpaceInSeconds, 0 } },
+        Row{ Page::Data, { constDataCDSpaceInKBytes, constDataDVDSpaceInKBytes, constDataBRSpaceInKBytes } },
     };
     for (const Row &row : rows) {
         if (row.page == page && kind >= 0 && kind < static_cast<qint64>(row.kinds.size()))
@@ -32,8 +33,8 @@ GaugeBars gaugeBars(qint64 percent, double width)
 {
     const auto whole = [](double units) { return static_cast<qint32>(qBound(0.0, units, 1e9)); };
     if (percent > 89)
-        return {whole(width * 90 / 100), whole(static_cast<double>(percent - 90) * width / 100)};
-    return {whole(static_cast<double>(percent) * width / 100), 0};
+        return { whole(width * 90 / 100), whole(static_cast<double>(percent - 90) * width / 100) };
+    return { whole(static_cast<double>(percent) * width / 100), 0 };
 }
 
 } // namespace compilation

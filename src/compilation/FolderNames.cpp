@@ -5,7 +5,6 @@
 #include <QFile>
 
 #include <algorithm>
-
 #include <dirent.h>
 
 namespace compilation {
@@ -23,7 +22,7 @@ FolderNames namesIn(const QString &folder)
         if (name.isValidUtf8())
             found.names.append(QString::fromUtf8(name));
         else
-            found.unreadable.append({name.toByteArray(), entry->d_type == DT_DIR});
+            found.unreadable.append({ name.toByteArray(), entry->d_type == DT_DIR });
     }
     ::closedir(stream);
     return found;
@@ -31,9 +30,10 @@ FolderNames namesIn(const QString &folder)
 
 int unreadableFiles(const FolderNames &found, const QStringList &extensions, Qt::CaseSensitivity sensitivity)
 {
-    return static_cast<int>(std::ranges::count_if(found.unreadable, [&](const FolderNames::Unreadable &entry) {
-        return extensions.contains(pathExtension(QString::fromUtf8(entry.name)), sensitivity);
-    }));
+    return static_cast<int>(
+        std::ranges::count_if(found.unreadable, [&](const FolderNames::Unreadable &entry) {
+            return extensions.contains(pathExtension(QString::fromUtf8(entry.name)), sensitivity);
+        }));
 }
 
 bool isReadable(const QUrl &url)

@@ -2,13 +2,12 @@
 
 #include <cerrno>
 #include <cstring>
-#include <memory>
-#include <system_error>
-#include <utility>
-
 #include <dirent.h>
 #include <fcntl.h>
+#include <memory>
+#include <system_error>
 #include <unistd.h>
+#include <utility>
 
 namespace compilation {
 
@@ -24,7 +23,10 @@ TreeCursor::Level TreeCursor::opened(int at, const char *name, int flags)
     return level;
 }
 
-TreeCursor::TreeCursor(const std::string &path) : m_levels{opened(AT_FDCWD, path.c_str(), 0)} {}
+TreeCursor::TreeCursor(const std::string &path)
+    : m_levels{ opened(AT_FDCWD, path.c_str(), 0) }
+{
+}
 
 TreeCursor::~TreeCursor()
 {
@@ -79,9 +81,10 @@ int TreeCursor::list(std::vector<Entry> &found) const
         bool isFolder = entry->d_type == DT_DIR;
         if (entry->d_type == DT_UNKNOWN) {
             struct stat info;
-            isFolder = ::fstatat(fd(), entry->d_name, &info, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(info.st_mode);
+            isFolder =
+                ::fstatat(fd(), entry->d_name, &info, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(info.st_mode);
         }
-        found.push_back({entry->d_name, isFolder});
+        found.push_back({ entry->d_name, isFolder });
         errno = 0;
     }
     return errno;
@@ -131,16 +134,19 @@ public:
             total += static_cast<std::uint64_t>(info.st_size);
         return entry.isFolder && at.enter(entry.name);
     }
-    void left(const std::string &) override {}
-    void unreadable(int) override {}
+    void left(const std::string &) override { }
+    void unreadable(int) override { }
 
     std::uint64_t total = 0;
 };
 
 class Emptying : public TreeVisitor {
 public:
-    Emptying(TreeCursor &cursor, const std::string &path, const std::function<void(const std::string &)> &failed)
-        : TreeVisitor(cursor), m_path(path), m_failed(failed)
+    Emptying(
+        TreeCursor &cursor, const std::string &path, const std::function<void(const std::string &)> &failed)
+        : TreeVisitor(cursor)
+        , m_path(path)
+        , m_failed(failed)
     {
     }
 

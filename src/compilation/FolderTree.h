@@ -5,9 +5,8 @@
 #include <cstdint>
 #include <functional>
 #include <string>
-#include <vector>
-
 #include <sys/stat.h>
+#include <vector>
 
 namespace compilation {
 
@@ -59,7 +58,10 @@ private:
 /// What is done on a walk through a tree.
 class TreeVisitor {
 public:
-    explicit TreeVisitor(TreeCursor &cursor) : at(cursor) {}
+    explicit TreeVisitor(TreeCursor &cursor)
+        : at(cursor)
+    {
+    }
     TreeVisitor(const TreeVisitor &) = delete;
     TreeVisitor &operator=(const TreeVisitor &) = delete;
     virtual ~TreeVisitor() = default;

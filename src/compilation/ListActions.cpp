@@ -16,15 +16,14 @@
 #include <QProgressBar>
 #include <QThreadPool>
 
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-const QStringList audioExtensions{u"wma"_s, u"wav"_s, u"cda"_s, u"mp3"_s, u"mp2"_s, u"mpga"_s, u"m4a"_s};
-const QStringList videoExtensions{u"wmv"_s,  u"mov"_s, u"mpg"_s,    u"mpeg"_s, u"mpe"_s, u"avi"_s,
-                                  u"asf"_s,  u"asx"_s, u"qt"_s,     u"mp4"_s,  u"mpeg-4"_s, u"flv"_s,
-                                  u"ts"_s,   u"3gp"_s, u"fli"_s,    u"m1v"_s,  u"m2v"_s, u"mjpg"_s};
+const QStringList audioExtensions{ u"wma"_s, u"wav"_s, u"cda"_s, u"mp3"_s, u"mp2"_s, u"mpga"_s, u"m4a"_s };
+const QStringList videoExtensions{ u"wmv"_s, u"mov"_s, u"mpg"_s, u"mpeg"_s, u"mpe"_s, u"avi"_s, u"asf"_s,
+    u"asx"_s, u"qt"_s, u"mp4"_s, u"mpeg-4"_s, u"flv"_s, u"ts"_s, u"3gp"_s, u"fli"_s, u"m1v"_s, u"m2v"_s,
+    u"mjpg"_s };
 
 /// The names of what was refused, one a line, as many as an alert shows at a glance.
 QString namesOf(const QList<QUrl> &urls)
@@ -46,7 +45,7 @@ QString namesOf(const QList<QUrl> &urls)
 QString AppDelegate::GetMediaFileDuration(const QString &path)
 {
     // Without an output file to write, a report of the input is followed by an error and status 1.
-    runner::ToolRun report(sffmpegPath, {u"-i"_s, path}, activityLog);
+    runner::ToolRun report(sffmpegPath, { u"-i"_s, path }, activityLog);
     report.setExpectedStatus(1);
     return compilation::durationText(report.capture(around.probeLimit));
 }
@@ -71,7 +70,8 @@ void AppDelegate::pickMediaFiles(ListKind kind)
     OpenPanel panel;
     panel.several = true;
     panel.extensions = acceptedExtensions(kind);
-    panel.message = kind == ListKind::Audio ? tr("Add audio files to the list") : tr("Add video files to the list");
+    panel.message =
+        kind == ListKind::Audio ? tr("Add audio files to the list") : tr("Add video files to the list");
     addMediaFiles(kind, around.questions->choose(panel, window));
 }
 
@@ -98,7 +98,9 @@ QList<QUrl> AppDelegate::mediaIn(ListKind kind, const QString &folder)
     const compilation::FolderNames found = compilation::namesIn(folder);
     if (const int unreadable = compilation::unreadableFiles(found, accepted, Qt::CaseSensitive)) {
         alert(tr("%n file(s) cannot be listed", nullptr, unreadable),
-              tr("Their names in the folder “%1” are not valid UTF-8 text. Rename them and add the folder again.").arg(folder));
+            tr("Their names in the folder “%1” are not valid UTF-8 text. Rename them and add the folder "
+               "again.")
+                .arg(folder));
     }
     // Two slashes at the start of a path would make a host of its first name.
     const QString place = folder.endsWith(u'/') ? folder : folder + u'/';
@@ -128,10 +130,13 @@ void AppDelegate::addMediaFiles(ListKind kind, const QList<QUrl> &urls)
             NodeMediaFile record = compilation::mediaRecord(url, path);
             record.s_Duration = GetMediaFileDuration(path);
             record.i_Duration_in_Seconds = Return_Seconds_From_Duration_Str(record.s_Duration);
-            QMetaObject::invokeMethod(this, [this, kind, records, record, count = urls.size()] {
-                records->append(record);
-                mediaFileMeasured(kind, *records, count);
-            }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this,
+                [this, kind, records, record, count = urls.size()] {
+                    records->append(record);
+                    mediaFileMeasured(kind, *records, count);
+                },
+                Qt::QueuedConnection);
         }
     });
 }
@@ -209,16 +214,18 @@ void AppDelegate::addDroppedFiles(const QList<QUrl> &urls)
     QList<QUrl> taken, refused, unreadable;
     for (const QUrl &url : urls) {
         const bool isFolder = url.isLocalFile() && QFileInfo(url.toLocalFile()).isDir();
-        const QList<QUrl> inside = tab != 2 && isFolder ? mediaIn(kind, QDir::cleanPath(url.toLocalFile())) : QList<QUrl>();
+        const QList<QUrl> inside =
+            tab != 2 && isFolder ? mediaIn(kind, QDir::cleanPath(url.toLocalFile())) : QList<QUrl>();
         if (!inside.isEmpty())
             taken.append(inside);
         else
             (listTakes(tab, url) ? taken : compilation::isReadable(url) ? refused : unreadable).append(url);
     }
     if (!refused.isEmpty()) {
-        const QString rule = tab == 2 ? tr("This list takes folders.")
-                                      : tr("This list takes files that end in %1, and folders with such files in them.")
-                                            .arg(acceptedExtensions(kind).join(u", "_s));
+        const QString rule = tab == 2
+            ? tr("This list takes folders.")
+            : tr("This list takes files that end in %1, and folders with such files in them.")
+                  .arg(acceptedExtensions(kind).join(u", "_s));
         alert(tr("Not everything can go on this list"), rule + u"\n\n"_s + namesOf(refused));
     }
     if (!unreadable.isEmpty())

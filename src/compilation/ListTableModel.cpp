@@ -3,7 +3,9 @@
 #include "app/AppDelegate.h"
 
 ListTableModel::ListTableModel(Kind kind, const AppDelegate *controller, QObject *parent)
-    : QAbstractTableModel(parent), m_kind(kind), m_controller(controller)
+    : QAbstractTableModel(parent)
+    , m_kind(kind)
+    , m_controller(controller)
 {
 }
 
@@ -17,8 +19,8 @@ int ListTableModel::rowCount(const QModelIndex &parent) const
 {
     if (parent.isValid())
         return 0;
-    return static_cast<int>(m_kind == Kind::Media ? m_controller->arrayMediaFiles.size()
-                                                  : m_controller->arrayDataFolders.size());
+    return static_cast<int>(
+        m_kind == Kind::Media ? m_controller->arrayMediaFiles.size() : m_controller->arrayDataFolders.size());
 }
 
 int ListTableModel::columnCount(const QModelIndex &parent) const
@@ -92,7 +94,8 @@ QVariant ListTableModel::data(const QModelIndex &index, int role) const
     case Qt::ToolTipRole:
         return toolTip(index.row());
     case Qt::TextAlignmentRole:
-        return QVariant::fromValue(Qt::AlignVCenter | (isNumber(index.column()) ? Qt::AlignRight : Qt::AlignLeft));
+        return QVariant::fromValue(
+            Qt::AlignVCenter | (isNumber(index.column()) ? Qt::AlignRight : Qt::AlignLeft));
     default:
         return {};
     }
@@ -108,6 +111,6 @@ QVariant ListTableModel::headerData(int section, Qt::Orientation orientation, in
         return {};
     if (m_kind == Kind::Data)
         return section == DataFolder ? tr("Folder") : tr("Size");
-    const QStringList headings{tr("File"), tr("Duration"), tr("Size"), tr("Path")};
+    const QStringList headings{ tr("File"), tr("Duration"), tr("Size"), tr("Path") };
     return headings.at(section);
 }

@@ -26,7 +26,8 @@ public:
 
 } // namespace
 
-ListTableView::ListTableView(QWidget *parent) : QTableView(parent)
+ListTableView::ListTableView(QWidget *parent)
+    : QTableView(parent)
 {
     auto *roomy = new RoomyStyle;
     roomy->setParent(this);
@@ -63,8 +64,9 @@ void ListTableView::setGround(const QColor &ground)
     // Lightening leaves black as it is, so the second ground is a mixture with the text.
     const QColor text = isDark ? Qt::white : Qt::black;
     const auto mixed = [](int a, int b) { return (a * 15 + b) / 16; };
-    colours.setColor(QPalette::AlternateBase, QColor(mixed(ground.red(), text.red()), mixed(ground.green(), text.green()),
-                                                     mixed(ground.blue(), text.blue())));
+    colours.setColor(QPalette::AlternateBase,
+        QColor(mixed(ground.red(), text.red()), mixed(ground.green(), text.green()),
+            mixed(ground.blue(), text.blue())));
     colours.setColor(QPalette::Text, text);
     setPalette(colours);
 }
@@ -89,7 +91,8 @@ void ListTableView::selectRows(const QList<int> &rows)
     for (qsizetype first = 0, last = 0; first < rows.size(); first = ++last) {
         while (last + 1 < rows.size() && rows.at(last + 1) == rows.at(last) + 1)
             ++last;
-        selection.append({model()->index(rows.at(first), 0), model()->index(rows.at(last), model()->columnCount() - 1)});
+        selection.append(
+            { model()->index(rows.at(first), 0), model()->index(rows.at(last), model()->columnCount() - 1) });
     }
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     if (!rows.isEmpty())
@@ -120,7 +123,8 @@ void ListTableView::paintEvent(QPaintEvent *event)
     QColor hint = palette().color(QPalette::Text);
     hint.setAlphaF(0.7F);
     painter.setPen(hint);
-    painter.drawText(viewport()->rect().adjusted(16, 16, -16, -16), Qt::AlignCenter | Qt::TextWordWrap, m_emptyHint);
+    painter.drawText(
+        viewport()->rect().adjusted(16, 16, -16, -16), Qt::AlignCenter | Qt::TextWordWrap, m_emptyHint);
 }
 
 void ListTableView::keyPressEvent(QKeyEvent *event)

@@ -21,7 +21,8 @@ namespace {
 /// hours:minutes:seconds, as many fields as the time needs.
 QString timeText(qint64 seconds)
 {
-    const QString rest = u"%1:%2"_s.arg(seconds / 60 % 60, 2, 10, QChar(u'0')).arg(seconds % 60, 2, 10, QChar(u'0'));
+    const QString rest =
+        u"%1:%2"_s.arg(seconds / 60 % 60, 2, 10, QChar(u'0')).arg(seconds % 60, 2, 10, QChar(u'0'));
     return seconds < 3600 ? rest : u"%1:%2"_s.arg(seconds / 3600).arg(rest);
 }
 
@@ -39,7 +40,7 @@ qsizetype AppDelegate::numberOfRowsInTableView(const ListTableView *table) const
 
 ListTableView *AppDelegate::selectedTable() const
 {
-    const std::array tables{ui->tableviewAudioFiles, ui->tableviewVideoFiles, ui->tableviewDataFolders};
+    const std::array tables{ ui->tableviewAudioFiles, ui->tableviewVideoFiles, ui->tableviewDataFolders };
     const auto tab = static_cast<std::size_t>(ui->tabviewMain->currentIndex());
     return tab < tables.size() ? tables[tab] : nullptr;
 }
@@ -102,10 +103,11 @@ void AppDelegate::PaintSpaceOccupiedControl()
         qint64 kind;
     };
     const QString page = selectedPage();
-    const Measure measure = page == "1"_L1 ? Measure{Page::Audio, i_Audio_Total_Duration_in_Seconds, i_Audio_Type}
-        : page == "2"_L1                   ? Measure{Page::Video, i_Video_Total_Duration_in_Seconds, i_Video_Type}
-        : page == "3"_L1                   ? Measure{Page::Data, i_Data_Total_Size_in_KBytes, i_Data_Type}
-                                           : Measure{Page::Audio, 0, -1};
+    const Measure measure = page == "1"_L1
+        ? Measure{ Page::Audio, i_Audio_Total_Duration_in_Seconds, i_Audio_Type }
+        : page == "2"_L1 ? Measure{ Page::Video, i_Video_Total_Duration_in_Seconds, i_Video_Type }
+        : page == "3"_L1 ? Measure{ Page::Data, i_Data_Total_Size_in_KBytes, i_Data_Type }
+                         : Measure{ Page::Audio, 0, -1 };
     const qint32 capacity = compilation::capacity(measure.page, measure.kind);
     const qint64 percent = compilation::percentage(static_cast<quint64>(measure.total), capacity);
     ui->spaceoccupiedviewControl->setI_Percentage(percent);
@@ -116,8 +118,8 @@ void AppDelegate::PaintSpaceOccupiedControl()
 
 void AppDelegate::tableView_sortDescriptorsDidChange(ListTableView *table)
 {
-    const std::array flags{&AppDelegate::m_b_Col1_Ascenging, &AppDelegate::m_b_Col2_Ascenging,
-                           &AppDelegate::m_b_Col3_Ascenging, &AppDelegate::m_b_Col4_Ascenging};
+    const std::array flags{ &AppDelegate::m_b_Col1_Ascenging, &AppDelegate::m_b_Col2_Ascenging,
+        &AppDelegate::m_b_Col3_Ascenging, &AppDelegate::m_b_Col4_Ascenging };
     const auto *model = static_cast<const ListTableModel *>(table->model());
     const int column = table->selectedColumn();
     QList<int> selected = table->selectedRows();
@@ -128,7 +130,8 @@ void AppDelegate::tableView_sortDescriptorsDidChange(ListTableView *table)
         for (int other = 0; other < model->columnCount(); ++other)
             this->*flags.at(static_cast<std::size_t>(other)) = other == column && !ascending;
         table->horizontalHeader()->setSortIndicatorShown(true);
-        table->horizontalHeader()->setSortIndicator(column, ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
+        table->horizontalHeader()->setSortIndicator(
+            column, ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
     }
     refreshTable(table);
     table->selectRows(selected);
@@ -136,7 +139,8 @@ void AppDelegate::tableView_sortDescriptorsDidChange(ListTableView *table)
 
 void AppDelegate::forgetSorting()
 {
-    for (const ListTableView *table : {ui->tableviewAudioFiles, ui->tableviewVideoFiles, ui->tableviewDataFolders})
+    for (const ListTableView *table :
+        { ui->tableviewAudioFiles, ui->tableviewVideoFiles, ui->tableviewDataFolders })
         table->horizontalHeader()->setSortIndicatorShown(false);
 }
 

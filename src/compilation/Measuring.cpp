@@ -37,13 +37,15 @@ qint64 lenientNumber(QStringView field)
 qint64 secondsFromDurationText(const QString &duration)
 {
     const QStringView text(duration);
-    const auto field = [text](qsizetype at) { return lenientNumber(at < text.size() ? text.mid(at, 2) : QStringView()); };
+    const auto field = [text](qsizetype at) {
+        return lenientNumber(at < text.size() ? text.mid(at, 2) : QStringView());
+    };
     return field(1) * 3600 + field(4) * 60 + field(7);
 }
 
 QString sizeText(quint64 bytes)
 {
-    constexpr std::array units{"bytes", "KB", "MB", "GB", "TB"};
+    constexpr std::array units{ "bytes", "KB", "MB", "GB", "TB" };
     auto value = static_cast<double>(bytes);
     std::size_t unit = 0;
     if (bytes >= 1025) {
@@ -89,7 +91,7 @@ NodeMediaFile mediaRecord(const QUrl &url, const QString &path)
 
 NodeDataFolder folderRecord(const QString &path, quint64 bytes)
 {
-    return {path, static_cast<qint64>(bytes >> 10), sizeText(bytes)};
+    return { path, static_cast<qint64>(bytes >> 10), sizeText(bytes) };
 }
 
 } // namespace compilation

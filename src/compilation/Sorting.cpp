@@ -31,7 +31,10 @@ struct Part {
     Keys keys;
     std::vector<qsizetype> order; ///< positions among all texts
 
-    const QCollatorSortKey &key(qsizetype position) const { return keys[static_cast<std::size_t>(position - first)]; }
+    const QCollatorSortKey &key(qsizetype position) const
+    {
+        return keys[static_cast<std::size_t>(position - first)];
+    }
 };
 
 bool precedes(const QCollatorSortKey &a, const QCollatorSortKey &b, bool ascending)
@@ -71,7 +74,7 @@ QList<qsizetype> sortedOrder(const QStringList &texts, bool ascending)
     QList<qsizetype> order;
     order.reserve(texts.size());
     std::ranges::merge(head.order, tail.order, std::back_inserter(order),
-                       [&](qsizetype a, qsizetype b) { return precedes(key(a), key(b), ascending); });
+        [&](qsizetype a, qsizetype b) { return precedes(key(a), key(b), ascending); });
     return order;
 }
 

@@ -5,7 +5,8 @@
 #include <QLinearGradient>
 #include <QPainter>
 
-SpaceOccupiedView::SpaceOccupiedView(QWidget *parent) : QWidget(parent)
+SpaceOccupiedView::SpaceOccupiedView(QWidget *parent)
+    : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }

@@ -19,8 +19,8 @@ public:
     /// Where the bar's colour comes from; asked at every redraw, on the GUI thread.
     void setColourSource(std::function<QColor()> source) { m_colour = std::move(source); }
 
-    QSize sizeHint() const override { return {200, 20}; }
-    QSize minimumSizeHint() const override { return {80, 16}; }
+    QSize sizeHint() const override { return { 200, 20 }; }
+    QSize minimumSizeHint() const override { return { 80, 16 }; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -35,14 +35,15 @@ QList<Object_Optical_Drive> parseList(const QString &listing)
         if (line.isEmpty())
             break;
         if (!std::exchange(isHeader, false))
-            drives.append({line.left(1).toString(), trimmedColumn(line, 3, 9), trimmedColumn(line, 12, 18)});
+            drives.append(
+                { line.left(1).toString(), trimmedColumn(line, 3, 9), trimmedColumn(line, 12, 18) });
     }
     return drives;
 }
 
 Choice choose(const QList<Object_Optical_Drive> &listed, const QString &remembered)
 {
-    Choice choice{{}, {}, QList<bool>(slotCount, false)};
+    Choice choice{ {}, {}, QList<bool>(slotCount, false) };
     QString wanted = remembered;
     bool found = false;
     for (int index = 0; index < listed.size(); ++index) {

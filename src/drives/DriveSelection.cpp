@@ -16,8 +16,8 @@ using Slots = std::array<QAction *, drives::slotCount>;
 
 Slots slotItems(const Ui::MainWindow *ui)
 {
-    return {ui->submenuItemDriveSlot1, ui->submenuItemDriveSlot2, ui->submenuItemDriveSlot3,
-            ui->submenuItemDriveSlot4, ui->submenuItemDriveSlot5, ui->submenuItemDriveSlot6};
+    return { ui->submenuItemDriveSlot1, ui->submenuItemDriveSlot2, ui->submenuItemDriveSlot3,
+        ui->submenuItemDriveSlot4, ui->submenuItemDriveSlot5, ui->submenuItemDriveSlot6 };
 }
 
 QString menuText(const Object_Optical_Drive &drive)
@@ -29,10 +29,10 @@ QString menuText(const Object_Optical_Drive &drive)
 
 void AppDelegate::Load_List_Of_Optical_Drives()
 {
-    const QByteArray listing = captureTool(around.drutil, {u"list"_s});
+    const QByteArray listing = captureTool(around.drutil, { u"list"_s });
     array_Optical_Media_Drives = drives::parseList(QString::fromUtf8(listing));
-    const drives::Choice choice
-        = drives::choose(array_Optical_Media_Drives, preference(preferences::lastDrive));
+    const drives::Choice choice =
+        drives::choose(array_Optical_Media_Drives, preference(preferences::lastDrive));
     if (!choice.number.isEmpty())
         s_Current_Drive_Number = choice.number;
     if (!choice.remember.isEmpty())
@@ -107,24 +107,27 @@ void AppDelegate::offerVirtualDrive()
 {
     const bool isVirtual = isVirtualRecorderSelected();
     ui->submenuInsertBlank->menuAction()->setVisible(isVirtual);
-    for (QAction *item : {ui->menuitemVirtualSeparator, ui->menuitemRemoveDisc, ui->menuitemShowWrittenDiscs})
+    for (QAction *item :
+        { ui->menuitemVirtualSeparator, ui->menuitemRemoveDisc, ui->menuitemShowWrittenDiscs })
         item->setVisible(isVirtual);
 }
 
 void AppDelegate::OnMenuDriveInsertBlank(const QString &kind)
 {
     runner::ToolEnd end;
-    const QByteArray said
-        = captureTool(around.drutil, {u"insert"_s, kind, u"-drive"_s, s_Current_Drive_Number}, &end);
+    const QByteArray said =
+        captureTool(around.drutil, { u"insert"_s, kind, u"-drive"_s, s_Current_Drive_Number }, &end);
     if (end.troubled())
-        alert(tr("The disc could not be changed"), said.isEmpty() ? end.text() : QString::fromUtf8(said).trimmed());
+        alert(tr("The disc could not be changed"),
+            said.isEmpty() ? end.text() : QString::fromUtf8(said).trimmed());
 }
 
 void AppDelegate::OnMenuDriveShowDiscs()
 {
     runner::ToolEnd end;
     const QString said = QString::fromUtf8(
-        captureTool(around.drutil, {u"folder"_s, u"-drive"_s, s_Current_Drive_Number}, &end)).trimmed();
+        captureTool(around.drutil, { u"folder"_s, u"-drive"_s, s_Current_Drive_Number }, &end))
+                             .trimmed();
     if (end.troubled() || !QDesktopServices::openUrl(QUrl::fromLocalFile(said)))
         alert(tr("The folder of written discs could not be opened"), said);
 }

@@ -6,7 +6,8 @@ using namespace Qt::StringLiterals;
 
 QString AppDelegate::driveStatus()
 {
-    return QString::fromUtf8(captureTool(around.drutil, {u"status"_s, u"-drive"_s, s_Current_Drive_Number}));
+    return QString::fromUtf8(
+        captureTool(around.drutil, { u"status"_s, u"-drive"_s, s_Current_Drive_Number }));
 }
 
 bool AppDelegate::IsDriveEmpty()

@@ -21,7 +21,7 @@ bool saysErasable(const QString &status)
 
 QString mediaType(const QString &status)
 {
-    for (const auto type : {"DVD"_L1, "CD"_L1, "BD"_L1}) {
+    for (const auto type : { "DVD"_L1, "CD"_L1, "BD"_L1 }) {
         if (status.contains(type))
             return type;
     }

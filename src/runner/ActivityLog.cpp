@@ -21,7 +21,8 @@ QString shellWord(const QString &word)
 /// after the reason.
 QString lastReason(const QByteArray &output)
 {
-    static const QRegularExpression summary(u"^(Conversion failed!|(size|frame)= *\\d.*|video:\\S+ audio:.*)$"_s);
+    static const QRegularExpression summary(
+        u"^(Conversion failed!|(size|frame)= *\\d.*|video:\\S+ audio:.*)$"_s);
     constexpr qsizetype most = 300;
     for (QByteArrayView rest = QByteArrayView(output).trimmed(); !rest.isEmpty();) {
         const qsizetype start = qMax(rest.lastIndexOf('\n'), rest.lastIndexOf('\r')) + 1;
@@ -49,7 +50,8 @@ qsizetype ActivityLog::begin(const QString &program, const QStringList &argument
     {
         const QMutexLocker lock(&m_mutex);
         position = m_activities.size();
-        m_activities.append({QDateTime::currentDateTime(), QStringList(program) + arguments, subject, {}, false, {}, 0});
+        m_activities.append(
+            { QDateTime::currentDateTime(), QStringList(program) + arguments, subject, {}, false, {}, 0 });
     }
     Q_EMIT changed();
     return position;
@@ -81,7 +83,7 @@ void ActivityLog::note(const QString &text, const QString &detail)
 {
     {
         const QMutexLocker lock(&m_mutex);
-        m_activities.append({QDateTime::currentDateTime(), {}, {}, text, true, detail.toUtf8(), 0});
+        m_activities.append({ QDateTime::currentDateTime(), {}, {}, text, true, detail.toUtf8(), 0 });
     }
     Q_EMIT changed();
 }
@@ -110,7 +112,8 @@ QStringList ActivityLog::troublesSince(qsizetype position) const
             troubles.append(activity.outcome + u": "_s + said);
             continue;
         }
-        const QString what = activity.subject.isEmpty() ? QFileInfo(activity.command.first()).fileName() : activity.subject;
+        const QString what =
+            activity.subject.isEmpty() ? QFileInfo(activity.command.first()).fileName() : activity.subject;
         const bool named = !activity.subject.isEmpty() && said.contains(activity.subject);
         troubles.append((named ? QString() : what + u": "_s) + (said.isEmpty() ? activity.outcome : said));
     }
@@ -125,7 +128,8 @@ QString ActivityLog::text(const Activity &activity)
     text += (activity.outcome.isEmpty() ? tr("is running") : activity.outcome) + u'\n';
     text += QString::fromUtf8(activity.output);
     if (activity.leftOut > 0)
-        text += tr("\n(%n more bytes of output are not kept)\n", nullptr, static_cast<int>(qMin<qint64>(activity.leftOut, INT_MAX)));
+        text += tr("\n(%n more bytes of output are not kept)\n", nullptr,
+            static_cast<int>(qMin<qint64>(activity.leftOut, INT_MAX)));
     return text.endsWith(u'\n') ? text : text + u'\n';
 }
 

@@ -10,7 +10,8 @@ quint64 Return_Seconds_From_VOB_Duration_Str(const QString &time)
 {
     const QStringView text(time);
     const auto field = [text](qsizetype at) {
-        return static_cast<quint64>(compilation::lenientNumber(at < text.size() ? text.mid(at, 2) : QStringView()));
+        return static_cast<quint64>(
+            compilation::lenientNumber(at < text.size() ? text.mid(at, 2) : QStringView()));
     };
     return field(0) * 3600 + field(3) * 60 + field(6);
 }

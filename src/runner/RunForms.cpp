@@ -20,7 +20,8 @@ using runner::ToolRun;
 
 Q_LOGGING_CATEGORY(tools, "corvalis.tools", QtWarningMsg)
 
-QByteArray AppDelegate::captureTool(const QString &program, const QStringList &arguments, runner::ToolEnd *end)
+QByteArray AppDelegate::captureTool(
+    const QString &program, const QStringList &arguments, runner::ToolEnd *end)
 {
     ToolRun run(program, arguments, activityLog);
     // No answer is longer; a flood would be taken for a million drives.
@@ -43,7 +44,8 @@ void AppDelegate::removeObservers()
     observed = nullptr;
 }
 
-void AppDelegate::runInBackground(const QString &program, const QStringList &arguments, Observer atEnd, Output output)
+void AppDelegate::runInBackground(
+    const QString &program, const QStringList &arguments, Observer atEnd, Output output)
 {
     removeObservers();
     auto *run = new ToolRun(program, arguments, activityLog, this);
@@ -97,7 +99,8 @@ void AppDelegate::showProgress(const QString &piece)
     if (seconds && windowProgress) {
         // A percentage on a bar whose maximum is the file's duration in seconds: a short file's bar
         // is full before its end, a long one's never is.
-        showOnBar(windowProgress->progressBar(), runner::progressPercent(*seconds, i_Orig_Duration_in_Seconds));
+        showOnBar(
+            windowProgress->progressBar(), runner::progressPercent(*seconds, i_Orig_Duration_in_Seconds));
     }
 }
 

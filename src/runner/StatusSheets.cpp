@@ -16,12 +16,14 @@ using namespace Qt::StringLiterals;
 
 void showOnBar(QProgressBar *bar, double value)
 {
-    const double shown = std::isnan(value) ? bar->minimum() : qBound<double>(bar->minimum(), value, bar->maximum());
+    const double shown =
+        std::isnan(value) ? bar->minimum() : qBound<double>(bar->minimum(), value, bar->maximum());
     bar->setValue(static_cast<int>(shown));
 }
 
 Window_Progress::Window_Progress(AppDelegate *controller, QWidget *parent)
-    : Sheet(parent, Dismiss::ByProgramOnly), m_ui(std::make_unique<Ui::Window_Progress>())
+    : Sheet(parent, Dismiss::ByProgramOnly)
+    , m_ui(std::make_unique<Ui::Window_Progress>())
 {
     m_ui->setupUi(this);
     connect(this, &Sheet::quitRequested, controller, &AppDelegate::OnMenuQuit);
@@ -48,13 +50,15 @@ void Window_Progress::showItem(const QString &name, qint64 seconds)
 {
     constexpr int width = 360;
     m_ui->labelItem->setTextFormat(Qt::PlainText);
-    m_ui->labelItem->setText(m_ui->labelItem->fontMetrics().elidedText(QString(name).simplified(), Qt::ElideMiddle, width));
+    m_ui->labelItem->setText(
+        m_ui->labelItem->fontMetrics().elidedText(QString(name).simplified(), Qt::ElideMiddle, width));
     m_ui->progressBar->setRange(0, static_cast<int>(qMin<qint64>(seconds, INT_MAX)));
     m_ui->progressBar->setValue(0);
 }
 
 Window_Unique_Progress::Window_Unique_Progress(AppDelegate *controller, QWidget *parent)
-    : Sheet(parent, Dismiss::ByProgramOnly), m_ui(std::make_unique<Ui::Window_Unique_Progress>())
+    : Sheet(parent, Dismiss::ByProgramOnly)
+    , m_ui(std::make_unique<Ui::Window_Unique_Progress>())
 {
     m_ui->setupUi(this);
     connect(this, &Sheet::quitRequested, controller, &AppDelegate::OnMenuQuit);
@@ -68,7 +72,8 @@ QProgressBar *Window_Unique_Progress::progressBar() const
 }
 
 Window_Performing_Operation::Window_Performing_Operation(AppDelegate *controller, QWidget *parent)
-    : Sheet(parent, Dismiss::ByProgramOnly), m_ui(std::make_unique<Ui::Window_Performing_Operation>())
+    : Sheet(parent, Dismiss::ByProgramOnly)
+    , m_ui(std::make_unique<Ui::Window_Performing_Operation>())
 {
     m_ui->setupUi(this);
     connect(this, &Sheet::quitRequested, controller, &AppDelegate::OnMenuQuit);
@@ -112,7 +117,9 @@ QString Window_Performing_Operation::newestLine() const
 }
 
 Window_Operation_Terminated::Window_Operation_Terminated(AppDelegate *controller, QWidget *parent)
-    : Sheet(parent, Dismiss::ByPerson), m_controller(controller), m_ui(std::make_unique<Ui::Window_Operation_Terminated>())
+    : Sheet(parent, Dismiss::ByPerson)
+    , m_controller(controller)
+    , m_ui(std::make_unique<Ui::Window_Operation_Terminated>())
 {
     m_ui->setupUi(this);
     connect(this, &Sheet::quitRequested, controller, &AppDelegate::OnMenuQuit);
@@ -127,7 +134,8 @@ Window_Operation_Terminated::~Window_Operation_Terminated() = default;
 void Window_Operation_Terminated::showOutcome()
 {
     const QStringList troubles = m_controller->activityLog->troublesSince(m_controller->jobStart);
-    const QIcon icon = symbolIcon(troubles.isEmpty() ? u"success"_s : u"warning"_s, palette().color(QPalette::WindowText));
+    const QIcon icon =
+        symbolIcon(troubles.isEmpty() ? u"success"_s : u"warning"_s, palette().color(QPalette::WindowText));
     m_ui->labelIcon->setPixmap(icon.pixmap(QSize(32, 32), devicePixelRatioF()));
     m_ui->labelDescription->setTextFormat(Qt::PlainText);
     m_ui->labelDescription->setVisible(!troubles.isEmpty());

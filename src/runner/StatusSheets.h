@@ -14,7 +14,7 @@ class Window_Operation_Terminated;
 class Window_Performing_Operation;
 class Window_Progress;
 class Window_Unique_Progress;
-}
+} // namespace Ui
 
 /// Puts a value on a bar whose maximum is in another unit: beyond the ends it stands at the end, and
 /// what is not a number counts as the beginning.

@@ -13,7 +13,8 @@ QString ToolEnd::text() const
 {
     switch (how) {
     case How::Ended:
-        return code == 0 ? QObject::tr("ended without an error") : QObject::tr("ended with status %1").arg(code);
+        return code == 0 ? QObject::tr("ended without an error")
+                         : QObject::tr("ended with status %1").arg(code);
     case How::CouldNotStart:
         return QObject::tr("could not be started: %1").arg(reason);
     case How::Crashed:
@@ -25,7 +26,8 @@ QString ToolEnd::text() const
 }
 
 ToolRun::ToolRun(const QString &program, const QStringList &arguments, ActivityLog *log, QObject *parent)
-    : QProcess(parent), m_log(log)
+    : QProcess(parent)
+    , m_log(log)
 {
     setProgram(program);
     setArguments(arguments);
@@ -47,7 +49,8 @@ void ToolRun::launch()
     connect(this, &QProcess::finished, this, [this] { finish(endOfChild()); });
     connect(this, &QProcess::errorOccurred, this, [this](ProcessError error) {
         if (error == FailedToStart)
-            QMetaObject::invokeMethod(this, [this] { finish(endOfChild()); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this] { finish(endOfChild()); }, Qt::QueuedConnection);
     });
     start(ReadOnly);
 }
@@ -70,7 +73,7 @@ QByteArray ToolRun::capture(int limit)
     }
     ToolEnd end = endOfChild();
     if (state() != NotRunning) {
-        end = {ToolEnd::How::EndedByUs, 0, {}};
+        end = { ToolEnd::How::EndedByUs, 0, {} };
         terminate();
         if (!waitForFinished(500)) {
             kill();
@@ -100,10 +103,10 @@ QByteArray ToolRun::output() const
 ToolEnd ToolRun::endOfChild() const
 {
     if (error() == FailedToStart)
-        return {ToolEnd::How::CouldNotStart, 0, errorString()};
+        return { ToolEnd::How::CouldNotStart, 0, errorString() };
     if (exitStatus() == CrashExit)
-        return {ToolEnd::How::Crashed, exitCode(), {}};
-    return {ToolEnd::How::Ended, exitCode(), {}};
+        return { ToolEnd::How::Crashed, exitCode(), {} };
+    return { ToolEnd::How::Ended, exitCode(), {} };
 }
 
 void ToolRun::finish(const ToolEnd &end)
@@ -116,7 +119,8 @@ void ToolRun::finish(const ToolEnd &end)
     if (processChannelMode() == SeparateChannels)
         take(StandardError);
     const bool troubled = end.troubled(m_expectedStatus);
-    m_log->end(m_position, !troubled && end.code != 0 ? tr("%1, as expected").arg(end.text()) : end.text(), troubled);
+    m_log->end(m_position, !troubled && end.code != 0 ? tr("%1, as expected").arg(end.text()) : end.text(),
+        troubled);
     Q_EMIT ended(end);
 }
 

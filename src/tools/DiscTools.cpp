@@ -26,31 +26,32 @@ void AppDelegate::eraseDisc(const QString &extent)
 {
     if (IsDriveEmpty()) {
         return alert(u"No disc"_s,
-                     u"There is no disc on the drive. insert a rewritable media on the drive and try again."_s);
+            u"There is no disc on the drive. insert a rewritable media on the drive and try again."_s);
     }
     if (!IsMediaReWritable()) {
         return alert(u"Media not rewritable"_s,
-                     u"The media on the drive is not rewritable. insert a rewritable media on the drive and try again."_s);
+            u"The media on the drive is not rewritable. insert a rewritable media on the drive and try again."_s);
     }
     beginJob();
-    runInBackground(around.drutil, {u"erase"_s, extent, u"-drive"_s, s_Current_Drive_Number},
-                    &AppDelegate::taskTerminated, Output::Observed);
+    runInBackground(around.drutil, { u"erase"_s, extent, u"-drive"_s, s_Current_Drive_Number },
+        &AppDelegate::taskTerminated, Output::Observed);
     Show_Window_Performing_Operation();
 }
 
 void AppDelegate::OnToolsEjectDisc()
 {
-    captureTool(around.drutil, {u"tray"_s, u"eject"_s, u"-drive"_s, s_Current_Drive_Number});
+    captureTool(around.drutil, { u"tray"_s, u"eject"_s, u"-drive"_s, s_Current_Drive_Number });
 }
 
 void AppDelegate::OnToolsLoadDisc()
 {
-    captureTool(around.drutil, {u"tray"_s, u"close"_s, u"-drive"_s, s_Current_Drive_Number});
+    captureTool(around.drutil, { u"tray"_s, u"close"_s, u"-drive"_s, s_Current_Drive_Number });
 }
 
 void AppDelegate::OnToolsDiscInfo()
 {
     if (IsDriveEmpty())
-        return alert(u"No disc"_s, u"There is no disc on the drive. Insert a media on the drive and try again."_s);
-    around.questions->ask({u"Disc Information"_s, driveStatus(), {u"OK"_s}, true}, window);
+        return alert(
+            u"No disc"_s, u"There is no disc on the drive. Insert a media on the drive and try again."_s);
+    around.questions->ask({ u"Disc Information"_s, driveStatus(), { u"OK"_s }, true }, window);
 }

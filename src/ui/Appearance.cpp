@@ -20,13 +20,14 @@ void AppDelegate::loadColourScheme()
     paintTableBackgrounds(b_List_Alternating_Rows != 0);
     // The desktop's own answer comes after the window, and again when a person switches the desktop.
     connect(&SystemAppearance::instance(), &SystemAppearance::changed, this,
-            [this] { paintTableBackgrounds(b_List_Alternating_Rows != 0); });
+        [this] { paintTableBackgrounds(b_List_Alternating_Rows != 0); });
 }
 
 void AppDelegate::paintTableBackgrounds(bool alternating)
 {
     const QColor ground = !alternating ? colorTableBackground : isDarkAppearance() ? Qt::black : Qt::white;
-    for (ListTableView *table : {ui->tableviewVideoFiles, ui->tableviewAudioFiles, ui->tableviewDataFolders})
+    for (ListTableView *table :
+        { ui->tableviewVideoFiles, ui->tableviewAudioFiles, ui->tableviewDataFolders })
         table->setGround(ground);
 }
 
@@ -52,7 +53,8 @@ void AppDelegate::OK_Window_Colors()
         ColourScheme::storeColour(*preferences, role, this->*field);
     savePreferences();
     paintTableBackgrounds(b_List_Alternating_Rows == 1);
-    for (ListTableView *table : {ui->tableviewVideoFiles, ui->tableviewAudioFiles, ui->tableviewDataFolders}) {
+    for (ListTableView *table :
+        { ui->tableviewVideoFiles, ui->tableviewAudioFiles, ui->tableviewDataFolders }) {
         const auto selected = table->selectedRows();
         reloadTable(table);
         table->selectRows(selected);
@@ -63,17 +65,17 @@ void AppDelegate::OK_Window_Colors()
 
 void AppDelegate::TimerSetAlternatingRowsRoutine()
 {
-    for (ListTableView *table : {ui->tableviewVideoFiles, ui->tableviewAudioFiles, ui->tableviewDataFolders})
+    for (ListTableView *table :
+        { ui->tableviewVideoFiles, ui->tableviewAudioFiles, ui->tableviewDataFolders })
         table->setAlternatingRowColors(b_List_Alternating_Rows == 1);
 }
 
 void AppDelegate::TimerForceColorsAtStartupRoutine()
 {
-    const std::array<QWidget *, 10> views{
-        ui->view_Toolbar_Audio_BG, ui->view_Toolbar_Audio_Sub_BG, ui->view_Toolbar_Video_BG,
-        ui->view_Toolbar_Video_Sub_BG, ui->view_Toolbar_Data_BG, ui->view_Toolbar_Data_Sub_BG,
-        ui->view_Toolbar_ISO_BG, ui->view_Toolbar_Tools_BG, ui->customviewSpaceOccupied,
-        ui->customviewButtonBurn};
+    const std::array<QWidget *, 10> views{ ui->view_Toolbar_Audio_BG, ui->view_Toolbar_Audio_Sub_BG,
+        ui->view_Toolbar_Video_BG, ui->view_Toolbar_Video_Sub_BG, ui->view_Toolbar_Data_BG,
+        ui->view_Toolbar_Data_Sub_BG, ui->view_Toolbar_ISO_BG, ui->view_Toolbar_Tools_BG,
+        ui->customviewSpaceOccupied, ui->customviewButtonBurn };
     for (QWidget *view : views)
         view->update();
 }

@@ -6,39 +6,27 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QLatin1StringView noAudio("No audio files on the list");
-constexpr QLatin1StringView
-    noAudioText("There are no audio files on the list. Add audio files to the list and try again.");
+constexpr QLatin1StringView noAudioText(
+    "There are no audio files on the list. Add audio files to the list and try again.");
 
 } // namespace
 
 void AppDelegate::Burn_Audio_CD()
 {
-    burnAudio({{noAudio, noAudioText, "CD"_L1, writing::notCD, writing::notCDText, "Warning 0060."_L1},
-               1,
-               writing::wavArguments,
-               "wav"_L1,
-               &AppDelegate::timerBurnAudioCD,
-               &AppDelegate::TimerBurnAudioCD});
+    burnAudio({ { noAudio, noAudioText, "CD"_L1, writing::notCD, writing::notCDText, "Warning 0060."_L1 }, 1,
+        writing::wavArguments, "wav"_L1, &AppDelegate::timerBurnAudioCD, &AppDelegate::TimerBurnAudioCD });
 }
 
 void AppDelegate::Burn_Audio_MP3_CD()
 {
-    burnAudio({{noAudio, noAudioText, "CD"_L1, writing::notCD, writing::notCDText, "Warning 0050."_L1},
-               2,
-               writing::mp3Arguments,
-               "mp3"_L1,
-               &AppDelegate::timerBurnMP3,
-               &AppDelegate::TimerBurnMP3});
+    burnAudio({ { noAudio, noAudioText, "CD"_L1, writing::notCD, writing::notCDText, "Warning 0050."_L1 }, 2,
+        writing::mp3Arguments, "mp3"_L1, &AppDelegate::timerBurnMP3, &AppDelegate::TimerBurnMP3 });
 }
 
 void AppDelegate::Burn_Audio_MP3_DVD()
 {
-    burnAudio({{noAudio, noAudioText, "DVD"_L1, writing::notDVD, writing::notDVDText, "Warning 0010."_L1},
-               2,
-               writing::mp3Arguments,
-               "mp3"_L1,
-               &AppDelegate::timerBurnMP3,
-               &AppDelegate::TimerBurnMP3});
+    burnAudio({ { noAudio, noAudioText, "DVD"_L1, writing::notDVD, writing::notDVDText, "Warning 0010."_L1 },
+        2, writing::mp3Arguments, "mp3"_L1, &AppDelegate::timerBurnMP3, &AppDelegate::TimerBurnMP3 });
 }
 
 void AppDelegate::burnAudio(const AudioForm &form)
@@ -50,22 +38,23 @@ void AppDelegate::burnAudio(const AudioForm &form)
         return;
     convertList(1, [this, &form](const NodeMediaFile &file) {
         i_Burn_Audio_Type = form.burnAudioType;
-        return form.transcoderArguments(file.s_File_Path,
-                                        writing::convertedPath(s_Audio_Folder, file.s_File_Path, form.extension));
+        return form.transcoderArguments(
+            file.s_File_Path, writing::convertedPath(s_Audio_Folder, file.s_File_Path, form.extension));
     });
     schedule(this->*form.timer, form.write);
 }
 
 void AppDelegate::TimerBurnAudioCD()
 {
-    runInBackground(around.drutil, {u"burn"_s, u"-audio"_s, s_Audio_Folder, u"-drive"_s, s_Current_Drive_Number},
-                    &AppDelegate::AudioBurnTerminated, Output::Observed);
+    runInBackground(around.drutil,
+        { u"burn"_s, u"-audio"_s, s_Audio_Folder, u"-drive"_s, s_Current_Drive_Number },
+        &AppDelegate::AudioBurnTerminated, Output::Observed);
     Show_Window_Performing_Operation();
 }
 
 void AppDelegate::TimerBurnMP3()
 {
-    runInBackground(around.drutil, {u"burn"_s, s_Audio_Folder, u"-drive"_s, s_Current_Drive_Number},
-                    &AppDelegate::AudioBurnTerminated, Output::Observed);
+    runInBackground(around.drutil, { u"burn"_s, s_Audio_Folder, u"-drive"_s, s_Current_Drive_Number },
+        &AppDelegate::AudioBurnTerminated, Output::Observed);
     Show_Window_Performing_Operation();
 }

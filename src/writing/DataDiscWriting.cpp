@@ -16,24 +16,26 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QLatin1StringView noFolders("No folders on the list");
-constexpr QLatin1StringView
-    noFoldersText("There are no folders on the list. Add folders to the list and try again.");
+constexpr QLatin1StringView noFoldersText(
+    "There are no folders on the list. Add folders to the list and try again.");
 
 } // namespace
 
 void AppDelegate::Burn_Data_CD()
 {
-    burnData({noFolders, noFoldersText, "CD"_L1, writing::notCD, writing::notCDText, "Warning 0070."_L1});
+    burnData({ noFolders, noFoldersText, "CD"_L1, writing::notCD, writing::notCDText, "Warning 0070."_L1 });
 }
 
 void AppDelegate::Burn_Data_DVD()
 {
-    burnData({noFolders, noFoldersText, "DVD"_L1, writing::notDVD, writing::notDVDText, "Warning 0020."_L1});
+    burnData(
+        { noFolders, noFoldersText, "DVD"_L1, writing::notDVD, writing::notDVDText, "Warning 0020."_L1 });
 }
 
 void AppDelegate::Burn_Data_Bluray()
 {
-    burnData({noFolders, noFoldersText, "BD"_L1, writing::notBluray, writing::notBlurayText, "Warning 0090."_L1});
+    burnData({ noFolders, noFoldersText, "BD"_L1, writing::notBluray, writing::notBlurayText,
+        "Warning 0090."_L1 });
 }
 
 void AppDelegate::burnData(const DiscForm &form)
@@ -51,7 +53,7 @@ void AppDelegate::Show_Window_Data_Copy_Folders()
     delete windowDataCopyFolders;
     windowDataCopyFolders = new Window_Data_Copy_Folders(this, window);
     connect(windowDataCopyFolders, &Window_Data_Copy_Folders::stagingEnded, this,
-            [this] { schedule(timerBurnDataFolder, &AppDelegate::TimerBurnDataFolder); });
+        [this] { schedule(timerBurnDataFolder, &AppDelegate::TimerBurnDataFolder); });
     windowDataCopyFolders->beginSheet();
 }
 
@@ -66,10 +68,11 @@ void AppDelegate::TimerBurnDataFolder()
 {
     for (const auto &copy : std::as_const(stagingCopies)) {
         if (!copy->ended && !copy->stop)
-            activityLog->note(tr("The disc is written before the copying of a folder has ended"), s_Data_Folder);
+            activityLog->note(
+                tr("The disc is written before the copying of a folder has ended"), s_Data_Folder);
     }
-    runInBackground(around.drutil, {u"burn"_s, s_Data_Folder, u"-drive"_s, s_Current_Drive_Number},
-                    &AppDelegate::dataBurnTerminated, Output::Observed);
+    runInBackground(around.drutil, { u"burn"_s, s_Data_Folder, u"-drive"_s, s_Current_Drive_Number },
+        &AppDelegate::dataBurnTerminated, Output::Observed);
     Close_Window_Data_Copy_Folders();
     Show_Window_Performing_Operation();
 }
@@ -78,7 +81,8 @@ void AppDelegate::dataBurnTerminated()
 {
     if (windowPerformingOperation) {
         const QString said = windowPerformingOperation->newestLine();
-        windowPerformingOperation->showNewestLine(tr("%1 The working folder is being emptied.\n").arg(said).toUtf8());
+        windowPerformingOperation->showNewestLine(
+            tr("%1 The working folder is being emptied.\n").arg(said).toUtf8());
     }
     // Behind the working sheet: what still copies would fill the folder again after it was emptied, and
     // emptying it of very many files takes seconds.

@@ -9,7 +9,7 @@ void AppDelegate::DuplicateMedia()
 {
     if (IsDriveEmpty()) {
         return alert(writing::noDisc,
-                     u"There is no disc on the drive. insert a media on the drive to copy and try again."_s);
+            u"There is no disc on the drive. insert a media on the drive to copy and try again."_s);
     }
     OpenPanel panel;
     panel.choose = OpenPanel::Choose::Folder;
@@ -21,8 +21,9 @@ void AppDelegate::DuplicateMedia()
     if (!claimFolder(s_Data_Folder))
         return;
     runInBackground(around.hdiutil,
-                    {u"makehybrid"_s, u"-o"_s, duplicationImage(), chosen.first().toLocalFile(), u"-iso"_s, u"-joliet"_s},
-                    &AppDelegate::CreateISOfromDriveTerminated, Output::Ignored);
+        { u"makehybrid"_s, u"-o"_s, duplicationImage(), chosen.first().toLocalFile(), u"-iso"_s,
+            u"-joliet"_s },
+        &AppDelegate::CreateISOfromDriveTerminated, Output::Ignored);
     Show_Window_Performing_Operation();
 }
 
@@ -40,10 +41,10 @@ void AppDelegate::CreateISOfromDriveTerminated()
 
 bool AppDelegate::promptForBlank()
 {
-    const QString prompt
-        = u"Insert a writable media and click OK or click Cancel to stop the media duplication."_s;
+    const QString prompt =
+        u"Insert a writable media and click OK or click Cancel to stop the media duplication."_s;
     for (;;) {
-        if (around.questions->ask({prompt, prompt, {u"OK"_s, u"Cancel"_s}}, window) != 0)
+        if (around.questions->ask({ prompt, prompt, { u"OK"_s, u"Cancel"_s } }, window) != 0)
             return false;
         if (IsDriveEmpty())
             alert(writing::noDisc, writing::noDiscText);
@@ -61,7 +62,7 @@ void AppDelegate::TimerDuplicateMediaCopy()
         folderClaim.reset();
         return;
     }
-    runInBackground(around.hdiutil, {u"burn"_s, duplicationImage()}, &AppDelegate::MediaDuplicationTerminated,
-                    Output::Observed);
+    runInBackground(around.hdiutil, { u"burn"_s, duplicationImage() },
+        &AppDelegate::MediaDuplicationTerminated, Output::Observed);
     Show_Window_Performing_Operation();
 }

@@ -14,27 +14,22 @@ namespace writing {
 
 QStringList wavArguments(const QString &source, const QString &output)
 {
-    return {u"-i"_s, source, u"-acodec"_s, u"pcm_s16le"_s, u"-ar"_s, u"44100"_s, u"-ac"_s, u"2"_s, output};
+    return { u"-i"_s, source, u"-acodec"_s, u"pcm_s16le"_s, u"-ar"_s, u"44100"_s, u"-ac"_s, u"2"_s, output };
 }
 
 QStringList mp3Arguments(const QString &source, const QString &output)
 {
-    return {u"-i"_s, source,   u"-vn"_s, u"-ar"_s, u"44100"_s, u"-ac"_s,
-            u"2"_s,  u"-ab"_s, u"192k"_s, u"-f"_s, u"mp3"_s,   output};
+    return { u"-i"_s, source, u"-vn"_s, u"-ar"_s, u"44100"_s, u"-ac"_s, u"2"_s, u"-ab"_s, u"192k"_s, u"-f"_s,
+        u"mp3"_s, output };
 }
 
-QStringList mpegArguments(const QString &source, const QString &output, const QString &videoFormat,
-                          const QString &audioFormat)
+QStringList mpegArguments(
+    const QString &source, const QString &output, const QString &videoFormat, const QString &audioFormat)
 {
     const bool ntsc = videoFormat == u"0";
-    return {u"-i"_s,      source,
-            u"-target"_s, ntsc ? u"ntsc-dvd"_s : u"pal-dvd"_s,
-            u"-s"_s,      ntsc ? u"720x480"_s : u"720x576"_s,
-            u"-r"_s,      ntsc ? u"29.97"_s : u"25"_s,
-            u"-acodec"_s, audioFormat == u"0" ? u"ac3"_s : u"mp2"_s,
-            u"-ar"_s,     u"48000"_s,
-            u"-ac"_s,     u"2"_s,
-            output};
+    return { u"-i"_s, source, u"-target"_s, ntsc ? u"ntsc-dvd"_s : u"pal-dvd"_s, u"-s"_s,
+        ntsc ? u"720x480"_s : u"720x576"_s, u"-r"_s, ntsc ? u"29.97"_s : u"25"_s, u"-acodec"_s,
+        audioFormat == u"0" ? u"ac3"_s : u"mp2"_s, u"-ar"_s, u"48000"_s, u"-ac"_s, u"2"_s, output };
 }
 
 QString suffixedName(QString name, const QString &suffix)
@@ -79,7 +74,8 @@ bool AppDelegate::claimFolder(const QString &folder)
     folderClaim = FolderClaim::take(folder);
     if (!folderClaim) {
         alert(tr("Another Corvalis is at work"),
-              tr("It prepares a disc in the folder %1. Wait until that disc is done and try again.").arg(folder));
+            tr("It prepares a disc in the folder %1. Wait until that disc is done and try again.")
+                .arg(folder));
         return false;
     }
     RemoveAllContentInFolder(folder);
@@ -91,8 +87,8 @@ void AppDelegate::beginJob()
     jobStart = activityLog->size();
 }
 
-void AppDelegate::convertList(quint64 progressMode,
-                              const std::function<QStringList(const NodeMediaFile &)> &argumentsFor)
+void AppDelegate::convertList(
+    quint64 progressMode, const std::function<QStringList(const NodeMediaFile &)> &argumentsFor)
 {
     Show_Window_Progress(arrayMediaFiles.size());
     for (qsizetype i = 0; i < arrayMediaFiles.size(); ++i) {
@@ -106,8 +102,9 @@ void AppDelegate::convertList(quint64 progressMode,
         transcodeAndWait(arguments, file.s_File_Name_With_Extension.simplified(), taken ? 1 : 0);
         if (taken) {
             activityLog->note(tr("“%1” was left out").arg(file.s_File_Path.simplified()),
-                              tr("another entry of the list is converted to “%1” too. Rename one of the files and try again.")
-                                  .arg(QFileInfo(arguments.last()).fileName().simplified()));
+                tr("another entry of the list is converted to “%1” too. Rename one of the files and try "
+                   "again.")
+                    .arg(QFileInfo(arguments.last()).fileName().simplified()));
         }
         windowProgress->progressOverall()->setValue(static_cast<int>(i + 1));
     }

@@ -47,8 +47,8 @@ QStringList wavArguments(const QString &source, const QString &output);
 QStringList mp3Arguments(const QString &source, const QString &output);
 /// For one clip of a video disc: an MPEG-2 program stream, NTSC and Dolby Digital where the format
 /// code is "0", PAL and MPEG audio for anything else.
-QStringList mpegArguments(const QString &source, const QString &output, const QString &videoFormat,
-                          const QString &audioFormat);
+QStringList mpegArguments(
+    const QString &source, const QString &output, const QString &videoFormat, const QString &audioFormat);
 
 /// `name` with its end cut off where name and `suffix` together would pass the 255 bytes that a file system
 /// takes, and `suffix` behind it. No character is cut in two.

@@ -5,16 +5,15 @@
 #include <array>
 #include <cerrno>
 #include <climits>
-#include <map>
-#include <system_error>
-#include <thread>
-#include <vector>
-
 #include <fcntl.h>
 #include <linux/fs.h>
+#include <map>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
+#include <system_error>
+#include <thread>
 #include <unistd.h>
+#include <vector>
 
 namespace writing {
 namespace {
@@ -24,7 +23,10 @@ using compilation::TreeCursor;
 /// A file descriptor that is closed with its scope.
 class Descriptor {
 public:
-    explicit Descriptor(int fd) : m_fd(fd) {}
+    explicit Descriptor(int fd)
+        : m_fd(fd)
+    {
+    }
     Descriptor(const Descriptor &) = delete;
     Descriptor &operator=(const Descriptor &) = delete;
     ~Descriptor()
@@ -42,14 +44,18 @@ private:
 class Copier : public compilation::TreeVisitor {
 public:
     /// `source` and `destination` are the paths of the folders that begin the two trees.
-    Copier(TreeCursor &from, std::string source, TreeCursor &to, std::string destination, const std::string &never,
-           CopyState &state, const std::function<void(const std::string &)> &failed)
-        : TreeVisitor(from), m_to(to), m_source(std::move(source)), m_destination(std::move(destination)),
-          m_state(state), m_failed(failed)
+    Copier(TreeCursor &from, std::string source, TreeCursor &to, std::string destination,
+        const std::string &never, CopyState &state, const std::function<void(const std::string &)> &failed)
+        : TreeVisitor(from)
+        , m_to(to)
+        , m_source(std::move(source))
+        , m_destination(std::move(destination))
+        , m_state(state)
+        , m_failed(failed)
     {
         struct stat info;
         if (::stat(never.c_str(), &info) == 0)
-            m_never = {info.st_dev, info.st_ino};
+            m_never = { info.st_dev, info.st_ino };
     }
 
     /// Makes the copy of the folder in which the source's cursor stands, called `name`, and goes into it.
@@ -129,8 +135,8 @@ private:
     /// A second name of a file that was copied before becomes a second name of the copy.
     bool linkToFirst(const std::string &name, const struct stat &info)
     {
-        const auto [first, isNew]
-            = m_linked.try_emplace({info.st_dev, info.st_ino}, m_destination + at.path() + '/' + name);
+        const auto [first, isNew] =
+            m_linked.try_emplace({ info.st_dev, info.st_ino }, m_destination + at.path() + '/' + name);
         return !isNew && ::linkat(AT_FDCWD, first->second.c_str(), m_to.fd(), name.c_str(), 0) == 0;
     }
 
@@ -142,22 +148,23 @@ private:
             return;
         if (length < 0 || ::symlinkat(target.data(), m_to.fd(), name.c_str()) != 0)
             return fail(here(name), errno);
-        const timespec times[] = {info.st_atim, info.st_mtim};
+        const timespec times[] = { info.st_atim, info.st_mtim };
         ::utimensat(m_to.fd(), name.c_str(), times, AT_SYMLINK_NOFOLLOW);
     }
 
     void copyFile(const std::string &name)
     {
         // Not blocking: where the file has become a pipe meanwhile, nobody may ever write into it.
-        const Descriptor from(::openat(at.fd(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+        const Descriptor from(
+            ::openat(at.fd(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
         struct stat info;
         if (from < 0 || ::fstat(from, &info) != 0)
             return fail(here(name), errno);
         // A source on a server may answer late, when the folder of the copy has already been emptied.
         if (m_state.stop)
             return;
-        const Descriptor to(::openat(m_to.fd(), name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
-                                     S_IRUSR | S_IWUSR));
+        const Descriptor to(
+            ::openat(m_to.fd(), name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
         if (to < 0)
             return fail(here(name), errno);
         const bool copied = copyContent(from, to, info);
@@ -215,9 +222,9 @@ private:
         off_t in = start;
         off_t out = start;
         while (in < end && !m_state.stop) {
-            const ssize_t moved = m_canOffload
-                ? ::copy_file_range(from, &in, to, &out, static_cast<std::size_t>(std::min(end - in, mostAtOnce)), 0)
-                : copyBuffer(from, to, in, out, end);
+            const ssize_t moved = m_canOffload ? ::copy_file_range(from, &in, to, &out,
+                                      static_cast<std::size_t>(std::min(end - in, mostAtOnce)), 0)
+                                               : copyBuffer(from, to, in, out, end);
             if (moved > 0)
                 continue;
             if (!m_canOffload) {
@@ -241,7 +248,8 @@ private:
             return got;
         ssize_t written = 0;
         while (written < got) {
-            const ssize_t n = ::pwrite(to, m_buffer.data() + written, static_cast<std::size_t>(got - written), out + written);
+            const ssize_t n = ::pwrite(
+                to, m_buffer.data() + written, static_cast<std::size_t>(got - written), out + written);
             if (n < 0)
                 return -1;
             written += n;
@@ -254,7 +262,7 @@ private:
     static void keepModeAndTimes(int fd, const struct stat &info)
     {
         ::fchmod(fd, info.st_mode & 07777);
-        const timespec times[] = {info.st_atim, info.st_mtim};
+        const timespec times[] = { info.st_atim, info.st_mtim };
         ::futimens(fd, times);
     }
 
@@ -264,7 +272,7 @@ private:
     std::vector<struct stat> m_folders; ///< the source of each folder of the copy from the top to here
     CopyState &m_state;
     const std::function<void(const std::string &)> &m_failed;
-    std::pair<dev_t, ino_t> m_never{0, 0};
+    std::pair<dev_t, ino_t> m_never{ 0, 0 };
     std::map<std::pair<dev_t, ino_t>, std::string> m_linked;
     std::vector<char> m_buffer;
     bool m_canClone = true;
@@ -281,8 +289,8 @@ bool CopyState::waitForEnd(std::chrono::milliseconds limit) const
     return ended;
 }
 
-void copyFolder(const std::string &source, const std::string &destination, const std::string &never, CopyState &state,
-                const std::function<void(const std::string &)> &failed)
+void copyFolder(const std::string &source, const std::string &destination, const std::string &never,
+    CopyState &state, const std::function<void(const std::string &)> &failed)
 {
     const std::string path = source.substr(0, source.find_last_not_of('/') + 1);
     const std::string name = path.substr(path.find_last_of('/') + 1);
@@ -292,7 +300,8 @@ void copyFolder(const std::string &source, const std::string &destination, const
         failed(source + ": has no name under which it could be copied");
     else if (from.fd() < 0 || to.fd() < 0)
         failed((from.fd() < 0 ? source : destination) + ": " + std::generic_category().message(errno));
-    else if (Copier copier(from, path, to, destination + '/' + name, never, state, failed); copier.beginFolder(name)) {
+    else if (Copier copier(from, path, to, destination + '/' + name, never, state, failed);
+             copier.beginFolder(name)) {
         if (walkTree(copier))
             copier.finishFolder();
         else

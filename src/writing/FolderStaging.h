@@ -11,7 +11,8 @@ namespace writing {
 
 /// What a copy has come to. Shared between the copying thread and whoever waits for it.
 struct CopyState {
-    std::atomic<bool> stop = false; ///< set it, and the copy ends; the file at hand is left out, and nothing new is made
+    /// Set it, and the copy ends; the file at hand is left out, and nothing new is made.
+    std::atomic<bool> stop = false;
     std::atomic<bool> ended = false;
 
     /// Blocks until the copy has ended, at most `limit`. False: it still runs.
@@ -26,6 +27,6 @@ struct CopyState {
 /// `never` is a folder that is not entered: the working folder may itself lie inside the source.
 /// Blocks; any thread; `failed` is called in the same one.
 void copyFolder(const std::string &source, const std::string &destination, const std::string &never,
-                CopyState &state, const std::function<void(const std::string &)> &failed);
+    CopyState &state, const std::function<void(const std::string &)> &failed);
 
 } // namespace writing

@@ -39,8 +39,9 @@ void AppDelegate::TimerCreateISOStep1Routine()
 void AppDelegate::TimerCreateISOStep2Routine()
 {
     beginJob();
-    runInBackground(around.hdiutil, {u"makehybrid"_s, u"-o"_s, DestPathISO, SourcePath, u"-iso"_s, u"-joliet"_s},
-                    &AppDelegate::isoMakingTerminated, Output::Ignored);
+    runInBackground(around.hdiutil,
+        { u"makehybrid"_s, u"-o"_s, DestPathISO, SourcePath, u"-iso"_s, u"-joliet"_s },
+        &AppDelegate::isoMakingTerminated, Output::Ignored);
     schedule(timerCreateISOStep3, &AppDelegate::TimerCreateISOStep3Routine);
 }
 
@@ -59,7 +60,7 @@ void AppDelegate::TimerCreateISOStep3Routine()
 void AppDelegate::OnActionISOBurn()
 {
     OpenPanel panel;
-    panel.extensions = {u"iso"_s, u"img"_s, u"dmg"_s};
+    panel.extensions = { u"iso"_s, u"img"_s, u"dmg"_s };
     panel.message = u"Select a ISO image to burn to media."_s;
     const QList<QUrl> chosen = around.questions->choose(panel, window);
     if (chosen.isEmpty())
@@ -69,7 +70,7 @@ void AppDelegate::OnActionISOBurn()
     if (!IsMediaOneTimeWritable() && !IsMediaReWritable())
         return alert(writing::notWritable, writing::notWritableText);
     beginJob();
-    runInBackground(around.hdiutil, {u"burn"_s, chosen.first().toLocalFile()}, &AppDelegate::taskTerminated,
-                    Output::Ignored);
+    runInBackground(around.hdiutil, { u"burn"_s, chosen.first().toLocalFile() }, &AppDelegate::taskTerminated,
+        Output::Ignored);
     Show_Window_Performing_Operation();
 }

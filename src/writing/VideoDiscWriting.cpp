@@ -6,19 +6,20 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QLatin1StringView noVideo("No video files on the list");
-constexpr QLatin1StringView
-    noVideoText("There are no video files on the list. Add video files to the list and try again.");
+constexpr QLatin1StringView noVideoText(
+    "There are no video files on the list. Add video files to the list and try again.");
 
 } // namespace
 
 void AppDelegate::Burn_Video_DVD()
 {
-    burnVideo({noVideo, noVideoText, "DVD"_L1, writing::notDVD, writing::notDVDText, "Warning 0000."_L1});
+    burnVideo({ noVideo, noVideoText, "DVD"_L1, writing::notDVD, writing::notDVDText, "Warning 0000."_L1 });
 }
 
 void AppDelegate::Burn_Video_Bluray()
 {
-    burnVideo({noVideo, noVideoText, "BD"_L1, writing::notBluray, writing::notBlurayText, "Warning 0090."_L1});
+    burnVideo(
+        { noVideo, noVideoText, "BD"_L1, writing::notBluray, writing::notBlurayText, "Warning 0090."_L1 });
 }
 
 void AppDelegate::burnVideo(const DiscForm &form)
@@ -29,15 +30,16 @@ void AppDelegate::burnVideo(const DiscForm &form)
     if (!claimFolder(s_Video_Folder))
         return;
     convertList(0, [this](const NodeMediaFile &file) {
-        return writing::mpegArguments(file.s_File_Path, writing::convertedPath(s_Video_Folder, file.s_File_Path, "mpg"_L1),
-                                      s_Video_Output_Format, s_Audio_Output_Format);
+        return writing::mpegArguments(file.s_File_Path,
+            writing::convertedPath(s_Video_Folder, file.s_File_Path, "mpg"_L1), s_Video_Output_Format,
+            s_Audio_Output_Format);
     });
     schedule(timerBurnVideo, &AppDelegate::TimerBurnVideoRoutine);
 }
 
 void AppDelegate::TimerBurnVideoRoutine()
 {
-    runInBackground(around.drutil, {u"burn"_s, s_Video_Folder, u"-drive"_s, s_Current_Drive_Number},
-                    &AppDelegate::VideoBurnTerminated, Output::Observed);
+    runInBackground(around.drutil, { u"burn"_s, s_Video_Folder, u"-drive"_s, s_Current_Drive_Number },
+        &AppDelegate::VideoBurnTerminated, Output::Observed);
     Show_Window_Performing_Operation();
 }

@@ -17,8 +17,9 @@
 using namespace Qt::StringLiterals;
 
 Window_Data_Copy_Folders::Window_Data_Copy_Folders(AppDelegate *controller, QWidget *parent)
-    : Sheet(parent, Dismiss::ByProgramOnly), m_controller(controller),
-      m_ui(std::make_unique<Ui::Window_Data_Copy_Folders>())
+    : Sheet(parent, Dismiss::ByProgramOnly)
+    , m_controller(controller)
+    , m_ui(std::make_unique<Ui::Window_Data_Copy_Folders>())
 {
     m_ui->setupUi(this);
     connect(this, &Sheet::quitRequested, controller, &AppDelegate::OnMenuQuit);
@@ -39,7 +40,9 @@ quint64 Window_Data_Copy_Folders::folderSize(const QString &path)
 
 QString Window_Data_Copy_Folders::copyDestination(const QString &dataFolder, const QString &name)
 {
-    const auto taken = [](const QString &path) { return QFileInfo::exists(path) || QFileInfo(path).isSymLink(); };
+    const auto taken = [](const QString &path) {
+        return QFileInfo::exists(path) || QFileInfo(path).isSymLink();
+    };
     if (!taken(u"%1/%2"_s.arg(dataFolder, name)))
         return dataFolder;
     for (qint64 n = 1;; ++n) {
@@ -87,9 +90,9 @@ void Window_Data_Copy_Folders::showFolder(const QString &name)
 {
     constexpr int width = 280;
     const QString shown = fontMetrics().elidedText(QString(name).simplified(), Qt::ElideMiddle, width);
-    m_ui->labelFolder->setText(
-        tr("%1 (%2 of %3)")
-            .arg(shown, QString::number(m_index + 1), QString::number(m_controller->arrayDataFolders.size())));
+    m_ui->labelFolder->setText(tr("%1 (%2 of %3)")
+                                   .arg(shown, QString::number(m_index + 1),
+                                       QString::number(m_controller->arrayDataFolders.size())));
 }
 
 void Window_Data_Copy_Folders::startCopy(const QString &source, const QString &destination)
@@ -97,9 +100,10 @@ void Window_Data_Copy_Folders::startCopy(const QString &source, const QString &d
     m_copy = std::make_shared<writing::CopyState>();
     m_controller->stagingCopies.append(m_copy);
     // A thread of its own: a copy from a server that has gone away must not keep the pool's threads.
-    std::thread([copy = m_copy, log = m_controller->activityLog, from = QFile::encodeName(source).toStdString(),
-                 to = QFile::encodeName(destination).toStdString(),
-                 never = QFile::encodeName(m_controller->s_Data_Folder).toStdString()] {
+    std::thread([copy = m_copy, log = m_controller->activityLog,
+                    from = QFile::encodeName(source).toStdString(),
+                    to = QFile::encodeName(destination).toStdString(),
+                    never = QFile::encodeName(m_controller->s_Data_Folder).toStdString()] {
         writing::copyFolder(from, to, never, *copy, [log](const std::string &failure) {
             log->note(tr("Not copied"), QString::fromStdString(failure));
         });
@@ -108,13 +112,17 @@ void Window_Data_Copy_Folders::startCopy(const QString &source, const QString &d
 
 void Window_Data_Copy_Folders::poll()
 {
-    QThreadPool::globalInstance()->start([sheet = QPointer(this), controller = m_controller, target = m_target] {
-        const auto copied = static_cast<double>(folderSize(target) >> 10);
-        QMetaObject::invokeMethod(controller, [sheet, copied] {
-            if (sheet)
-                sheet->measured(copied);
-        }, Qt::QueuedConnection);
-    });
+    QThreadPool::globalInstance()->start(
+        [sheet = QPointer(this), controller = m_controller, target = m_target] {
+            const auto copied = static_cast<double>(folderSize(target) >> 10);
+            QMetaObject::invokeMethod(
+                controller,
+                [sheet, copied] {
+                    if (sheet)
+                        sheet->measured(copied);
+                },
+                Qt::QueuedConnection);
+        });
 }
 
 void Window_Data_Copy_Folders::measured(double copied)

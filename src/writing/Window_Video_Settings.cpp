@@ -19,16 +19,18 @@ void switchOffIfOn(const QRadioButton *pressed, QRadioButton *other)
 } // namespace
 
 Window_Video_Settings::Window_Video_Settings(AppDelegate *controller, QWidget *parent)
-    : Sheet(parent, Dismiss::ByPerson), m_controller(controller), m_ui(std::make_unique<Ui::Window_Video_Settings>())
+    : Sheet(parent, Dismiss::ByPerson)
+    , m_controller(controller)
+    , m_ui(std::make_unique<Ui::Window_Video_Settings>())
 {
     m_ui->setupUi(this);
     connect(this, &Sheet::quitRequested, controller, &AppDelegate::OnMenuQuit);
     using Handler = void (Window_Video_Settings::*)();
     const std::pair<QRadioButton *, Handler> radios[] = {
-        {m_ui->radioVideoNTSC, &Window_Video_Settings::OnVideoNTSC},
-        {m_ui->radioVideoPal, &Window_Video_Settings::OnVideoPal},
-        {m_ui->radioAudioDolbyDigital, &Window_Video_Settings::OnAudioDolbyDigital},
-        {m_ui->radioAudioMPEG2, &Window_Video_Settings::OnAudioMPEG2},
+        { m_ui->radioVideoNTSC, &Window_Video_Settings::OnVideoNTSC },
+        { m_ui->radioVideoPal, &Window_Video_Settings::OnVideoPal },
+        { m_ui->radioAudioDolbyDigital, &Window_Video_Settings::OnAudioDolbyDigital },
+        { m_ui->radioAudioMPEG2, &Window_Video_Settings::OnAudioMPEG2 },
     };
     for (const auto &row : radios) {
         QRadioButton *const radio = row.first;

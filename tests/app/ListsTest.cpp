@@ -43,9 +43,10 @@ QStringList inTheFileSystemsOrder(const QString &folder)
 /// Names, without an extension, that dialogs and shells have their own ideas about.
 QStringList oddBaseNames()
 {
-    return { u"plain"_s, u"say \"yes\""_s, u"a\"b"_s, u"b"_s, u"\"quoted\""_s, u"quoted"_s, u"\"a\" \"b\""_s, u"\""_s,
-        u"two\nlines\n"_s, u"-dash"_s, u" blanks "_s, u"\\back\\slash"_s, u"~"_s, u"~root"_s, u"$HOME"_s,
-        u"${HOME}"_s, u"100%41"_s, u"tab\there"_s, u"*?[a]"_s, u"日本語 עברית 😀"_s, QString(251, u'x'), QString(125, u'ä') };
+    return { u"plain"_s, u"say \"yes\""_s, u"a\"b"_s, u"b"_s, u"\"quoted\""_s, u"quoted"_s, u"\"a\" \"b\""_s,
+        u"\""_s, u"two\nlines\n"_s, u"-dash"_s, u" blanks "_s, u"\\back\\slash"_s, u"~"_s, u"~root"_s,
+        u"$HOME"_s, u"${HOME}"_s, u"100%41"_s, u"tab\there"_s, u"*?[a]"_s, u"日本語 עברית 😀"_s,
+        QString(251, u'x'), QString(125, u'ä') };
 }
 
 void makeFileOfBytes(const QByteArray &path)
@@ -262,7 +263,8 @@ void ListsTest::markedFoldersAreTakenExactly()
     for (const QString &name : names)
         QVERIFY(QDir(m_media->path()).mkdir(name));
     for (const QString &name : names) {
-        person::Expect<QFileDialog> dialog([&](QFileDialog *panel) { person::markFolder(panel, media(name)); });
+        person::Expect<QFileDialog> dialog(
+            [&](QFileDialog *panel) { person::markFolder(panel, media(name)); });
         click("toolbar_btn_Data_Add_Folder");
         QVERIFY(dialog.happened());
         QCOMPARE(column(table("tableviewDataFolders"), 0), QStringList(media(name)));
@@ -631,14 +633,16 @@ void ListsTest::pathsWithATrailingSlash()
 {
     makeFile(media(u"album/song.mp3"_s));
     {
-        person::Expect<QFileDialog> dialog([this](QFileDialog *panel) { person::openFolder(panel, media(u"album/"_s)); });
+        person::Expect<QFileDialog> dialog(
+            [this](QFileDialog *panel) { person::openFolder(panel, media(u"album/"_s)); });
         click("toolbar_btn_Audio_Add_Folder");
         QVERIFY(dialog.happened());
         QVERIFY(awaitAdded());
         QCOMPARE(m_app->controller->arrayMediaFiles.first().s_File_Path, media(u"album/song.mp3"_s));
     }
     showTab(2);
-    person::Expect<QFileDialog> dialog([this](QFileDialog *panel) { person::openFolder(panel, media(u"album//"_s)); });
+    person::Expect<QFileDialog> dialog(
+        [this](QFileDialog *panel) { person::openFolder(panel, media(u"album//"_s)); });
     click("toolbar_btn_Data_Add_Folder");
     QVERIFY(dialog.happened());
     QCOMPARE(m_app->controller->arrayDataFolders.first().s_Path, media(u"album"_s));
@@ -701,7 +705,8 @@ void ListsTest::deleting()
         person::clickRow(audio(), audio()->model()->index(row, 0), Qt::ControlModifier);
     click("toolbar_btn_Audio_Delete");
     QCOMPARE(column(audio(), 0), left);
-    QCOMPARE(audio()->currentIndex().row(), qMin(*std::ranges::min_element(rows), static_cast<int>(left.size()) - 1));
+    QCOMPARE(audio()->currentIndex().row(),
+        qMin(*std::ranges::min_element(rows), static_cast<int>(left.size()) - 1));
     QCOMPARE(m_app->controller->i_Audio_Total_Duration_in_Seconds, 205 * left.size());
     QVERIFY(audio()->selectedRows().isEmpty());
 }
@@ -853,8 +858,8 @@ void ListsTest::dropOnAudio()
 void ListsTest::dropOfAnAlbum()
 {
     m_app->controller->around.questions = &m_app->questions;
-    for (const auto &name : { u"album/one.mp3"_s, u"album/TWO.MP3"_s, u"album/cover.jpg"_s, u"album/disc 2/three.mp3"_s,
-             u"no music/text.txt"_s, u"last.wav"_s })
+    for (const auto &name : { u"album/one.mp3"_s, u"album/TWO.MP3"_s, u"album/cover.jpg"_s,
+             u"album/disc 2/three.mp3"_s, u"no music/text.txt"_s, u"last.wav"_s })
         makeFile(media(name));
     QList<QUrl> urls;
     for (const auto &name : { u"album/"_s, u"no music"_s, u"last.wav"_s })

@@ -342,9 +342,8 @@ void TablesTest::selectionOfManyRows()
         rows.append(row);
     table()->selectRows(rows);
     QCOMPARE(table()->selectedRows(), rows);
-    QCOMPARE(table()->selectionModel()->selection().size(), std::ranges::count_if(rows, [&rows](int row) {
-        return !rows.contains(row - 1);
-    }));
+    QCOMPARE(table()->selectionModel()->selection().size(),
+        std::ranges::count_if(rows, [&rows](int row) { return !rows.contains(row - 1); }));
     table()->selectRows({});
     QCOMPARE(table()->selectedRows(), QList<int>());
 }

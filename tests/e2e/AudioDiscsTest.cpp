@@ -17,12 +17,14 @@ struct Music {
     const char *arguments; ///< that make it
 };
 
-const QList<Music> music {
+const QList<Music> music{
     { u"Say \"yes\" - O'Brien.mp3"_s, "-f lavfi -i sine=frequency=440:duration=4.3 -ac 2 -b:a 128k" },
     { u"-acodec copy.m4a"_s, "-f lavfi -i sine=frequency=550:duration=5 -ac 2 -ar 48000 -c:a aac" },
     { u"日本の歌 Ωmega ñ.wma"_s, "-f lavfi -i sine=frequency=660:duration=4.1 -ac 2 -c:a wmav2" },
-    { u"two\nlines  & 100%1.wav"_s, "-f lavfi -i sine=frequency=770:duration=6 -ar 48000 -ac 1 -c:a pcm_s16le" },
-    { u" blank first "_s + QString(237, u'x') + u".mp2"_s, "-f lavfi -i sine=frequency=880:duration=4.5 -ar 44100 -ac 2 -c:a mp2" },
+    { u"two\nlines  & 100%1.wav"_s,
+        "-f lavfi -i sine=frequency=770:duration=6 -ar 48000 -ac 1 -c:a pcm_s16le" },
+    { u" blank first "_s + QString(237, u'x') + u".mp2"_s,
+        "-f lavfi -i sine=frequency=880:duration=4.5 -ar 44100 -ac 2 -c:a mp2" },
 };
 
 QStringList names()
@@ -41,15 +43,17 @@ QString base(const QString &name)
 /// The samples that the transcoder decodes, without the program under test.
 QByteArray decoded(const QString &path)
 {
-    return runWell(u"ffmpeg"_s, { u"-v"_s, u"error"_s, u"-i"_s, path, u"-f"_s, u"s16le"_s, u"-acodec"_s,
-                                    u"pcm_s16le"_s, u"-ar"_s, u"44100"_s, u"-ac"_s, u"2"_s, u"-"_s });
+    return runWell(u"ffmpeg"_s,
+        { u"-v"_s, u"error"_s, u"-i"_s, path, u"-f"_s, u"s16le"_s, u"-acodec"_s, u"pcm_s16le"_s, u"-ar"_s,
+            u"44100"_s, u"-ac"_s, u"2"_s, u"-"_s });
 }
 
 /// The file as an MP3 disc has it, converted to `path` without the program under test.
 QByteArray asMp3(const QString &source, const QString &path)
 {
-    runWell(u"ffmpeg"_s, { u"-v"_s, u"error"_s, u"-y"_s, u"-i"_s, source, u"-vn"_s, u"-ar"_s, u"44100"_s, u"-ac"_s,
-                             u"2"_s, u"-ab"_s, u"192k"_s, u"-f"_s, u"mp3"_s, path });
+    runWell(u"ffmpeg"_s,
+        { u"-v"_s, u"error"_s, u"-y"_s, u"-i"_s, source, u"-vn"_s, u"-ar"_s, u"44100"_s, u"-ac"_s, u"2"_s,
+            u"-ab"_s, u"192k"_s, u"-f"_s, u"mp3"_s, path });
     return contentOf(path);
 }
 
@@ -85,7 +89,8 @@ class AudioDiscsTest : public QObject {
         QStringList listed;
         for (const NodeMediaFile &file : std::as_const(machine.controller->arrayMediaFiles)) {
             listed.append(file.s_File_Name_With_Extension);
-            QVERIFY2(file.i_Duration_in_Seconds >= 4 && file.i_Duration_in_Seconds <= 6, qUtf8Printable(file.s_Duration));
+            QVERIFY2(file.i_Duration_in_Seconds >= 4 && file.i_Duration_in_Seconds <= 6,
+                qUtf8Printable(file.s_Duration));
         }
         QStringList expected = names();
         listed.sort();
@@ -115,7 +120,7 @@ private Q_SLOTS:
         WholeMachine machine;
         ready(machine, 1, u"cd-r"_s);
         // Neither the order of the names nor the one of the dialog.
-        const QList<qsizetype> order { 3, 0, 4, 2, 1 };
+        const QList<qsizetype> order{ 3, 0, 4, 2, 1 };
         QStringList paths;
         for (const qsizetype place : order)
             paths.append(machine.mediaPath(music[place].name));
@@ -133,7 +138,8 @@ private Q_SLOTS:
         starts.append(expected.size() / sector);
         readByCdrdao(machine.recorder.path(u"disc.cue"_s), starts);
         QVERIFY2(machine.recorder.status().contains("not writable"), machine.recorder.status().constData());
-        QCOMPARE(QDir(machine.controller->s_Audio_Folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+        QCOMPARE(QDir(machine.controller->s_Audio_Folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+            QStringList());
     }
 
     /// The numbers that a pattern captures in a text.
@@ -149,10 +155,11 @@ private Q_SLOTS:
     // Both readers count sectors from the start of the file, which begins with the pause.
     static void readByCdInfo(const QString &cue, const QList<qsizetype> &starts)
     {
-        const Printed printed = run(
-            u"cd-info"_s, { u"--no-header"_s, u"--no-device-info"_s, u"--no-cddb"_s, u"--cue-file="_s + cue });
+        const Printed printed = run(u"cd-info"_s,
+            { u"--no-header"_s, u"--no-device-info"_s, u"--no-cddb"_s, u"--cue-file="_s + cue });
         const QString text = QString::fromUtf8(printed.output);
-        QVERIFY2(numbers(text, u"^ *\\d+: \\d\\d:\\d\\d:\\d\\d +(\\d+) +audio"_s) == starts, qUtf8Printable(text));
+        QVERIFY2(
+            numbers(text, u"^ *\\d+: \\d\\d:\\d\\d:\\d\\d +(\\d+) +audio"_s) == starts, qUtf8Printable(text));
     }
 
     static void readByCdrdao(const QString &cue, const QList<qsizetype> &starts)
@@ -191,13 +198,15 @@ private Q_SLOTS:
         found.sort();
         QCOMPARE(found, expected);
         for (const QString &name : expected) {
-            QCOMPARE(reader::stream(tree + u'/' + name, u"a"_s, u"codec_name,sample_rate,channels,bit_rate"_s),
+            QCOMPARE(
+                reader::stream(tree + u'/' + name, u"a"_s, u"codec_name,sample_rate,channels,bit_rate"_s),
                 u"codec_name=mp3|sample_rate=44100|channels=2|bit_rate=192000"_s);
         }
         QList<QByteArray> contents;
         for (const QString &name : names()) {
             contents.append(asMp3(machine.mediaPath(name), machine.mediaPath(u"again"_s)));
-            QVERIFY2(contentOf(tree + u'/' + base(name) + u".mp3"_s) == contents.last(), qUtf8Printable(name));
+            QVERIFY2(
+                contentOf(tree + u'/' + base(name) + u".mp3"_s) == contents.last(), qUtf8Printable(name));
         }
         QCOMPARE(reader::countedByIsoinfo(machine.recorder.iso()), expected.size());
         const QString joliet = reader::extractedBy7z(machine.recorder.iso(), machine.media.path());
@@ -215,9 +224,11 @@ private Q_SLOTS:
         QVERIFY(machine.addFiles(machine.mediaPath(u"y"_s), { u"song.mp2"_s }));
         machine.press("btnBurn");
         QVERIFY(machine.completes());
-        QVERIFY2(machine.trouble().startsWith(u"“%1” was left out: "_s.arg(machine.mediaPath(u"y/song.mp2"_s))),
+        QVERIFY2(
+            machine.trouble().startsWith(u"“%1” was left out: "_s.arg(machine.mediaPath(u"y/song.mp2"_s))),
             qUtf8Printable(machine.trouble()));
-        QCOMPARE(contentOf(machine.recorder.path(u"disc.bin"_s)), discOf({ machine.mediaPath(u"x/song.mp3"_s) }));
+        QCOMPARE(
+            contentOf(machine.recorder.path(u"disc.bin"_s)), discOf({ machine.mediaPath(u"x/song.mp3"_s) }));
     }
 
     void aSongThatHasGoneIsToldAndTheOthersAreWritten()
@@ -230,7 +241,8 @@ private Q_SLOTS:
         machine.press("btnBurn");
         QVERIFY(machine.completes());
         QCOMPARE(machine.trouble(), u"%1: No such file or directory"_s.arg(machine.mediaPath(u"gone.mp3"_s)));
-        QCOMPARE(contentOf(machine.recorder.path(u"disc.bin"_s)), discOf({ machine.mediaPath(u"here.mp3"_s) }));
+        QCOMPARE(
+            contentOf(machine.recorder.path(u"disc.bin"_s)), discOf({ machine.mediaPath(u"here.mp3"_s) }));
     }
 
     // A limit on the size of files stands for a disk without room.
@@ -239,14 +251,17 @@ private Q_SLOTS:
         WholeMachine machine;
         makeMedia(machine.mediaPath(u"song.mp3"_s), QString::fromLatin1(music[0].arguments));
         QVERIFY(machine.addFiles(machine.media.path(), { u"song.mp3"_s }));
-        makeFile(machine.mediaPath(u"ffmpeg"_s), "#!/bin/sh\ntrap '' XFSZ\nulimit -f 100\nexec ffmpeg \"$@\"\n");
+        makeFile(
+            machine.mediaPath(u"ffmpeg"_s), "#!/bin/sh\ntrap '' XFSZ\nulimit -f 100\nexec ffmpeg \"$@\"\n");
         QFile(machine.mediaPath(u"ffmpeg"_s)).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
         machine.controller->sffmpegPath = machine.mediaPath(u"ffmpeg"_s);
         machine.press("btnBurn");
         QVERIFY(machine.completes());
         const QString first = machine.trouble().section(u'\n', 0, 0);
-        QVERIFY2(first.startsWith(u"song.mp3: "_s) && first.endsWith(u": File too large"_s), qUtf8Printable(first));
-        QCOMPARE(QDir(machine.controller->s_Audio_Folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+        QVERIFY2(first.startsWith(u"song.mp3: "_s) && first.endsWith(u": File too large"_s),
+            qUtf8Printable(first));
+        QCOMPARE(QDir(machine.controller->s_Audio_Folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+            QStringList());
     }
 
     void aFileThatIsNoMusicIsToldAndTheOthersAreWritten()

@@ -47,11 +47,15 @@ public:
     }
 
     QString source() const { return home.filePath(u"photos"_s); }
-    QString dataFolder(const QString &below = {}) const { return home.filePath(u"Documents/CorvalisData/"_s + below); }
+    QString dataFolder(const QString &below = {}) const
+    {
+        return home.filePath(u"Documents/CorvalisData/"_s + below);
+    }
     /// The folder as it is on the disc.
     QString onDisc() const
     {
-        return reader::extractedByXorriso(home.filePath(u"recorders/1/disc.iso"_s), home.path()) + u"/photos"_s;
+        return reader::extractedByXorriso(home.filePath(u"recorders/1/disc.iso"_s), home.path())
+            + u"/photos"_s;
     }
 };
 

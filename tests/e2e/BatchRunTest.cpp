@@ -28,7 +28,8 @@ private Q_SLOTS:
     {
         makeMedia(media(u"-song \"1\".mp3"_s), u"-f lavfi -i sine=duration=4.5 -ac 2"_s);
         makeMedia(media(u"日本.wma"_s), u"-f lavfi -i sine=frequency=600:duration=4.5 -ac 2 -c:a wmav2"_s);
-        makeMedia(media(u"clip.mp4"_s), u"-f lavfi -i testsrc=size=160x120:duration=1 -f lavfi -i sine=duration=1 -ac 2"_s);
+        makeMedia(media(u"clip.mp4"_s),
+            u"-f lavfi -i testsrc=size=160x120:duration=1 -f lavfi -i sine=duration=1 -ac 2"_s);
         makeFile(media(u"folder/file"_s), "content");
     }
 
@@ -77,18 +78,21 @@ private Q_SLOTS:
         QTest::addColumn<QString>("disc");
         QTest::addColumn<QByteArray>("told");
         const QByteArray again = " and try again.\n";
-        const QByteArray noDisc = "No disc\nThere is no disc on the drive. insert a writable media on the drive" + again;
+        const QByteArray noDisc =
+            "No disc\nThere is no disc on the drive. insert a writable media on the drive" + again;
         const auto wrong = [&again](const QByteArray &family) {
-            return "Media not " + family + "\nThe media on the drive is not a " + family + ". insert a writable " + family
-                + " on the drive" + again;
+            return "Media not " + family + "\nThe media on the drive is not a " + family
+                + ". insert a writable " + family + " on the drive" + again;
         };
         for (int code = 1; code <= 8; ++code) {
             const QString title = name(code);
             const bool cd = code == 1 || code == 2 || code == 6;
             const bool dvd = code == 3 || code == 4 || code == 7;
             QTest::addRow("%s, no disc", qUtf8Printable(title)) << code << u"none"_s << noDisc;
-            QTest::addRow("%s, wrong disc", qUtf8Printable(title))
-                << code << (cd ? u"bd-r"_s : u"cd-r"_s) << wrong(cd ? "CD" : dvd ? "DVD" : "Blu-ray");
+            QTest::addRow("%s, wrong disc", qUtf8Printable(title)) << code << (cd ? u"bd-r"_s : u"cd-r"_s)
+                                                                   << wrong(cd      ? "CD"
+                                                                              : dvd ? "DVD"
+                                                                                    : "Blu-ray");
         }
     }
     void anAlertEndsItWithOne()
@@ -110,7 +114,8 @@ private Q_SLOTS:
     {
         Recorder recorder;
         makeFile(media(u"noise.mp3"_s), "no music at all");
-        const Printed printed = run(corvalis, { u"--burn"_s, u"MP3 CD"_s, media(u"noise.mp3"_s), media(u"日本.wma"_s) });
+        const Printed printed =
+            run(corvalis, { u"--burn"_s, u"MP3 CD"_s, media(u"noise.mp3"_s), media(u"日本.wma"_s) });
         QCOMPARE(printed.status, 0);
         QVERIFY2(printed.errors.contains("noise.mp3"), printed.errors.constData());
         QVERIFY(printed.output.contains("not everything went well"));

@@ -17,21 +17,10 @@ void makeAwkwardTree(const QString &root)
     QString faces;
     for (int i = 0; i < 62; ++i)
         faces += u"😀"_s; // 248 bytes
-    const QStringList names{u"plain.txt"_s,
-                            u"O'Brien \"x\""_s,
-                            u"two\nlines"_s,
-                            u"-drive"_s,
-                            u"  blanks  "_s,
-                            u"$(x) `y` *?[]|<>"_s,
-                            u"back\\slash:colon;1"_s,
-                            u"100%1 %s"_s,
-                            u".hidden"_s,
-                            u"日本語 한국어 עברית العربية ไทย"_s,
-                            u"Case"_s,
-                            u"case"_s,
-                            u"no.of.dots..."_s,
-                            QString(255, u'x'),
-                            faces + u"name"_s};
+    const QStringList names{ u"plain.txt"_s, u"O'Brien \"x\""_s, u"two\nlines"_s, u"-drive"_s,
+        u"  blanks  "_s, u"$(x) `y` *?[]|<>"_s, u"back\\slash:colon;1"_s, u"100%1 %s"_s, u".hidden"_s,
+        u"日本語 한국어 עברית العربية ไทย"_s, u"Case"_s, u"case"_s, u"no.of.dots..."_s, QString(255, u'x'),
+        faces + u"name"_s };
     for (const QString &name : names) {
         makeFile(root + u"/files/"_s + name, name.toUtf8() + QByteArray(3000, 'y'));
         makeFile(root + u"/folders/"_s + name + u"/inside"_s, "inside");
@@ -56,7 +45,8 @@ void makeAwkwardTree(const QString &root)
 QList<QByteArray> contents(const QString &folder)
 {
     QList<QByteArray> digests;
-    QDirIterator files(folder, QDir::Files | QDir::Hidden | QDir::System | QDir::NoSymLinks, QDirIterator::Subdirectories);
+    QDirIterator files(
+        folder, QDir::Files | QDir::Hidden | QDir::System | QDir::NoSymLinks, QDirIterator::Subdirectories);
     while (files.hasNext())
         digests.append(QCryptographicHash::hash(contentOf(files.next()), QCryptographicHash::Sha1));
     std::ranges::sort(digests);
@@ -93,11 +83,12 @@ private Q_SLOTS:
 
         const QString root = reader::extractedByXorriso(machine.recorder.iso(), machine.media.path());
         QCOMPARE(QDir(root).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
-                 QStringList(QFileInfo(source).fileName()));
+            QStringList(QFileInfo(source).fileName()));
         const QByteArray difference = reader::difference(source, root + u'/' + QFileInfo(source).fileName());
         QVERIFY2(difference.isEmpty(), difference.constData());
         QVERIFY(machine.recorder.status().contains(project == 6 ? "not writable" : "erasable"));
-        QCOMPARE(QDir(machine.controller->s_Data_Folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+        QCOMPARE(QDir(machine.controller->s_Data_Folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+            QStringList());
     }
 
     void theJolietTreeHoldsEveryFile()
@@ -105,7 +96,7 @@ private Q_SLOTS:
         WholeMachine machine;
         const QString source = machine.mediaPath(u"tree"_s);
         makeAwkwardTree(source);
-        for (const char *link : {"link to file", "link to folder", "dangling link"})
+        for (const char *link : { "link to file", "link to folder", "dangling link" })
             QVERIFY(QFile::remove(source + u'/' + QLatin1StringView(link)));
         machine.choose(6);
         QVERIFY(machine.addFolder(source));
@@ -120,10 +111,9 @@ private Q_SLOTS:
     {
         WholeMachine machine;
         const QString source = machine.mediaPath(u"Tree – 木"_s);
-        const QStringList names{u"plain.txt"_s,      u"O'Brien \"x\""_s,    u"-drive"_s, u"  blanks  "_s,
-                                u"$(x) `y` []|<>"_s, u"100%1 %s"_s,         u".hidden"_s, u"Case"_s,
-                                u"case"_s,           QString(100, u'x'),   u"😀😀 name"_s,
-                                u"日本語 한국어 עברית العربية ไทย Ελλάδα Россия"_s};
+        const QStringList names{ u"plain.txt"_s, u"O'Brien \"x\""_s, u"-drive"_s, u"  blanks  "_s,
+            u"$(x) `y` []|<>"_s, u"100%1 %s"_s, u".hidden"_s, u"Case"_s, u"case"_s, QString(100, u'x'),
+            u"😀😀 name"_s, u"日本語 한국어 עברית العربية ไทย Ελλάδα Россия"_s };
         for (const QString &name : names) {
             makeFile(source + u"/files/"_s + name, name.toUtf8());
             makeFile(source + u"/folders/"_s + name + u"/inside"_s, name.toUtf8());
@@ -145,7 +135,8 @@ private Q_SLOTS:
         machine.controller->around.stagingPoll = 5000;
         const QString source = machine.mediaPath(u"many"_s);
         for (int i = 0; i < 3000; ++i)
-            makeFile(source + u"/folder %1/file %2"_s.arg(i % 30).arg(i), QByteArray::number(i).repeated(i % 700));
+            makeFile(
+                source + u"/folder %1/file %2"_s.arg(i % 30).arg(i), QByteArray::number(i).repeated(i % 700));
         machine.choose(6);
         QVERIFY(machine.addFolder(source));
         machine.press("btnBurn");
@@ -163,7 +154,7 @@ private Q_SLOTS:
         makeFile(machine.mediaPath(u"c/photos/three.jpg"_s), "three");
         makeFile(machine.mediaPath(u"letters/dear.txt"_s), "dear");
         machine.choose(6);
-        for (const char *folder : {"a/photos", "b/photos", "letters", "c/photos"})
+        for (const char *folder : { "a/photos", "b/photos", "letters", "c/photos" })
             QVERIFY(machine.addFolder(machine.mediaPath(QLatin1StringView(folder))));
         machine.press("btnBurn");
         QVERIFY(machine.completes());
@@ -188,9 +179,11 @@ private Q_SLOTS:
         machine.press("btnBurn");
         QVERIFY(machine.completes());
         QVERIFY2(machine.trouble().startsWith(u"drutil: "_s), qUtf8Printable(machine.trouble()));
-        QVERIFY2(machine.trouble().contains(QRegularExpression(u"\\d.*\\d"_s)), qUtf8Printable(machine.trouble()));
+        QVERIFY2(
+            machine.trouble().contains(QRegularExpression(u"\\d.*\\d"_s)), qUtf8Printable(machine.trouble()));
         QCOMPARE(machine.recorder.status(), before);
-        QCOMPARE(QDir(machine.controller->s_Data_Folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+        QCOMPARE(QDir(machine.controller->s_Data_Folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+            QStringList());
     }
 
     void aDiscThatWasRewrittenHoldsTheNewTreeOnly()
@@ -199,7 +192,7 @@ private Q_SLOTS:
         machine.recorder.insert(u"cd-rw"_s);
         makeFile(machine.mediaPath(u"first/one"_s), "one");
         makeFile(machine.mediaPath(u"second/two"_s), "two");
-        for (const char *folder : {"first", "second"}) {
+        for (const char *folder : { "first", "second" }) {
             machine.choose(6);
             QVERIFY(machine.addFolder(machine.mediaPath(QLatin1StringView(folder))));
             machine.press("btnBurn");

@@ -11,8 +11,9 @@ namespace {
 /// place of the folder in which discs are gathered. Nobody else sees it.
 QStringList mounted(const QString &options)
 {
-    return { u"unshare"_s, ::geteuid() == 0 ? u"--mount"_s : u"--map-root-user"_s, u"--mount"_s, u"sh"_s, u"-c"_s,
-        u"mount -t tmpfs -o %1 none \"$HOME/Documents/CorvalisData\" && exec \"$@\""_s.arg(options), u"sh"_s };
+    return { u"unshare"_s, ::geteuid() == 0 ? u"--mount"_s : u"--map-root-user"_s, u"--mount"_s, u"sh"_s,
+        u"-c"_s, u"mount -t tmpfs -o %1 none \"$HOME/Documents/CorvalisData\" && exec \"$@\""_s.arg(options),
+        u"sh"_s };
 }
 
 /// Runs the command that follows with the rights of the files' owner, also where that is root.
@@ -41,25 +42,29 @@ int writeFolder(const QString &source)
     machine.press("btnBurn");
     if (!machine.completes())
         return 2;
-    const int left = int(QDir(machine.controller->s_Data_Folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size());
+    const int left = int(
+        QDir(machine.controller->s_Data_Folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size());
     if (QFile::exists(machine.recorder.iso()))
         QFile::copy(machine.recorder.iso(), source + u".iso"_s);
     QFile output;
     if (!output.open(stdout, QIODevice::WriteOnly))
         return 3;
-    for (const QString &part : { machine.trouble(), machine.controller->activityLog->text(), QString::number(left) })
+    for (const QString &part :
+        { machine.trouble(), machine.controller->activityLog->text(), QString::number(left) })
         output.write(part.toUtf8() + '\0');
     return 0;
 }
 
 Outcome write(const QString &source, const QStringList &wrapper)
 {
-    const QStringList command = wrapper + QStringList { QCoreApplication::applicationFilePath(), u"--write"_s, source };
+    const QStringList command =
+        wrapper + QStringList{ QCoreApplication::applicationFilePath(), u"--write"_s, source };
     const Printed printed = run(command.first(), command.mid(1));
     const QList<QByteArray> parts = printed.output.split('\0');
     if (printed.status != 0 || parts.size() != 4)
         return { {}, {}, -1, u"ended with %1\n"_s.arg(printed.status) + QString::fromUtf8(printed.errors) };
-    return { QString::fromUtf8(parts[0]), QString::fromUtf8(parts[1]), parts[2].toInt(), QString::fromUtf8(printed.errors) };
+    return { QString::fromUtf8(parts[0]), QString::fromUtf8(parts[1]), parts[2].toInt(),
+        QString::fromUtf8(printed.errors) };
 }
 
 /// Whether every file of a tree is the whole file of that name in the other one.
@@ -82,10 +87,7 @@ class StagingFaultsTest : public QObject {
     QTemporaryDir m_place;
 
 private Q_SLOTS:
-    void init()
-    {
-        QVERIFY(QDir().mkpath(documents(u"CorvalisData"_s)));
-    }
+    void init() { QVERIFY(QDir().mkpath(documents(u"CorvalisData"_s))); }
 
     void whatCannotBeReadIsLeftOutAndNamed()
     {
@@ -97,14 +99,17 @@ private Q_SLOTS:
         QVERIFY(QFile::setPermissions(source + u"/letters/two\nlines \"secret\""_s, {}));
         QVERIFY(QFile::setPermissions(source + u"/closed"_s, {}));
         const Outcome outcome = write(source, asOwner());
-        QVERIFY(QFile::setPermissions(source + u"/closed"_s, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        QVERIFY(QFile::setPermissions(
+            source + u"/closed"_s, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
         QVERIFY2(outcome.log.contains(source + u"/letters/two\nlines \"secret\": Permission denied\n"_s),
-                 qUtf8Printable(outcome.log + outcome.printed));
-        QVERIFY2(outcome.trouble.contains(source + u"/closed: Permission denied"_s), qUtf8Printable(outcome.trouble));
+            qUtf8Printable(outcome.log + outcome.printed));
+        QVERIFY2(outcome.trouble.contains(source + u"/closed: Permission denied"_s),
+            qUtf8Printable(outcome.trouble));
         QCOMPARE(outcome.left, 0);
         QVERIFY(QDir(source + u"/closed"_s).removeRecursively());
         QVERIFY(QFile::remove(source + u"/letters/two\nlines \"secret\""_s));
-        const QString tree = reader::extractedByXorriso(source + u".iso"_s, m_place.filePath(u"closed disc"_s));
+        const QString tree =
+            reader::extractedByXorriso(source + u".iso"_s, m_place.filePath(u"closed disc"_s));
         QCOMPARE(reader::difference(source, tree + u"/partly closed"_s), QByteArray());
     }
 
@@ -114,10 +119,12 @@ private Q_SLOTS:
         for (int i = 0; i < 10; ++i)
             makeFile(source + u"/file %1"_s.arg(i), QByteArray(400'000, char('0' + i)));
         const Outcome outcome = write(source, mounted(u"size=2m"_s));
-        QVERIFY2(outcome.trouble.contains(QRegularExpression(QRegularExpression::escape(source) + u"/file \\d: No space left on device"_s)),
-                 qUtf8Printable(outcome.trouble + outcome.printed));
+        QVERIFY2(outcome.trouble.contains(QRegularExpression(
+                     QRegularExpression::escape(source) + u"/file \\d: No space left on device"_s)),
+            qUtf8Printable(outcome.trouble + outcome.printed));
         QCOMPARE(outcome.left, 0);
-        const QString tree = reader::extractedByXorriso(source + u".iso"_s, m_place.filePath(u"full disk"_s)) + u"/too much"_s;
+        const QString tree =
+            reader::extractedByXorriso(source + u".iso"_s, m_place.filePath(u"full disk"_s)) + u"/too much"_s;
         const qsizetype whole = QDir(tree).entryList(QDir::Files).size();
         QVERIFY2(whole >= 3 && whole < 10, qPrintable(QString::number(whole)));
         QVERIFY(holdsWholeFilesOnly(tree, source));
@@ -129,7 +136,7 @@ private Q_SLOTS:
         makeFile(source + u"/beach.jpg"_s, "sand");
         const Outcome outcome = write(source, mounted(u"ro"_s));
         QVERIFY2(outcome.trouble.contains(documents(u"CorvalisData/photos: Read-only file system"_s)),
-                 qUtf8Printable(outcome.trouble + outcome.printed));
+            qUtf8Printable(outcome.trouble + outcome.printed));
         QCOMPARE(outcome.left, 0);
     }
 };

@@ -13,7 +13,7 @@ struct Clip {
     const char *aspect; ///< of the converted clip's display; empty where the pixels become square
 };
 
-const QList<Clip> clips {
+const QList<Clip> clips{
     { u"Say \"yes\".mp4"_s, "160x120", "-c:v libx264 -preset ultrafast -c:a aac", "4:3" },
     { u"-i.mov"_s, "160x120", "-c:v mpeg4 -c:a pcm_s16le", "4:3" },
     { u"映画 Ωñ.avi"_s, "320x180", "-c:v mpeg4 -c:a mp3", "16:9" },
@@ -26,8 +26,8 @@ const QList<Clip> clips {
 
 QString source(const Clip &clip)
 {
-    return u"-f lavfi -i testsrc=size=%1:rate=15:duration=1 -f lavfi -i sine=duration=1 -ac 2 -pix_fmt yuv420p "_s.arg(
-        QLatin1StringView(clip.picture));
+    return u"-f lavfi -i testsrc=size=%1:rate=15:duration=1 -f lavfi -i sine=duration=1 -ac 2 -pix_fmt yuv420p "_s
+        .arg(QLatin1StringView(clip.picture));
 }
 
 } // namespace
@@ -63,7 +63,8 @@ private Q_SLOTS:
         QTest::addColumn<bool>("pal");
         QTest::addColumn<bool>("mpeg");
         QTest::addColumn<bool>("every");
-        QTest::newRow("Video DVD, NTSC, Dolby Digital, all clips") << 4 << u"dvd-r"_s << false << false << true;
+        QTest::newRow("Video DVD, NTSC, Dolby Digital, all clips")
+            << 4 << u"dvd-r"_s << false << false << true;
         QTest::newRow("Video DVD, NTSC, MPEG audio") << 4 << u"dvd+r"_s << false << true << false;
         QTest::newRow("Video DVD, PAL, Dolby Digital") << 4 << u"dvd-rw"_s << true << false << false;
         QTest::newRow("Video DVD, PAL, MPEG audio") << 4 << u"dvd+rw"_s << true << true << false;
@@ -79,7 +80,7 @@ private Q_SLOTS:
         QFETCH(bool, pal);
         QFETCH(bool, mpeg);
         QFETCH(bool, every);
-        const QList<Clip> taken = every ? clips : QList<Clip> { clips.first(), clips.at(2) };
+        const QList<Clip> taken = every ? clips : QList<Clip>{ clips.first(), clips.at(2) };
         WholeMachine machine;
         machine.recorder.insert(disc);
         machine.choose(project);
@@ -96,14 +97,17 @@ private Q_SLOTS:
 
         const QString tree = reader::extractedByXorriso(machine.recorder.iso(), machine.media.path());
         QCOMPARE(QDir(tree).entryList(QDir::Files | QDir::Hidden).size(), taken.size());
-        const QString video = pal ? u"codec_name=mpeg2video|width=720|height=576|display_aspect_ratio=%1|r_frame_rate=25/1"_s
-                                  : u"codec_name=mpeg2video|width=720|height=480|display_aspect_ratio=%1|r_frame_rate=30000/1001"_s;
+        const QString video = pal
+            ? u"codec_name=mpeg2video|width=720|height=576|display_aspect_ratio=%1|r_frame_rate=25/1"_s
+            : u"codec_name=mpeg2video|width=720|height=480|display_aspect_ratio=%1|r_frame_rate=30000/1001"_s;
         const QString audio = u"codec_name=%1|sample_rate=48000|channels=2"_s.arg(mpeg ? u"mp2"_s : u"ac3"_s);
         for (const Clip &clip : taken) {
             const QString file = tree + u'/' + clip.name.left(clip.name.lastIndexOf(u'.')) + u".mpg"_s;
             QVERIFY2(QFile::exists(file), qUtf8Printable(file));
             const QLatin1StringView aspect(*clip.aspect ? clip.aspect : pal ? "5:4" : "3:2");
-            QCOMPARE(reader::stream(file, u"v"_s, u"codec_name,width,height,r_frame_rate,display_aspect_ratio"_s), video.arg(aspect));
+            QCOMPARE(
+                reader::stream(file, u"v"_s, u"codec_name,width,height,r_frame_rate,display_aspect_ratio"_s),
+                video.arg(aspect));
             QCOMPARE(reader::stream(file, u"a"_s, u"codec_name,sample_rate,channels"_s), audio);
         }
     }

@@ -13,10 +13,23 @@ struct Found {
 };
 
 const Found founds[] = {
-    {"none", false, ""},      {"cd-r", false, "CD"},   {"cd-r", true, "CD"},    {"cd-rw", false, "CD"},
-    {"cd-rw", true, "CD"},    {"dvd-r", false, "DVD"}, {"dvd-r", true, "DVD"},  {"dvd-rw", false, "DVD"}, {"dvd-rw", true, "DVD"},
-    {"dvd+r", false, "DVD"},  {"dvd+r", true, "DVD"},  {"dvd+rw", false, "DVD"}, {"dvd+rw", true, "DVD"}, {"bd-r", false, "BD"},
-    {"bd-r", true, "BD"},     {"bd-re", false, "BD"},  {"bd-re", true, "BD"},
+    { "none", false, "" },
+    { "cd-r", false, "CD" },
+    { "cd-r", true, "CD" },
+    { "cd-rw", false, "CD" },
+    { "cd-rw", true, "CD" },
+    { "dvd-r", false, "DVD" },
+    { "dvd-r", true, "DVD" },
+    { "dvd-rw", false, "DVD" },
+    { "dvd-rw", true, "DVD" },
+    { "dvd+r", false, "DVD" },
+    { "dvd+r", true, "DVD" },
+    { "dvd+rw", false, "DVD" },
+    { "dvd+rw", true, "DVD" },
+    { "bd-r", false, "BD" },
+    { "bd-r", true, "BD" },
+    { "bd-re", false, "BD" },
+    { "bd-re", true, "BD" },
 };
 
 bool isRewritable(const Found &found)
@@ -24,7 +37,7 @@ bool isRewritable(const Found &found)
     return QByteArray(found.kind).endsWith("w") || QByteArray(found.kind) == "bd-re";
 }
 
-const char *const families[] = {"CD", "CD", "DVD", "DVD", "BD", "CD", "DVD", "BD"};
+const char *const families[] = { "CD", "CD", "DVD", "DVD", "BD", "CD", "DVD", "BD" };
 
 } // namespace
 
@@ -38,7 +51,7 @@ class WrongDiscsTest : public QObject {
             return;
         QTemporaryDir folder;
         makeFile(folder.filePath(u"file"_s), "content");
-        recorder.drutil({u"burn"_s, folder.path()});
+        recorder.drutil({ u"burn"_s, folder.path() });
     }
 
     /// The message of the first alert that is to come; none for a disc that will do.
@@ -50,7 +63,8 @@ class WrongDiscsTest : public QObject {
             return u"Media not writable"_s;
         if (QByteArray(found.family) == family)
             return {};
-        return QByteArray(family) == "BD" ? u"Media not Blu-ray"_s : u"Media not "_s + QLatin1StringView(family);
+        return QByteArray(family) == "BD" ? u"Media not Blu-ray"_s
+                                          : u"Media not "_s + QLatin1StringView(family);
     }
 
 private Q_SLOTS:
@@ -74,8 +88,8 @@ private Q_SLOTS:
             const char *family = families[project - 1];
             NodeMediaFile file;
             file.s_File_Path = media.filePath(u"clip.mp4"_s);
-            app.controller->arrayMediaFiles = {file};
-            app.controller->arrayDataFolders = {{media.path(), 1, u"1 KB"_s}};
+            app.controller->arrayMediaFiles = { file };
+            app.controller->arrayDataFolders = { { media.path(), 1, u"1 KB"_s } };
             // A disc that will do is not written here: the check is asked, not the burn button.
             const bool taken = expected(found, family).isEmpty();
             if (!taken)
@@ -84,14 +98,18 @@ private Q_SLOTS:
                 QCOMPARE(app.controller->TypeOfMediaInTheDrive(), QLatin1StringView(family));
             if (taken)
                 QVERIFY(app.controller->IsMediaOneTimeWritable() || app.controller->IsMediaReWritable());
-            const QString told = app.questions.alerts.isEmpty() ? QString() : app.questions.alerts.first().message;
+            const QString told =
+                app.questions.alerts.isEmpty() ? QString() : app.questions.alerts.first().message;
             QCOMPARE(told, expected(found, family));
             QCOMPARE(app.questions.alerts.size(), taken ? 0 : 1);
             QCOMPARE(app.controller->activityLog->text().contains(u" burn "_s), false);
         }
     }
 
-    void theErasableDiscsAreErasedAndTheOthersRefused_data() { theRightDiscsAreTakenAndTheOthersRefused_data(); }
+    void theErasableDiscsAreErasedAndTheOthersRefused_data()
+    {
+        theRightDiscsAreTakenAndTheOthersRefused_data();
+    }
     void theErasableDiscsAreErasedAndTheOthersRefused()
     {
         QFETCH(Found, found);
@@ -101,14 +119,16 @@ private Q_SLOTS:
         app.useRealTools();
         app.launch();
         app.controller->OnToolsFormatQuick();
-        const QString told = app.questions.alerts.isEmpty() ? QString() : app.questions.alerts.first().message;
+        const QString told =
+            app.questions.alerts.isEmpty() ? QString() : app.questions.alerts.first().message;
         if (QByteArray(found.kind) == "none") {
             QCOMPARE(told, u"No disc"_s);
         } else if (!isRewritable(found)) {
             QCOMPARE(told, u"Media not rewritable"_s);
         } else {
             QCOMPARE(told, QString());
-            QVERIFY(QTest::qWaitFor([&app] { return !app.controller->windowOperationCompleted.isNull(); }, 60'000));
+            QVERIFY(QTest::qWaitFor(
+                [&app] { return !app.controller->windowOperationCompleted.isNull(); }, 60'000));
             QCOMPARE(app.controller->activityLog->troublesSince(0), QStringList());
             QVERIFY(!QFile::exists(recorder.iso()));
         }
@@ -118,10 +138,9 @@ private:
     static void burn(AppDelegate &controller, int project)
     {
         using Pipeline = void (AppDelegate::*)();
-        const Pipeline pipelines[] = {&AppDelegate::Burn_Audio_CD,    &AppDelegate::Burn_Audio_MP3_CD,
-                                      &AppDelegate::Burn_Audio_MP3_DVD, &AppDelegate::Burn_Video_DVD,
-                                      &AppDelegate::Burn_Video_Bluray, &AppDelegate::Burn_Data_CD,
-                                      &AppDelegate::Burn_Data_DVD,     &AppDelegate::Burn_Data_Bluray};
+        const Pipeline pipelines[] = { &AppDelegate::Burn_Audio_CD, &AppDelegate::Burn_Audio_MP3_CD,
+            &AppDelegate::Burn_Audio_MP3_DVD, &AppDelegate::Burn_Video_DVD, &AppDelegate::Burn_Video_Bluray,
+            &AppDelegate::Burn_Data_CD, &AppDelegate::Burn_Data_DVD, &AppDelegate::Burn_Data_Bluray };
         (controller.*pipelines[project - 1])();
     }
 };

@@ -147,9 +147,10 @@ void ActivityLogTest::tellsTroubles_data()
     row("it said only line ends", u"/usr/bin/drutil"_s, "\n\r\n", true, { u"drutil: how it ended"_s });
     row("a very long line", u"ffmpeg"_s, QByteArray(5000, 'x'), true, { u"ffmpeg: "_s + QString(300, u'x') });
     row("a reason before how far it came and that it failed", u"ffmpeg"_s,
-        "Error writing trailer: No space left on device\nsize=      64kB time=00:00:02.97 bitrate= 176.0kbits/s\r"
-        "video:0kB audio:257kB subtitle:0kB\nConversion failed!\n", true,
-        { u"ffmpeg: Error writing trailer: No space left on device"_s });
+        "Error writing trailer: No space left on device\nsize=      64kB time=00:00:02.97 bitrate= "
+        "176.0kbits/s\r"
+        "video:0kB audio:257kB subtitle:0kB\nConversion failed!\n",
+        true, { u"ffmpeg: Error writing trailer: No space left on device"_s });
     row("nothing but how far it came", u"ffmpeg"_s, "frame=  10 fps=0.0\rConversion failed!\n", true,
         { u"ffmpeg: how it ended"_s });
     row("a word that only begins so", u"ffmpeg"_s, "size= of the disc is not known\n", true,
@@ -209,7 +210,8 @@ void ActivityLogTest::writesARunAsText_data()
     const QString time = u"2024-02-29 13:05:09  "_s;
     const QStringList command{ u"drutil"_s, u"burn"_s, u"My Disc"_s };
     const QString line = time + u"drutil burn 'My Disc'\n    "_s;
-    QTest::newRow("is running") << Activity{ started, command, {}, {}, false, {}, 0 } << line + u"is running\n"_s;
+    QTest::newRow("is running") << Activity{ started, command, {}, {}, false, {}, 0 }
+                                << line + u"is running\n"_s;
     QTest::newRow("ended") << Activity{ started, command, {}, u"ended with status 3"_s, true, "no disc\n", 0 }
                            << line + u"ended with status 3\nno disc\n"_s;
     QTest::newRow("output without a line end")

@@ -50,11 +50,11 @@ struct Choice {
     QColor dark;
 };
 const Choice choices[] = {
-    {"colorListBackground", QColor(250, 246, 236), QColor(24, 34, 31)},
-    {"colorListForeground", QColor(52, 44, 38), QColor(214, 228, 220)},
-    {"colorToolbar", QColor(47, 98, 84), QColor(38, 78, 67)},
-    {"colorBottomBar", QColor(35, 74, 64), QColor(29, 59, 51)},
-    {"colorSpaceOccupied", QColor(232, 163, 61), QColor(232, 163, 61)},
+    { "colorListBackground", QColor(250, 246, 236), QColor(24, 34, 31) },
+    { "colorListForeground", QColor(52, 44, 38), QColor(214, 228, 220) },
+    { "colorToolbar", QColor(47, 98, 84), QColor(38, 78, 67) },
+    { "colorBottomBar", QColor(35, 74, 64), QColor(29, 59, 51) },
+    { "colorSpaceOccupied", QColor(232, 163, 61), QColor(232, 163, 61) },
 };
 
 /// Waits until `reached` answers true; without it there is nothing to photograph.
@@ -67,8 +67,11 @@ void waitFor(const std::function<bool()> &reached, int limit)
 class Photographer {
 public:
     Photographer(const QString &suffix, const QString &media, const QString &output)
-        : m_suffix(suffix), m_media(media), m_output(output), m_around(Surroundings::ofThisMachine(&m_panels)),
-          m_controller(&m_window, m_around)
+        : m_suffix(suffix)
+        , m_media(media)
+        , m_output(output)
+        , m_around(Surroundings::ofThisMachine(&m_panels))
+        , m_controller(&m_window, m_around)
     {
         m_controller.awakeFromNib();
         m_controller.applicationDidFinishLaunching();
@@ -96,7 +99,8 @@ private:
     {
         QTest::qWait(250);
         const QRect area(window.mapToGlobal(QPoint(0, 0)), window.size());
-        const QPixmap picture = window.screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height());
+        const QPixmap picture =
+            window.screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height());
         picture.save(u"%1/%2-%3.png"_s.arg(m_output, name, m_suffix));
     }
 
@@ -111,7 +115,7 @@ private:
     void takeAudio()
     {
         shoot(u"audio-empty"_s);
-        m_panels.answer = media({u"*.mp3"_s, u"*.m4a"_s, u"*.wav"_s, u"*.wma"_s});
+        m_panels.answer = media({ u"*.mp3"_s, u"*.m4a"_s, u"*.wav"_s, u"*.wma"_s });
         m_controller.OnActionAudioAddFiles();
         waitFor([this] { return !m_controller.windowUniqueProgress; }, 30'000);
         ui()->tableviewAudioFiles->selectRow(2);
@@ -192,12 +196,12 @@ private:
     void takeTabs()
     {
         ui()->submenuItemTabVideo->trigger();
-        m_panels.answer = media({u"*.mp4"_s, u"*.avi"_s, u"*.mov"_s});
+        m_panels.answer = media({ u"*.mp4"_s, u"*.avi"_s, u"*.mov"_s });
         m_controller.OnActionVideoAddFiles();
         waitFor([this] { return !m_controller.windowUniqueProgress; }, 30'000);
         shoot(u"video"_s);
         ui()->submenuItemTabData->trigger();
-        m_panels.answer = {QUrl::fromLocalFile(m_media)};
+        m_panels.answer = { QUrl::fromLocalFile(m_media) };
         m_controller.OnActionDataAddFolder();
         shoot(u"data"_s);
         ui()->submenuItemTabISO->trigger();
@@ -210,8 +214,8 @@ private:
     void takeSheets()
     {
         const std::pair<QString, void (AppDelegate::*)()> sheets[] = {
-            {u"new-disc"_s, &AppDelegate::ShowNewDiscWindow},
-            {u"video-settings"_s, &AppDelegate::OnActionVideoSettings},
+            { u"new-disc"_s, &AppDelegate::ShowNewDiscWindow },
+            { u"video-settings"_s, &AppDelegate::OnActionVideoSettings },
         };
         for (const auto &[name, open] : sheets) {
             (m_controller.*open)();
@@ -224,8 +228,8 @@ private:
     void takeAlerts()
     {
         const std::pair<QString, void (AppDelegate::*)()> alerts[] = {
-            {u"alert"_s, &AppDelegate::OnBtnBurn},
-            {u"disc-information"_s, &AppDelegate::OnToolsDiscInfo},
+            { u"alert"_s, &AppDelegate::OnBtnBurn },
+            { u"disc-information"_s, &AppDelegate::OnToolsDiscInfo },
         };
         for (const auto &[name, open] : alerts) {
             QTimer::singleShot(500, qApp, [this, picture = name] {

@@ -64,7 +64,8 @@ protected:
         const bool shown = event->type() == QEvent::Show;
         if ((shown || event->type() == QEvent::Hide) && !event->spontaneous()) {
             if (auto *sheet = qobject_cast<Sheet *>(watched)) {
-                m_order.append(QLatin1Char(shown ? '+' : '-') + QLatin1String(sheet->metaObject()->className()));
+                m_order.append(
+                    QLatin1Char(shown ? '+' : '-') + QLatin1String(sheet->metaObject()->className()));
                 m_times[m_order.last()] = m_clock.elapsed();
                 if (const auto &hook = shown ? onShow : onHide)
                     hook(sheet);
@@ -129,10 +130,11 @@ public:
     /// Shell commands of a conversion; "$output" is the file to be made, "$tool" the path for side files.
     void convertWith(const QByteArray &commands) const
     {
-        ffmpeg.run("tool=$0\n"
-                   "if [ $# -eq 2 ]; then printf '  Duration: %s, start: 0.0\\n' \"$(cat \"$2\")\" >&2; exit 1; fi\n"
-                   "for output; do :; done\n"
-                   + commands);
+        ffmpeg.run(
+            "tool=$0\n"
+            "if [ $# -eq 2 ]; then printf '  Duration: %s, start: 0.0\\n' \"$(cat \"$2\")\" >&2; exit 1; fi\n"
+            "for output; do :; done\n"
+            + commands);
     }
 
     /// Shell commands of a write, after the folder's names are noted.
@@ -142,7 +144,7 @@ public:
                    "if [ \"$2\" = -audio ]; then folder=$3; else folder=$2; fi\n"
                    "tool=$0\n"
                    "(cd \"$folder\" && find . -mindepth 1 -printf '%P\\0') > \"$0.seen\"\n"
-                   + commands);
+            + commands);
     }
 
     /// Shell commands that wait until release(gate), at most two minutes.
@@ -162,7 +164,7 @@ public:
     {
         QFile noted(drutil.path() + QLatin1String(".seen"));
         if (!noted.open(QIODevice::ReadOnly))
-            return {QStringLiteral("nothing was written")};
+            return { QStringLiteral("nothing was written") };
         QStringList names = QString::fromUtf8(noted.readAll()).split(QChar(0), Qt::SkipEmptyParts);
         names.sort();
         return names;
@@ -186,8 +188,8 @@ public:
         const auto *widget = element<QAbstractButton>(button);
         if (!QTest::qWaitForWindowExposed(window.get()) || !widget->isVisible())
             qWarning() << "nobody can press" << widget;
-        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {},
-                          widget->mapTo(window.get(), widget->rect().center()));
+        QTest::mouseClick(
+            window->windowHandle(), Qt::LeftButton, {}, widget->mapTo(window.get(), widget->rect().center()));
     }
     void trigger(const char *menuItem) const { element<QAction>(menuItem)->trigger(); }
 
@@ -208,13 +210,13 @@ public:
         asked.choices.append(urls);
         QSignalSpy ended(controller.get(), &AppDelegate::addingEnded);
         press(element<QTabWidget>("tabviewMain")->currentIndex() == 0 ? "toolbar_btn_Audio_Add_Files"
-                                                               : "toolbar_btn_Video_Add_Files");
+                                                                      : "toolbar_btn_Video_Add_Files");
         return ended.count() > 0 || ended.wait(20'000);
     }
 
     void addFolder(const QString &path)
     {
-        asked.choices.append(QList<QUrl>{QUrl::fromLocalFile(path)});
+        asked.choices.append(QList<QUrl>{ QUrl::fromLocalFile(path) });
         press("toolbar_btn_Data_Add_Folder");
     }
 
@@ -223,8 +225,8 @@ public:
     {
         if (QTest::qWaitFor([this] { return !controller->windowOperationCompleted.isNull(); }, 120'000))
             return true;
-        qWarning() << "the job has not ended: sheets" << sheets.order() << "panels" << asked.panels.size() << "alerts"
-                   << asked.texts() << "modal" << QApplication::activeModalWidget();
+        qWarning() << "the job has not ended: sheets" << sheets.order() << "panels" << asked.panels.size()
+                   << "alerts" << asked.texts() << "modal" << QApplication::activeModalWidget();
         qWarning().noquote() << controller->activityLog->text();
         return false;
     }
@@ -238,7 +240,8 @@ public:
     /// The line of trouble on the operation-complete sheet, empty when it tells of none.
     QString trouble() const
     {
-        const auto *text = controller->windowOperationCompleted->findChild<QLabel *>(QStringLiteral("labelDescription"));
+        const auto *text =
+            controller->windowOperationCompleted->findChild<QLabel *>(QStringLiteral("labelDescription"));
         return text->isVisible() ? text->text().remove(QChar(0x200b)) : QString();
     }
 

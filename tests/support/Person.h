@@ -104,7 +104,8 @@ inline void drop(const QWidget *widget, const QList<QUrl> &urls)
 /// Waits until a window has the keyboard; a sheet gets it only after its parent has had it.
 [[nodiscard]] inline bool awaitKeyboard(const QWidget *window)
 {
-    return QTest::qWaitFor([window] { return QGuiApplication::focusWindow() == window->windowHandle(); }, patience);
+    return QTest::qWaitFor(
+        [window] { return QGuiApplication::focusWindow() == window->windowHandle(); }, patience);
 }
 
 /// Types on the keyboard, into whatever window has it. Where no window manager hands the keyboard back after

@@ -23,7 +23,6 @@ namespace support {
 inline const std::string longestName(255, 'n');
 inline const std::string notUtf8 = "caf\xe9\xff\n'\"";
 
-
 /// Ends the test with the system's reason when a step of its preparation fails.
 inline int check(int result, const std::string &what)
 {

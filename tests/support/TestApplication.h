@@ -5,31 +5,33 @@
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QAbstractButton>
-#include <QApplication>
 #include <QtTest>
 
 /// A program that notes the arguments of every run, prints what the test wants, and ends.
 class NotingTool {
 public:
     /// Makes the program `name` in `folder`.
-    NotingTool(const QString &folder, const QString &name) : m_path(folder + QLatin1Char('/') + name)
+    NotingTool(const QString &folder, const QString &name)
+        : m_path(folder + QLatin1Char('/') + name)
     {
         QFile script(m_path);
         if (!script.open(QIODevice::WriteOnly))
             qFatal("%s cannot be written", qUtf8Printable(m_path));
         // Arguments end with a unit separator, runs with a record separator, so that any name can be noted.
-        script.write("#!/bin/sh\n"
-                     "{ for argument; do printf '%s\\037' \"$argument\"; done; printf '\\036'; } >> \"$0.log\"\n"
-                     "[ -e \"$0.out.$1\" ] && cat \"$0.out.$1\"\n"
-                     "[ -e \"$0.do\" ] && . \"$0.do\"\n"
-                     "exit 0\n");
+        script.write(
+            "#!/bin/sh\n"
+            "{ for argument; do printf '%s\\037' \"$argument\"; done; printf '\\036'; } >> \"$0.log\"\n"
+            "[ -e \"$0.out.$1\" ] && cat \"$0.out.$1\"\n"
+            "[ -e \"$0.do\" ] && . \"$0.do\"\n"
+            "exit 0\n");
         script.close();
         script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
@@ -123,9 +125,9 @@ inline QString builtPrograms()
 class TestApplication {
 public:
     QTemporaryDir folder;
-    NotingTool drutil{folder.path(), QStringLiteral("drutil")};
-    NotingTool hdiutil{folder.path(), QStringLiteral("hdiutil")};
-    NotingTool ffmpeg{folder.path(), QStringLiteral("ffmpeg")};
+    NotingTool drutil{ folder.path(), QStringLiteral("drutil") };
+    NotingTool hdiutil{ folder.path(), QStringLiteral("hdiutil") };
+    NotingTool ffmpeg{ folder.path(), QStringLiteral("ffmpeg") };
     NotingQuestions questions;
     WindowQuestions dialogs;
     QList<int> exits; ///< every status with which the program would have ended
@@ -176,15 +178,14 @@ public:
         return window->findChild<Element *>(QLatin1String(name));
     }
 
-    static constexpr const char *oneDrive
-        = "   Vendor   Product           Rev   Bus       SupportLevel\n"
-          "1  CORVALIS Virtual Recorder  1.0   Virtual   Supported\n";
+    static constexpr const char *oneDrive = "   Vendor   Product           Rev   Bus       SupportLevel\n"
+                                            "1  CORVALIS Virtual Recorder  1.0   Virtual   Supported\n";
 };
 
 /// Makes the HOME of the running test as it is before the program's first start.
 inline void emptyHome()
 {
-    for (const auto place : {QStandardPaths::DocumentsLocation, QStandardPaths::ConfigLocation})
+    for (const auto place : { QStandardPaths::DocumentsLocation, QStandardPaths::ConfigLocation })
         QDir(QStandardPaths::writableLocation(place)).removeRecursively();
 }
 

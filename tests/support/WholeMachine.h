@@ -42,8 +42,9 @@ inline QByteArray runWell(const QString &program, const QStringList &arguments, 
 {
     const Printed printed = run(program, arguments, folder);
     if (printed.status != 0) {
-        qFatal("%s %s\nended with %d:\n%s", qUtf8Printable(program), qUtf8Printable(arguments.join(QLatin1Char(' '))),
-            printed.status, printed.errors.right(4000).constData());
+        qFatal("%s %s\nended with %d:\n%s", qUtf8Printable(program),
+            qUtf8Printable(arguments.join(QLatin1Char(' '))), printed.status,
+            printed.errors.right(4000).constData());
     }
     return printed.output;
 }
@@ -53,7 +54,7 @@ inline void makeMedia(const QString &path, const QString &arguments)
 {
     QDir().mkpath(QFileInfo(path).path());
     runWell(QStringLiteral("ffmpeg"),
-        QStringList { QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-y") }
+        QStringList{ QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-y") }
             + arguments.split(QLatin1Char(' ')) + QStringList(path));
 }
 
@@ -76,7 +77,10 @@ public:
     static QByteArray status() { return drutil({ QStringLiteral("status") }); }
 
     /// A file of the disc that lies in the recorder.
-    QString path(const QString &file) const { return m_folder.filePath(QStringLiteral("recorders/1/") + file); }
+    QString path(const QString &file) const
+    {
+        return m_folder.filePath(QStringLiteral("recorders/1/") + file);
+    }
     QString iso() const { return path(QStringLiteral("disc.iso")); }
     QStringList ejectedDiscs() const { return QDir(path(QStringLiteral("discs"))).entryList(QDir::Files); }
 
@@ -144,12 +148,15 @@ public:
     /// The line of trouble on the operation-complete sheet, empty when it tells of none.
     QString trouble() const
     {
-        const auto *text
-            = controller->windowOperationCompleted->findChild<QLabel *>(QStringLiteral("labelDescription"));
+        const auto *text =
+            controller->windowOperationCompleted->findChild<QLabel *>(QStringLiteral("labelDescription"));
         return text->isVisible() ? text->text().remove(QChar(0x200b)) : QString();
     }
 
-    void closeCompleteSheet() const { person::pressTitled(controller->windowOperationCompleted, QStringLiteral("OK")); }
+    void closeCompleteSheet() const
+    {
+        person::pressTitled(controller->windowOperationCompleted, QStringLiteral("OK"));
+    }
 
     QString mediaPath(const QString &name) const { return media.filePath(name); }
 };
@@ -196,13 +203,15 @@ inline QByteArray difference(const QString &one, const QString &other)
 /// What ffprobe says of the first stream of a kind ("v" or "a"), "key=value|key=value".
 inline QString stream(const QString &file, const QString &kind, const QString &entries)
 {
-    QString line = QString::fromUtf8(runWell(QStringLiteral("ffprobe"),
-                                 { QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-select_streams"),
-                                     kind + QStringLiteral(":0"), QStringLiteral("-show_entries"),
-                                     QStringLiteral("stream=") + entries, QStringLiteral("-of"),
-                                     QStringLiteral("compact=p=0"), file }))
-                       .section(QLatin1Char('\n'), 0, 0);
-    return line.endsWith(QLatin1Char('|')) ? line.chopped(1) : line; // side data of a stream add an empty field
+    QString line =
+        QString::fromUtf8(runWell(QStringLiteral("ffprobe"),
+                              { QStringLiteral("-v"), QStringLiteral("error"),
+                                  QStringLiteral("-select_streams"), kind + QStringLiteral(":0"),
+                                  QStringLiteral("-show_entries"), QStringLiteral("stream=") + entries,
+                                  QStringLiteral("-of"), QStringLiteral("compact=p=0"), file }))
+            .section(QLatin1Char('\n'), 0, 0);
+    return line.endsWith(QLatin1Char('|')) ? line.chopped(1)
+                                           : line; // side data of a stream add an empty field
 }
 
 } // namespace reader

@@ -16,11 +16,10 @@ struct Kind {
     QByteArray blank;
 };
 
-const Kind kinds[] = {{6, discs::blankCD}, {7, discs::blankDVD}, {8, discs::blankBD}};
+const Kind kinds[] = { { 6, discs::blankCD }, { 7, discs::blankDVD }, { 8, discs::blankBD } };
 
-const QStringList sheetsOfAJob{u"+Window_Data_Copy_Folders"_s, u"-Window_Data_Copy_Folders"_s,
-                               u"+Window_Performing_Operation"_s, u"-Window_Performing_Operation"_s,
-                               u"+Window_Operation_Terminated"_s};
+const QStringList sheetsOfAJob{ u"+Window_Data_Copy_Folders"_s, u"-Window_Data_Copy_Folders"_s,
+    u"+Window_Performing_Operation"_s, u"-Window_Performing_Operation"_s, u"+Window_Operation_Terminated"_s };
 
 } // namespace
 
@@ -69,13 +68,14 @@ private Q_SLOTS:
         JobApplication app;
         app.file(u"photos/summer/beach.jpg"_s);
         app.file(u"photos/.hidden"_s);
-        ready(app, {u"photos"_s}, kind);
+        ready(app, { u"photos"_s }, kind);
         QVERIFY(QDir(app.controller->s_Data_Folder).mkpath(u"left over/from before"_s));
         app.press("btnBurn");
         QVERIFY(app.completes());
-        const QStringList burn{u"burn"_s, app.controller->s_Data_Folder, u"-drive"_s, u"1"_s};
-        QCOMPARE(app.drutil.runs(u"burn"_s), QList<QStringList>{burn});
-        const QStringList tree{u"photos"_s, u"photos/.hidden"_s, u"photos/summer"_s, u"photos/summer/beach.jpg"_s};
+        const QStringList burn{ u"burn"_s, app.controller->s_Data_Folder, u"-drive"_s, u"1"_s };
+        QCOMPARE(app.drutil.runs(u"burn"_s), QList<QStringList>{ burn });
+        const QStringList tree{ u"photos"_s, u"photos/.hidden"_s, u"photos/summer"_s,
+            u"photos/summer/beach.jpg"_s };
         QCOMPARE(app.burned(), tree);
         QCOMPARE(app.sheets.order(), sheetsOfAJob);
         QCOMPARE(app.trouble(), QString());
@@ -99,7 +99,7 @@ private Q_SLOTS:
         JobApplication app;
         app.burnWith(ending);
         app.file(u"photos/beach.jpg"_s);
-        ready(app, {u"photos"_s});
+        ready(app, { u"photos"_s });
         app.press("btnBurn");
         QVERIFY(app.completes());
         QCOMPARE(app.namesIn(app.controller->s_Data_Folder), QStringList());
@@ -109,14 +109,13 @@ private Q_SLOTS:
     void foldersOfOneNameGoIntoNumberedFolders()
     {
         JobApplication app;
-        for (const char *folder : {"a", "b", "c"})
+        for (const char *folder : { "a", "b", "c" })
             app.file(QLatin1StringView(folder) + u"/photos/"_s + QLatin1StringView(folder) + u".jpg"_s);
-        ready(app, {u"a/photos"_s, u"b/photos"_s, u"c/photos"_s});
+        ready(app, { u"a/photos"_s, u"b/photos"_s, u"c/photos"_s });
         app.press("btnBurn");
         QVERIFY(app.completes());
-        const QStringList tree{u"photos"_s,           u"photos 1"_s,           u"photos 1/photos"_s,
-                               u"photos 1/photos/b.jpg"_s, u"photos 2"_s,      u"photos 2/photos"_s,
-                               u"photos 2/photos/c.jpg"_s, u"photos/a.jpg"_s};
+        const QStringList tree{ u"photos"_s, u"photos 1"_s, u"photos 1/photos"_s, u"photos 1/photos/b.jpg"_s,
+            u"photos 2"_s, u"photos 2/photos"_s, u"photos 2/photos/c.jpg"_s, u"photos/a.jpg"_s };
         QCOMPARE(app.burned(), tree);
     }
 
@@ -126,12 +125,11 @@ private Q_SLOTS:
         app.file(u"a/photos/a.jpg"_s);
         app.file(u"photos 1/b.jpg"_s);
         app.file(u"c/photos/c.jpg"_s);
-        ready(app, {u"a/photos"_s, u"photos 1"_s, u"c/photos"_s});
+        ready(app, { u"a/photos"_s, u"photos 1"_s, u"c/photos"_s });
         app.press("btnBurn");
         QVERIFY(app.completes());
-        const QStringList tree{u"photos"_s,   u"photos 1"_s,        u"photos 1/b.jpg"_s,
-                               u"photos 2"_s, u"photos 2/photos"_s, u"photos 2/photos/c.jpg"_s,
-                               u"photos/a.jpg"_s};
+        const QStringList tree{ u"photos"_s, u"photos 1"_s, u"photos 1/b.jpg"_s, u"photos 2"_s,
+            u"photos 2/photos"_s, u"photos 2/photos/c.jpg"_s, u"photos/a.jpg"_s };
         QCOMPARE(app.burned(), tree);
     }
 
@@ -139,8 +137,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("name");
         for (const QString &name :
-             {u"100%1 %2 %n"_s, u"O'Brien \"x\""_s, u"two\nlines"_s, u"-drive"_s, u"  blanks  "_s, u"日本 עברית 😀"_s,
-              u"$(x) `y` *"_s, u"dot.in.name"_s, u".hidden"_s, QString(250, u'x')})
+            { u"100%1 %2 %n"_s, u"O'Brien \"x\""_s, u"two\nlines"_s, u"-drive"_s, u"  blanks  "_s,
+                u"日本 עברית 😀"_s, u"$(x) `y` *"_s, u"dot.in.name"_s, u".hidden"_s, QString(250, u'x') })
             QTest::newRow(name.toUtf8().toPercentEncoding().left(40).constData()) << name;
     }
     void awkwardNamesAreGatheredAndNumberedAsTheyAre()
@@ -149,11 +147,12 @@ private Q_SLOTS:
         JobApplication app;
         app.file(u"a/"_s + name + u"/"_s + name);
         app.file(u"b/"_s + name + u"/"_s + name);
-        ready(app, {u"a/"_s + name, u"b/"_s + name});
+        ready(app, { u"a/"_s + name, u"b/"_s + name });
         app.press("btnBurn");
         QVERIFY(app.completes());
         const QString second = name + u" 1"_s;
-        const QStringList tree{name, name + u'/' + name, second, second + u'/' + name, second + u'/' + name + u'/' + name};
+        const QStringList tree{ name, name + u'/' + name, second, second + u'/' + name,
+            second + u'/' + name + u'/' + name };
         QCOMPARE(app.burned(), sorted(tree));
         QCOMPARE(app.trouble(), QString());
     }
@@ -163,21 +162,22 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("cut");
         QTest::newRow("letters") << QString(255, u'x') << QString(253, u'x');
-        QTest::newRow("characters of four bytes") << u"xxx"_s + u"😀"_s.repeated(63) << u"xxx"_s + u"😀"_s.repeated(62);
+        QTest::newRow("characters of four bytes")
+            << u"xxx"_s + u"😀"_s.repeated(63) << u"xxx"_s + u"😀"_s.repeated(62);
     }
     void aFolderWhoseNumberDoesNotFitIntoANameIsNumberedAllTheSame()
     {
         QFETCH(QString, name);
         QFETCH(QString, cut);
         JobApplication app;
-        for (const char *folder : {"a/", "b/", "c/"})
+        for (const char *folder : { "a/", "b/", "c/" })
             app.file(QLatin1StringView(folder) + name + u"/file"_s);
-        ready(app, {u"a/"_s + name, u"b/"_s + name, u"c/"_s + name});
+        ready(app, { u"a/"_s + name, u"b/"_s + name, u"c/"_s + name });
         app.press("btnBurn");
         QVERIFY(app.completes());
-        QStringList tree{name, name + u"/file"_s};
-        for (const QString &numbered : {cut + u" 1"_s, cut + u" 2"_s})
-            tree += {numbered, numbered + u'/' + name, numbered + u'/' + name + u"/file"_s};
+        QStringList tree{ name, name + u"/file"_s };
+        for (const QString &numbered : { cut + u" 1"_s, cut + u" 2"_s })
+            tree += { numbered, numbered + u'/' + name, numbered + u'/' + name + u"/file"_s };
         QCOMPARE(app.burned(), sorted(tree));
         QCOMPARE(app.trouble(), QString());
     }
@@ -189,10 +189,11 @@ private Q_SLOTS:
         app.around.stagingPoll = 400;
         app.file(u"a/one"_s);
         app.file(u"b/two"_s);
-        ready(app, {u"a"_s, u"b"_s});
+        ready(app, { u"a"_s, u"b"_s });
         app.press("btnBurn");
         QVERIFY(app.completes());
-        QVERIFY(app.sheets.sinceLast(u"+Window_Data_Copy_Folders"_s, u"-Window_Data_Copy_Folders"_s) >= 100 + 2 * 380);
+        QVERIFY(app.sheets.sinceLast(u"+Window_Data_Copy_Folders"_s, u"-Window_Data_Copy_Folders"_s)
+            >= 100 + 2 * 380);
     }
 
     void theSecondOfTwoNamesakesIsMeasuredWhereTheFirstLies()
@@ -201,12 +202,13 @@ private Q_SLOTS:
         app.around.stagingPoll = 400;
         app.file(u"a/photos/small"_s, QByteArray(2000, 'x'));
         app.file(u"b/photos/large"_s, QByteArray(200'000, 'x'));
-        ready(app, {u"a/photos"_s, u"b/photos"_s});
+        ready(app, { u"a/photos"_s, u"b/photos"_s });
         app.press("btnBurn");
         QVERIFY(app.completes());
         // The first takes one interval. The second one's size is never reached at the unnumbered path: a second
         // look finds no growth, and that takes two.
-        QVERIFY(app.sheets.sinceLast(u"+Window_Data_Copy_Folders"_s, u"-Window_Data_Copy_Folders"_s) >= 100 + 3 * 380);
+        QVERIFY(app.sheets.sinceLast(u"+Window_Data_Copy_Folders"_s, u"-Window_Data_Copy_Folders"_s)
+            >= 100 + 3 * 380);
         QVERIFY(app.burned().contains(u"photos 1/photos/large"_s));
     }
 
@@ -215,7 +217,7 @@ private Q_SLOTS:
         JobApplication app;
         app.burnWith("du -sb \"$folder/slow\" | cut -f1 > \"$0.size\"\n");
         app.file(u"slow/first"_s, QByteArray(1024, 'x'));
-        ready(app, {u"slow"_s});
+        ready(app, { u"slow"_s });
         app.controller->arrayDataFolders.first().i_Size_in_KBytes = 300;
         QTimer growing;
         connect(&growing, &QTimer::timeout, this, [&app] { growCopy(app); });
@@ -232,7 +234,7 @@ private Q_SLOTS:
     {
         JobApplication app;
         app.file(u"photos/beach.jpg"_s);
-        ready(app, {u"photos"_s});
+        ready(app, { u"photos"_s });
         app.controller->arrayDataFolders.first().i_Size_in_KBytes = 1'000'000;
         app.press("btnBurn");
         QVERIFY(app.completes());
@@ -243,7 +245,7 @@ private Q_SLOTS:
     {
         JobApplication app;
         app.file(u"photos/beach.jpg"_s);
-        ready(app, {u"photos"_s});
+        ready(app, { u"photos"_s });
         auto slow = std::make_shared<writing::CopyState>();
         app.controller->stagingCopies.append(slow);
         std::thread copying([slow, late = app.controller->s_Data_Folder + u"/late"_s] {
@@ -268,11 +270,13 @@ private Q_SLOTS:
         slow->stop = true;
         copying.join();
         QVERIFY(completed);
-        QVERIFY2(ticks >= 5, "the window stood still, or was without its sheet, while the copy was waited for");
+        QVERIFY2(
+            ticks >= 5, "the window stood still, or was without its sheet, while the copy was waited for");
         QVERIFY2(shown.contains(u"is being emptied"_s), qUtf8Printable(shown));
         QCOMPARE(app.namesIn(app.controller->s_Data_Folder), QStringList());
         QCOMPARE(app.sheets.order(), sheetsOfAJob);
-        QVERIFY2(app.trouble().contains(u"before the copying of a folder has ended"_s), qUtf8Printable(app.trouble()));
+        QVERIFY2(app.trouble().contains(u"before the copying of a folder has ended"_s),
+            qUtf8Printable(app.trouble()));
         QCOMPARE(app.controller->stagingCopies.size(), 0);
     }
 
@@ -282,7 +286,7 @@ private Q_SLOTS:
         app.around.stagingPoll = 1;
         for (int i = 0; i < 5000; ++i)
             app.file(u"photos/%1/%2"_s.arg(i / 100).arg(i), "sand");
-        ready(app, {u"photos"_s});
+        ready(app, { u"photos"_s });
         app.press("btnBurn");
         QVERIFY(app.completes());
         QCOMPARE(app.controller->stagingCopies.size(), 0);
@@ -294,7 +298,7 @@ private Q_SLOTS:
         JobApplication app;
         app.around.copyEndLimit = 50;
         app.file(u"photos/beach.jpg"_s);
-        ready(app, {u"photos"_s});
+        ready(app, { u"photos"_s });
         app.controller->stagingCopies.append(std::make_shared<writing::CopyState>());
         app.press("btnBurn");
         QVERIFY(app.completes());
@@ -308,11 +312,11 @@ private Q_SLOTS:
         JobApplication app;
         app.file(u"gone/file"_s);
         app.file(u"here/file"_s);
-        ready(app, {u"gone"_s, u"here"_s});
+        ready(app, { u"gone"_s, u"here"_s });
         QVERIFY(QDir(app.media.filePath(u"gone"_s)).removeRecursively());
         app.press("btnBurn");
         QVERIFY(app.completes());
-        const QStringList tree{u"here"_s, u"here/file"_s};
+        const QStringList tree{ u"here"_s, u"here/file"_s };
         QCOMPARE(app.burned(), tree);
         QVERIFY2(app.trouble().contains(app.media.filePath(u"gone"_s)), qUtf8Printable(app.trouble()));
         QVERIFY(app.trouble().contains(u"No such file or directory"_s));
@@ -322,7 +326,7 @@ private Q_SLOTS:
     {
         JobApplication app;
         QVERIFY(QDir(app.media.path()).mkdir(u"empty"_s));
-        ready(app, {u"empty"_s});
+        ready(app, { u"empty"_s });
         app.press("btnBurn");
         QVERIFY(app.completes());
         QCOMPARE(app.burned(), QStringList(u"empty"_s));
@@ -342,8 +346,8 @@ private Q_SLOTS:
         app.press("btnBurn");
         QVERIFY(app.completes());
         QVERIFY(letter.remove());
-        const QStringList tree{u"Documents"_s, u"Documents/Corvalis"_s, u"Documents/CorvalisAudio"_s,
-                               u"Documents/CorvalisVideo"_s, u"Documents/letter.txt"_s};
+        const QStringList tree{ u"Documents"_s, u"Documents/Corvalis"_s, u"Documents/CorvalisAudio"_s,
+            u"Documents/CorvalisVideo"_s, u"Documents/letter.txt"_s };
         QCOMPARE(app.burned(), tree);
         QVERIFY2(app.trouble().contains(u"left out"_s), qUtf8Printable(app.trouble()));
     }
@@ -364,7 +368,7 @@ private Q_SLOTS:
         JobApplication app;
         app.around.stagingPoll = 600;
         app.file(u"photos/beach.jpg"_s);
-        ready(app, {u"photos"_s});
+        ready(app, { u"photos"_s });
         int ticks = 0;
         bool spinning = false;
         QTimer timer;
@@ -387,7 +391,7 @@ private Q_SLOTS:
         app.around.stagingPoll = 600;
         app.file(QString(255, u'W') + u"/one"_s);
         app.file(u"<b>photos/two"_s);
-        ready(app, {QString(255, u'W'), u"<b>photos"_s});
+        ready(app, { QString(255, u'W'), u"<b>photos"_s });
         QStringList shown;
         QTimer timer;
         connect(&timer, &QTimer::timeout, this, [&] {
@@ -404,7 +408,8 @@ private Q_SLOTS:
         app.press("btnBurn");
         QVERIFY(app.completes());
         QCOMPARE(shown.size(), 2);
-        QVERIFY2(shown.first().contains(QRegularExpression(u"^W+…W+ \\(1 of 2\\)$"_s)), qUtf8Printable(shown.first()));
+        QVERIFY2(shown.first().contains(QRegularExpression(u"^W+…W+ \\(1 of 2\\)$"_s)),
+            qUtf8Printable(shown.first()));
         QCOMPARE(shown.last(), u"<b>photos (2 of 2)"_s);
     }
 
@@ -414,7 +419,7 @@ private Q_SLOTS:
         const QString path = app.file(u"photos/beach.jpg"_s, "sand");
         QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
         const QDateTime modified = QFileInfo(path).lastModified();
-        ready(app, {u"photos"_s});
+        ready(app, { u"photos"_s });
         app.press("btnBurn");
         QVERIFY(app.completes());
         QFile file(path);
@@ -430,11 +435,11 @@ private Q_SLOTS:
             JobApplication app;
             app.around.stagingPoll = 300;
             app.file(u"photos/beach.jpg"_s);
-            ready(app, {u"photos"_s});
+            ready(app, { u"photos"_s });
             app.press("btnBurn");
             QTRY_VERIFY(QFile::exists(app.controller->s_Data_Folder + u"/photos/beach.jpg"_s));
             app.window->close();
-            QCOMPARE(app.exits, QList<int>{0});
+            QCOMPARE(app.exits, QList<int>{ 0 });
         }
         JobApplication app;
         app.launch();

@@ -14,19 +14,26 @@ struct Kind {
 };
 
 const Kind kinds[] = {
-    {1, "audio", "CD", "Warning 0060."}, {2, "audio", "CD", "Warning 0050."}, {3, "audio", "DVD", "Warning 0010."},
-    {4, "video", "DVD", "Warning 0000."}, {5, "video", "BD", "Warning 0090."}, {6, "data", "CD", "Warning 0070."},
-    {7, "data", "DVD", "Warning 0020."},  {8, "data", "BD", "Warning 0090."},
+    { 1, "audio", "CD", "Warning 0060." },
+    { 2, "audio", "CD", "Warning 0050." },
+    { 3, "audio", "DVD", "Warning 0010." },
+    { 4, "video", "DVD", "Warning 0000." },
+    { 5, "video", "BD", "Warning 0090." },
+    { 6, "data", "CD", "Warning 0070." },
+    { 7, "data", "DVD", "Warning 0020." },
+    { 8, "data", "BD", "Warning 0090." },
 };
 
 QString nothingListed(const Kind &kind)
 {
     if (QLatin1StringView(kind.list) == "audio"_L1) {
-        return u"No audio files on the list | There are no audio files on the list. Add audio files to the list "
+        return u"No audio files on the list | There are no audio files on the list. Add audio files to the "
+               u"list "
                "and try again."_s;
     }
     if (QLatin1StringView(kind.list) == "video"_L1) {
-        return u"No video files on the list | There are no video files on the list. Add video files to the list "
+        return u"No video files on the list | There are no video files on the list. Add video files to the "
+               u"list "
                "and try again."_s;
     }
     return u"No folders on the list | There are no folders on the list. Add folders to the list and try again."_s;
@@ -35,25 +42,33 @@ QString nothingListed(const Kind &kind)
 QString wrongMedium(const Kind &kind)
 {
     if (QLatin1StringView(kind.family) == "CD"_L1) {
-        return u"Media not CD | The media on the drive is not a CD. insert a writable CD on the drive and try "
+        return u"Media not CD | The media on the drive is not a CD. insert a writable CD on the drive and "
+               u"try "
                "again."_s;
     }
     if (QLatin1StringView(kind.family) == "DVD"_L1) {
-        return u"Media not DVD | The media on the drive is not a DVD. insert a writable DVD on the drive and try "
+        return u"Media not DVD | The media on the drive is not a DVD. insert a writable DVD on the drive and "
+               u"try "
                "again."_s;
     }
-    return u"Media not Blu-ray | The media on the drive is not a Blu-ray. insert a writable Blu-ray on the drive "
+    return u"Media not Blu-ray | The media on the drive is not a Blu-ray. insert a writable Blu-ray on the "
+           u"drive "
            "and try again."_s;
 }
 
-const QString noDisc = u"No disc | There is no disc on the drive. insert a writable media on the drive and try "
-                       "again."_s;
-const QString notWritable = u"Media not writable | The media on the drive is not writable. insert a writable media "
-                            "on the drive and try again."_s;
+const QString noDisc =
+    u"No disc | There is no disc on the drive. insert a writable media on the drive and try "
+    "again."_s;
+const QString notWritable =
+    u"Media not writable | The media on the drive is not writable. insert a writable media "
+    "on the drive and try again."_s;
 
 /// A blank of every family, by the name that the check gives it.
 const std::pair<const char *, QByteArray> blanks[] = {
-    {"CD", discs::blankCD}, {"DVD", discs::blankDVD}, {"BD", discs::blankBD}, {"Other", discs::blankOther},
+    { "CD", discs::blankCD },
+    { "DVD", discs::blankDVD },
+    { "BD", discs::blankBD },
+    { "Other", discs::blankOther },
 };
 
 QByteArray blankOf(const char *family)
@@ -81,16 +96,17 @@ class DiscChecksTest : public QObject {
         if (QLatin1StringView(kind.list) == "data"_L1)
             app.addFolder(app.media.path());
         else
-            QVERIFY(app.add({app.file(u"clip.mp4"_s)}));
+            QVERIFY(app.add({ app.file(u"clip.mp4"_s) }));
         app.sheets.clear();
     }
 
     /// Presses the burn button and verifies that nothing but alerts came of it.
     static void pressInVain(JobApplication &app)
     {
-        const qsizetype listed = app.controller->arrayMediaFiles.size() + app.controller->arrayDataFolders.size();
-        const QStringList folders{app.controller->s_Audio_Folder, app.controller->s_Video_Folder,
-                                  app.controller->s_Data_Folder};
+        const qsizetype listed =
+            app.controller->arrayMediaFiles.size() + app.controller->arrayDataFolders.size();
+        const QStringList folders{ app.controller->s_Audio_Folder, app.controller->s_Video_Folder,
+            app.controller->s_Data_Folder };
         for (const QString &folder : folders)
             QVERIFY(QDir(folder).mkdir(u"kept"_s));
         const qsizetype converted = app.ffmpeg.runs().size();
@@ -136,7 +152,7 @@ private Q_SLOTS:
         ready(app, kind);
         pressInVain(app);
         QCOMPARE(app.texts(), QStringList(noDisc));
-        const QList<QStringList> asked{{u"status"_s, u"-drive"_s, u"1"_s}};
+        const QList<QStringList> asked{ { u"status"_s, u"-drive"_s, u"1"_s } };
         QCOMPARE(app.drutil.runs(u"status"_s), asked);
     }
 
@@ -162,7 +178,8 @@ private Q_SLOTS:
         app.trigger("menuitemDebugMode");
         pressInVain(app);
         const QString report = QString::fromUtf8(discs::pressedCD);
-        const QStringList expected{report + u" | Warning 0030."_s, report + u" | Warning 0040."_s, notWritable};
+        const QStringList expected{ report + u" | Warning 0030."_s, report + u" | Warning 0040."_s,
+            notWritable };
         QCOMPARE(app.texts(), expected);
     }
 
@@ -175,9 +192,9 @@ private Q_SLOTS:
             for (const auto &[family, status] : blanks) {
                 if (QLatin1StringView(family) == QLatin1StringView(kind.family))
                     continue;
-                for (const bool debug : {false, true}) {
+                for (const bool debug : { false, true }) {
                     QTest::addRow("%s in place of %s for %s%s", family, kind.family,
-                                  projects::byCode(kind.code)->name.data(), debug ? ", debug mode" : "")
+                        projects::byCode(kind.code)->name.data(), debug ? ", debug mode" : "")
                         << kind << QString::fromLatin1(family) << debug;
                 }
             }
@@ -247,7 +264,7 @@ private Q_SLOTS:
         ready(app, kinds[0]);
         app.trigger("menuitemDebugMode");
         pressInVain(app);
-        const QStringList expected{u" | Warning 0030."_s, u" | Warning 0040."_s, notWritable};
+        const QStringList expected{ u" | Warning 0030."_s, u" | Warning 0040."_s, notWritable };
         QCOMPARE(app.texts(), expected);
     }
 
@@ -264,15 +281,16 @@ private Q_SLOTS:
     void everyProbeAsksTheChosenDrive()
     {
         JobApplication app;
-        app.drutil.print(u"list"_s, "header\n"
-                                    "1  ACME     Reader            1.0   SATA      Supported\n"
-                                    "b  ACME     Writer            1.0   SATA      Supported\n");
+        app.drutil.print(u"list"_s,
+            "header\n"
+            "1  ACME     Reader            1.0   SATA      Supported\n"
+            "b  ACME     Writer            1.0   SATA      Supported\n");
         app.insert(discs::blankDVD);
         ready(app, kinds[0]);
         app.trigger("submenuItemDriveSlot2");
         pressInVain(app);
-        const QStringList status{u"status"_s, u"-drive"_s, u"b"_s};
-        const QList<QStringList> asked{status, status, status}; // empty, writable, family
+        const QStringList status{ u"status"_s, u"-drive"_s, u"b"_s };
+        const QList<QStringList> asked{ status, status, status }; // empty, writable, family
         QCOMPARE(app.drutil.runs(u"status"_s), asked);
     }
 };

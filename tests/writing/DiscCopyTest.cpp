@@ -5,19 +5,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString prompt = u"Insert a writable media and click OK or click Cancel to stop the media duplication."_s;
+const QString prompt =
+    u"Insert a writable media and click OK or click Cancel to stop the media duplication."_s;
 const QString promptAlert = prompt + u" | "_s + prompt;
-const QString noDiscAlert = u"No disc | There is no disc on the drive. insert a writable media on the drive and try "
-                            "again."_s;
-const QString notWritableAlert = u"Media not writable | The media on the drive is not writable. insert a writable "
-                                 "media on the drive and try again."_s;
+const QString noDiscAlert =
+    u"No disc | There is no disc on the drive. insert a writable media on the drive and try "
+    "again."_s;
+const QString notWritableAlert =
+    u"Media not writable | The media on the drive is not writable. insert a writable "
+    "media on the drive and try again."_s;
 
 } // namespace
 
 class DiscCopyTest : public QObject {
     Q_OBJECT
 
-    static QString image(const JobApplication &app) { return app.controller->s_Data_Folder + u"/image.iso"_s; }
+    static QString image(const JobApplication &app)
+    {
+        return app.controller->s_Data_Folder + u"/image.iso"_s;
+    }
 
     /// An application in which a volume is chosen and the image is made.
     static void ready(JobApplication &app)
@@ -28,7 +34,7 @@ class DiscCopyTest : public QObject {
                         "burn) cat \"$2\" > \"$0.burned\";;\nesac\n");
         app.file(u"volume/track"_s);
         app.launch();
-        app.asked.choices = {{QUrl::fromLocalFile(app.media.filePath(u"volume"_s))}};
+        app.asked.choices = { { QUrl::fromLocalFile(app.media.filePath(u"volume"_s)) } };
     }
 
     static QByteArray noted(const JobApplication &app, const char *name)
@@ -62,9 +68,11 @@ private Q_SLOTS:
         QFETCH(QByteArray, button);
         JobApplication app;
         ready(app);
-        layMedia(app, {discs::blankDVD});
+        layMedia(app, { discs::blankDVD });
         QVERIFY(QDir(app.controller->s_Data_Folder).mkdir(u"left over"_s));
-        app.trigger(tab == 1 ? "submenuItemTabAudio" : tab == 2 ? "submenuItemTabVideo" : "submenuItemTabData");
+        app.trigger(tab == 1 ? "submenuItemTabAudio"
+                : tab == 2   ? "submenuItemTabVideo"
+                             : "submenuItemTabData");
         if (button.startsWith("menu"))
             app.trigger(button.constData());
         else
@@ -72,21 +80,22 @@ private Q_SLOTS:
         QVERIFY(app.completes());
 
         const QString volume = app.media.filePath(u"volume"_s);
-        const QList<QStringList> images{{u"makehybrid"_s, u"-o"_s, image(app), volume, u"-iso"_s, u"-joliet"_s},
-                                        {u"burn"_s, image(app)}};
+        const QList<QStringList> images{ { u"makehybrid"_s, u"-o"_s, image(app), volume, u"-iso"_s,
+                                             u"-joliet"_s },
+            { u"burn"_s, image(app) } };
         QCOMPARE(app.hdiutil.runs(), images);
-        const QStringList eject{u"tray"_s, u"eject"_s, u"-drive"_s, u"1"_s};
-        const QStringList status{u"status"_s, u"-drive"_s, u"1"_s};
-        const QList<QStringList> drive{{u"list"_s}, status, eject, status, status};
+        const QStringList eject{ u"tray"_s, u"eject"_s, u"-drive"_s, u"1"_s };
+        const QStringList status{ u"status"_s, u"-drive"_s, u"1"_s };
+        const QList<QStringList> drive{ { u"list"_s }, status, eject, status, status };
         QCOMPARE(app.drutil.runs(), drive);
         QCOMPARE(noted(app, ".before"), QByteArray());
         QCOMPARE(noted(app, ".burned"), QByteArray("image\n"));
         QCOMPARE(app.texts(), QStringList(promptAlert));
-        const QStringList buttons{u"OK"_s, u"Cancel"_s};
+        const QStringList buttons{ u"OK"_s, u"Cancel"_s };
         QCOMPARE(app.asked.alerts.first().buttons, buttons);
-        const QStringList sheets{u"+Window_Performing_Operation"_s, u"-Window_Performing_Operation"_s,
-                                 u"+Window_Performing_Operation"_s, u"-Window_Performing_Operation"_s,
-                                 u"+Window_Operation_Terminated"_s};
+        const QStringList sheets{ u"+Window_Performing_Operation"_s, u"-Window_Performing_Operation"_s,
+            u"+Window_Performing_Operation"_s, u"-Window_Performing_Operation"_s,
+            u"+Window_Operation_Terminated"_s };
         QCOMPARE(app.sheets.order(), sheets);
         QCOMPARE(app.namesIn(app.controller->s_Data_Folder), QStringList());
     }
@@ -118,8 +127,9 @@ private Q_SLOTS:
         QVERIFY(QDir(app.controller->s_Data_Folder).mkdir(u"kept"_s));
         app.press("toolbar_btn_Audio_Copy_Disc");
         QTest::qWait(150);
-        QCOMPARE(app.texts(), QStringList(u"No disc | There is no disc on the drive. insert a media on the drive to copy "
-                                           "and try again."_s));
+        QCOMPARE(app.texts(),
+            QStringList(u"No disc | There is no disc on the drive. insert a media on the drive to copy "
+                        "and try again."_s));
         QCOMPARE(app.asked.alerts.first().buttons, QStringList(u"Close"_s));
         QCOMPARE(app.asked.panels.size(), 0);
         QCOMPARE(app.hdiutil.runs(), QList<QStringList>());
@@ -131,7 +141,7 @@ private Q_SLOTS:
         JobApplication app;
         ready(app);
         app.insert("no drive speaks like this");
-        layMedia(app, {discs::blankBD});
+        layMedia(app, { discs::blankBD });
         app.press("toolbar_btn_Audio_Copy_Disc");
         QVERIFY(app.completes());
         QCOMPARE(app.texts(), QStringList(promptAlert));
@@ -141,11 +151,11 @@ private Q_SLOTS:
     {
         JobApplication app;
         ready(app);
-        layMedia(app, {discs::none, discs::pressedCD, discs::none, discs::writtenCDRW});
+        layMedia(app, { discs::none, discs::pressedCD, discs::none, discs::writtenCDRW });
         app.press("toolbar_btn_Audio_Copy_Disc");
         QVERIFY(app.completes());
-        const QStringList expected{promptAlert, noDiscAlert, promptAlert, notWritableAlert,
-                                   promptAlert, noDiscAlert, promptAlert};
+        const QStringList expected{ promptAlert, noDiscAlert, promptAlert, notWritableAlert, promptAlert,
+            noDiscAlert, promptAlert };
         QCOMPARE(app.texts(), expected);
         QCOMPARE(app.hdiutil.runs(u"burn"_s).size(), 1);
     }
@@ -155,12 +165,12 @@ private Q_SLOTS:
         JobApplication app;
         ready(app);
         app.trigger("menuitemDebugMode");
-        layMedia(app, {discs::pressedCD, discs::blankCD});
+        layMedia(app, { discs::pressedCD, discs::blankCD });
         app.press("toolbar_btn_Audio_Copy_Disc");
         QVERIFY(app.completes());
         const QString pressed = QString::fromUtf8(discs::pressedCD);
-        const QStringList expected{promptAlert, pressed + u" | Warning 0030."_s, pressed + u" | Warning 0040."_s,
-                                   notWritableAlert, promptAlert};
+        const QStringList expected{ promptAlert, pressed + u" | Warning 0030."_s,
+            pressed + u" | Warning 0040."_s, notWritableAlert, promptAlert };
         QCOMPARE(app.texts(), expected);
     }
 
@@ -179,7 +189,7 @@ private Q_SLOTS:
         QSignalSpy completed(app.controller.get(), &AppDelegate::operationCompleted);
         app.asked.onAlert = [&](const Alert &) { imageWasThere = QFile::exists(image(app)); };
         for (int i = 0; i < promptsBefore; ++i)
-            app.asked.buttons.append({0, 0}); // the prompt's OK, the alert's Close
+            app.asked.buttons.append({ 0, 0 }); // the prompt's OK, the alert's Close
         app.asked.buttons.append(1);
         app.press("toolbar_btn_Audio_Copy_Disc");
         QTRY_COMPARE_WITH_TIMEOUT(app.texts().size(), promptsBefore * 2 + 1, 60'000);
@@ -197,7 +207,7 @@ private Q_SLOTS:
     {
         JobApplication app;
         ready(app);
-        layMedia(app, {discs::blankCD});
+        layMedia(app, { discs::blankCD });
         qsizetype ejectsAtHide = -1;
         qsizetype ejectsAtPrompt = -1;
         QElapsedTimer sinceHide;
@@ -227,7 +237,7 @@ private Q_SLOTS:
         JobApplication app;
         ready(app);
         app.hdiutil.run("echo 'The disc cannot be read.'; exit 1\n");
-        layMedia(app, {discs::blankCD});
+        layMedia(app, { discs::blankCD });
         app.press("toolbar_btn_Audio_Copy_Disc");
         QVERIFY(app.completes());
         QCOMPARE(app.hdiutil.runs(u"burn"_s).size(), 1);
@@ -241,7 +251,7 @@ private Q_SLOTS:
         JobApplication app;
         app.around.hdiutil = app.folder.filePath(u"none"_s);
         ready(app);
-        layMedia(app, {discs::blankCD});
+        layMedia(app, { discs::blankCD });
         app.press("toolbar_btn_Audio_Copy_Disc");
         QVERIFY(app.completes());
         QVERIFY(app.trouble().contains(u"could not be started"_s));
@@ -250,15 +260,16 @@ private Q_SLOTS:
     void theChosenDriveIsEjected()
     {
         JobApplication app;
-        app.drutil.print(u"list"_s, "header\n"
-                                    "1  ACME     Reader            1.0   SATA      Supported\n"
-                                    "7  ACME     Writer            1.0   SATA      Supported\n");
+        app.drutil.print(u"list"_s,
+            "header\n"
+            "1  ACME     Reader            1.0   SATA      Supported\n"
+            "7  ACME     Writer            1.0   SATA      Supported\n");
         ready(app);
         app.trigger("submenuItemDriveSlot2");
-        layMedia(app, {discs::blankCD});
+        layMedia(app, { discs::blankCD });
         app.press("toolbar_btn_Audio_Copy_Disc");
         QVERIFY(app.completes());
-        const QList<QStringList> tray{{u"tray"_s, u"eject"_s, u"-drive"_s, u"7"_s}};
+        const QList<QStringList> tray{ { u"tray"_s, u"eject"_s, u"-drive"_s, u"7"_s } };
         QCOMPARE(app.drutil.runs(u"tray"_s), tray);
         QCOMPARE(app.hdiutil.runs(u"burn"_s).first().size(), 2);
     }
@@ -269,8 +280,8 @@ private Q_SLOTS:
         ready(app);
         const QString volume = app.media.filePath(u"-o \"Vol %1\"\nΩ"_s);
         QVERIFY(QDir().mkpath(volume));
-        app.asked.choices = {{QUrl::fromLocalFile(volume)}};
-        layMedia(app, {discs::blankCD});
+        app.asked.choices = { { QUrl::fromLocalFile(volume) } };
+        layMedia(app, { discs::blankCD });
         app.press("toolbar_btn_Audio_Copy_Disc");
         QVERIFY(app.completes());
         QCOMPARE(app.hdiutil.runs().first().at(3), volume);

@@ -133,7 +133,8 @@ void DiscFormsTest::findsAFreeFolder_data()
     row("a link to nothing is there", u"Music"_s, { u"Music"_s, u"->Music 1"_s }, u"/Music 2"_s);
     row("percent signs", u"100%2b %1"_s, { u"100%2b %1"_s }, u"/100%2b %1 1"_s);
     row("line ends", u"a\nb"_s, { u"a\nb"_s }, u"/a\nb 1"_s);
-    row("no room for the number", QString(255, u'x'), { QString(255, u'x') }, u'/' + QString(253, u'x') + u" 1"_s);
+    row("no room for the number", QString(255, u'x'), { QString(255, u'x') },
+        u'/' + QString(253, u'x') + u" 1"_s);
 }
 
 void DiscFormsTest::findsAFreeFolder()

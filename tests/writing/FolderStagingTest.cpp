@@ -495,7 +495,8 @@ void FolderStagingTest::leavesOutTheWorkingFolder()
     const std::string disc = scratch / "home/Documents/disc";
     const Result result = copied(scratch / "home", disc, scratch / "home/linked/disc");
     QCOMPARE(result.told,
-        (Told{ scratch / "home/Documents/disc: is the folder in which the disc is gathered, and is left out" }));
+        (Told{
+            scratch / "home/Documents/disc: is the folder in which the disc is gathered, and is left out" }));
     for (char name = 'a'; name <= 'z'; ++name)
         QCOMPARE(readFile(disc + "/home/Documents/" + name), std::string("1"));
     QVERIFY(!exists(disc + "/home/Documents/disc"));
@@ -506,7 +507,8 @@ void FolderStagingTest::refusesToCopyTheWorkingFolderIntoItself()
     const ScratchFolder scratch;
     makeFolder(scratch / "disc");
     const Result result = copied(scratch / "disc", scratch / "disc", scratch / "disc");
-    QCOMPARE(result.told, (Told{ scratch / "disc: is the folder in which the disc is gathered, and is left out" }));
+    QCOMPARE(result.told,
+        (Told{ scratch / "disc: is the folder in which the disc is gathered, and is left out" }));
     QVERIFY(::rmdir((scratch / "disc").c_str()) == 0);
 }
 

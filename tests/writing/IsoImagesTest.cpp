@@ -11,7 +11,7 @@ class IsoImagesTest : public QObject {
         app.hdiutil.run("tool=$0\n[ \"$1\" = makehybrid ] && { ls -A \"$(dirname \"$3\")\" > \"$0.before\"; "
                         "echo image > \"$3\"; }\n"
                         "if [ -e \"$0.slow\" ]; then\n"
-                        + app.waitFor("done") + "fi\n");
+            + app.waitFor("done") + "fi\n");
         app.launch();
         app.trigger("submenuItemTabISO");
         QVERIFY(QDir(app.media.path()).mkdir(u"source"_s));
@@ -20,7 +20,10 @@ class IsoImagesTest : public QObject {
 
     static constexpr int longest = 60'000; ///< milliseconds that a busy machine may need for a stage
 
-    static QUrl url(const JobApplication &app, const QString &name) { return QUrl::fromLocalFile(app.media.filePath(name)); }
+    static QUrl url(const JobApplication &app, const QString &name)
+    {
+        return QUrl::fromLocalFile(app.media.filePath(name));
+    }
 
     /// Makes the image tool wait for release("done").
     static void slowDown(const JobApplication &app)
@@ -42,7 +45,7 @@ private Q_SLOTS:
         ready(app);
         app.insert(discs::none); // no disc is needed
         slowDown(app);
-        app.asked.choices = {{url(app, u"source"_s)}, {url(app, u"destination"_s)}};
+        app.asked.choices = { { url(app, u"source"_s) }, { url(app, u"destination"_s) } };
         if (byMenu)
             app.trigger("menuitemISOCreate");
         else
@@ -51,13 +54,13 @@ private Q_SLOTS:
         app.release(app.hdiutil, "done");
         QVERIFY(app.completes());
         const QString image = app.media.filePath(u"destination/image.iso"_s);
-        const QList<QStringList> runs{
-            {u"makehybrid"_s, u"-o"_s, image, app.media.filePath(u"source"_s), u"-iso"_s, u"-joliet"_s}};
+        const QList<QStringList> runs{ { u"makehybrid"_s, u"-o"_s, image, app.media.filePath(u"source"_s),
+            u"-iso"_s, u"-joliet"_s } };
         QCOMPARE(app.hdiutil.runs(), runs);
         QVERIFY(QFile::exists(image));
-        QCOMPARE(app.drutil.runs(), QList<QStringList>{{u"list"_s}});
-        const QStringList sheets{u"+Window_Performing_Operation"_s, u"-Window_Performing_Operation"_s,
-                                 u"+Window_Operation_Terminated"_s};
+        QCOMPARE(app.drutil.runs(), QList<QStringList>{ { u"list"_s } });
+        const QStringList sheets{ u"+Window_Performing_Operation"_s, u"-Window_Performing_Operation"_s,
+            u"+Window_Operation_Terminated"_s };
         QCOMPARE(app.sheets.order(), sheets);
         QCOMPARE(app.texts(), QStringList());
         QCOMPARE(app.controller->SourcePath, app.media.filePath(u"source"_s));
@@ -69,7 +72,7 @@ private Q_SLOTS:
     {
         JobApplication app;
         ready(app);
-        app.asked.choices = {{url(app, u"source"_s)}, {url(app, u"destination"_s)}};
+        app.asked.choices = { { url(app, u"source"_s) }, { url(app, u"destination"_s) } };
         app.press("toolbar_btn_ISO_Create_ISO");
         QVERIFY(app.completes());
         QCOMPARE(app.asked.panels.size(), 2);
@@ -96,7 +99,7 @@ private Q_SLOTS:
             toolsAtPanels += app.controller->activityLog->text().count(u"makehybrid"_s);
         };
         app.sheets.onShow = [&](Sheet *) { sheet = sheet == 0 ? clock.elapsed() : sheet; };
-        app.asked.choices = {{url(app, u"source"_s)}, {url(app, u"destination"_s)}};
+        app.asked.choices = { { url(app, u"source"_s) }, { url(app, u"destination"_s) } };
         clock.start();
         app.press("toolbar_btn_ISO_Create_ISO");
         QCOMPARE(panels.size(), 1);
@@ -124,7 +127,7 @@ private Q_SLOTS:
         ready(app);
         app.file(u"destination/image.iso"_s, "old");
         if (panel == 2)
-            app.asked.choices = {{url(app, u"source"_s)}};
+            app.asked.choices = { { url(app, u"source"_s) } };
         app.press("toolbar_btn_ISO_Create_ISO");
         QTRY_COMPARE_WITH_TIMEOUT(app.asked.panels.size(), panel, longest);
         QTest::qWait(250);
@@ -141,13 +144,14 @@ private Q_SLOTS:
     {
         JobApplication app;
         ready(app);
-        app.asked.choices = {{url(app, u"source"_s)}, {url(app, u"destination"_s)}};
+        app.asked.choices = { { url(app, u"source"_s) }, { url(app, u"destination"_s) } };
         app.press("toolbar_btn_ISO_Create_ISO");
         QVERIFY(app.completes());
         QTest::keyClick(app.controller->windowOperationCompleted, Qt::Key_Return);
         QVERIFY(!app.controller->DestPathISO.isEmpty());
         app.press("toolbar_btn_ISO_Create_ISO");
-        QCOMPARE(app.controller->SourcePath + app.controller->DestPath + app.controller->DestPathISO, QString());
+        QCOMPARE(
+            app.controller->SourcePath + app.controller->DestPath + app.controller->DestPathISO, QString());
     }
 
     void anImageThatIsThereIsReplacedWithoutAQuestion()
@@ -156,7 +160,7 @@ private Q_SLOTS:
         ready(app);
         app.file(u"destination/image.iso"_s, "old");
         app.file(u"destination/Image.iso"_s, "another file");
-        app.asked.choices = {{url(app, u"source"_s)}, {url(app, u"destination"_s)}};
+        app.asked.choices = { { url(app, u"source"_s) }, { url(app, u"destination"_s) } };
         app.press("toolbar_btn_ISO_Create_ISO");
         QVERIFY(app.completes());
         QFile before(app.hdiutil.path() + u".before"_s);
@@ -170,7 +174,7 @@ private Q_SLOTS:
         for (int round = 0; round < 3; ++round) {
             JobApplication app;
             ready(app);
-            app.asked.choices = {{url(app, u"source"_s)}, {url(app, u"destination"_s)}};
+            app.asked.choices = { { url(app, u"source"_s) }, { url(app, u"destination"_s) } };
             app.press("toolbar_btn_ISO_Create_ISO");
             QVERIFY(app.completes());
             QTest::qWait(200);
@@ -186,7 +190,7 @@ private Q_SLOTS:
         JobApplication app;
         ready(app);
         app.hdiutil.run("echo 'There is no room left.' >&2; exit 1\n");
-        app.asked.choices = {{url(app, u"source"_s)}, {url(app, u"destination"_s)}};
+        app.asked.choices = { { url(app, u"source"_s) }, { url(app, u"destination"_s) } };
         app.press("toolbar_btn_ISO_Create_ISO");
         QVERIFY(app.completes());
         QCOMPARE(app.trouble(), u"hdiutil: There is no room left."_s);
@@ -197,7 +201,7 @@ private Q_SLOTS:
         JobApplication app;
         app.around.hdiutil = app.folder.filePath(u"none"_s);
         ready(app);
-        app.asked.choices = {{url(app, u"source"_s)}, {url(app, u"destination"_s)}};
+        app.asked.choices = { { url(app, u"source"_s) }, { url(app, u"destination"_s) } };
         app.press("toolbar_btn_ISO_Create_ISO");
         QVERIFY(app.completes());
         QVERIFY(app.trouble().contains(u"could not be started"_s));
@@ -209,11 +213,11 @@ private Q_SLOTS:
         JobApplication app;
         ready(app);
         QVERIFY(QDir(app.controller->s_Data_Folder).mkdir(u"kept"_s));
-        app.asked.choices = {{url(app, u"source"_s)}, {url(app, u"destination"_s)}};
+        app.asked.choices = { { url(app, u"source"_s) }, { url(app, u"destination"_s) } };
         app.press("toolbar_btn_ISO_Create_ISO");
         QVERIFY(app.completes());
         QTest::keyClick(app.controller->windowOperationCompleted, Qt::Key_Return);
-        app.asked.choices = {{QUrl::fromLocalFile(app.file(u"some.iso"_s))}};
+        app.asked.choices = { { QUrl::fromLocalFile(app.file(u"some.iso"_s)) } };
         app.press("toolbar_btn_ISO_Burn_ISO");
         QVERIFY(app.completes());
         QCOMPARE(app.namesIn(app.controller->s_Data_Folder), QStringList(u"kept"_s));
@@ -239,15 +243,15 @@ private Q_SLOTS:
         ready(app);
         app.insert(medium);
         const QString image = app.file(name);
-        app.asked.choices = {{QUrl::fromLocalFile(image)}};
+        app.asked.choices = { { QUrl::fromLocalFile(image) } };
         app.press("toolbar_btn_ISO_Burn_ISO");
         QCOMPARE(app.sheets.order(), QStringList(u"+Window_Performing_Operation"_s)); // at once
         QVERIFY(app.completes());
-        const QList<QStringList> runs{{u"burn"_s, image}};
+        const QList<QStringList> runs{ { u"burn"_s, image } };
         QCOMPARE(app.hdiutil.runs(), runs);
         QCOMPARE(app.texts(), QStringList());
-        const QStringList sheets{u"+Window_Performing_Operation"_s, u"-Window_Performing_Operation"_s,
-                                 u"+Window_Operation_Terminated"_s};
+        const QStringList sheets{ u"+Window_Performing_Operation"_s, u"-Window_Performing_Operation"_s,
+            u"+Window_Operation_Terminated"_s };
         QCOMPARE(app.sheets.order(), sheets);
         QVERIFY(QFile::exists(image));
     }
@@ -263,7 +267,7 @@ private Q_SLOTS:
         QCOMPARE(panel.message, u"Select a ISO image to burn to media."_s);
         QVERIFY(panel.choose == OpenPanel::Choose::Files);
         QVERIFY(!panel.several);
-        const QStringList accepted{u"iso"_s, u"img"_s, u"dmg"_s};
+        const QStringList accepted{ u"iso"_s, u"img"_s, u"dmg"_s };
         QCOMPARE(panel.extensions, accepted);
         // Nothing chosen: the drive is not even looked at.
         QCOMPARE(app.drutil.runs(u"status"_s), QList<QStringList>());
@@ -276,17 +280,19 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("medium");
         QTest::addColumn<bool>("debug");
         QTest::addColumn<QStringList>("told");
-        const QString noDisc = u"No disc | There is no disc on the drive. insert a writable media on the drive and "
-                               "try again."_s;
-        const QString notWritable = u"Media not writable | The media on the drive is not writable. insert a writable "
-                                    "media on the drive and try again."_s;
+        const QString noDisc =
+            u"No disc | There is no disc on the drive. insert a writable media on the drive and "
+            "try again."_s;
+        const QString notWritable =
+            u"Media not writable | The media on the drive is not writable. insert a writable "
+            "media on the drive and try again."_s;
         const QString pressed = QString::fromUtf8(discs::pressedCD);
         QTest::newRow("none") << discs::none << false << QStringList(noDisc);
         QTest::newRow("none, debug mode") << discs::none << true << QStringList(noDisc);
         QTest::newRow("pressed") << discs::pressedCD << false << QStringList(notWritable);
         QTest::newRow("pressed, debug mode")
             << discs::pressedCD << true
-            << QStringList{pressed + u" | Warning 0030."_s, pressed + u" | Warning 0040."_s, notWritable};
+            << QStringList{ pressed + u" | Warning 0030."_s, pressed + u" | Warning 0040."_s, notWritable };
     }
     void aDiscThatWillNotDoIsToldAfterTheChoice()
     {
@@ -298,7 +304,7 @@ private Q_SLOTS:
         app.insert(medium);
         if (debug)
             app.trigger("menuitemDebugMode");
-        app.asked.choices = {{QUrl::fromLocalFile(app.file(u"disc.iso"_s))}};
+        app.asked.choices = { { QUrl::fromLocalFile(app.file(u"disc.iso"_s)) } };
         app.press("toolbar_btn_ISO_Burn_ISO");
         QCOMPARE(app.asked.panels.size(), 1);
         QCOMPARE(app.texts(), told);

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 class JobTroubleTest : public QObject {
     Q_OBJECT
 
-    static void ready(JobApplication &app, const QStringList &names = {u"song.mp3"_s})
+    static void ready(JobApplication &app, const QStringList &names = { u"song.mp3"_s })
     {
         app.launch();
         QStringList files;
@@ -24,7 +24,8 @@ class JobTroubleTest : public QObject {
     }
 
     /// Does `action` as soon as a sheet of this class is up and control is back in the event loop.
-    static void whenShown(JobApplication &app, const char *sheetClass, const std::function<void(Sheet *)> &action)
+    static void whenShown(
+        JobApplication &app, const char *sheetClass, const std::function<void(Sheet *)> &action)
     {
         app.sheets.onShow = [sheetClass, action](Sheet *sheet) {
             if (sheet->inherits(sheetClass))
@@ -41,7 +42,7 @@ private Q_SLOTS:
         app.around.resources = app.media.filePath(u"no resources"_s);
         app.launch();
         QCOMPARE(app.controller->sffmpegPath, QString());
-        QVERIFY(app.add({app.file(u"song.mp3"_s)}));
+        QVERIFY(app.add({ app.file(u"song.mp3"_s) }));
         QCOMPARE(app.controller->arrayMediaFiles.at(0).s_Duration, QString());
         app.press("btnBurn");
         QVERIFY(app.completes());
@@ -54,7 +55,7 @@ private Q_SLOTS:
         JobApplication app;
         app.convertWith("case \"$2\" in *bad*) echo 'Invalid data found' >&2; exit 1;; esac\n"
                         "echo converted > \"$output\"\n");
-        ready(app, {u"bad.mp3"_s, u"good.mp3"_s});
+        ready(app, { u"bad.mp3"_s, u"good.mp3"_s });
         app.press("btnBurn");
         QVERIFY(app.completes());
         QCOMPARE(app.trouble(), u"bad.mp3: Invalid data found"_s);
@@ -65,13 +66,14 @@ private Q_SLOTS:
     {
         JobApplication app;
         app.convertWith("kill -SEGV $$\n");
-        ready(app, {u"a.mp3"_s, u"b.mp3"_s, u"c.mp3"_s, u"d.mp3"_s});
+        ready(app, { u"a.mp3"_s, u"b.mp3"_s, u"c.mp3"_s, u"d.mp3"_s });
         app.press("btnBurn");
         QVERIFY(app.completes());
-        QCOMPARE(app.trouble(), u"a.mp3: crashed (signal 11)\n"
-                                 "b.mp3: crashed (signal 11)\n"
-                                 "c.mp3: crashed (signal 11)\n"
-                                 "and 1 more"_s);
+        QCOMPARE(app.trouble(),
+            u"a.mp3: crashed (signal 11)\n"
+            "b.mp3: crashed (signal 11)\n"
+            "c.mp3: crashed (signal 11)\n"
+            "and 1 more"_s);
     }
 
     void aTranscoderThatPrintsWithoutEndDoesNotBlock()
@@ -91,19 +93,20 @@ private Q_SLOTS:
     {
         JobApplication app;
         app.convertWith("printf 'title: caf\\303 time=00:00:01.00 \\377\\303' >&2\n" + app.waitFor("bar")
-                        + "echo converted > \"$output\"\n");
+            + "echo converted > \"$output\"\n");
         ready(app);
         QList<int> values;
         app.sheets.onShow = [&app, &values](Sheet *sheet) {
             if (const auto *progress = qobject_cast<Window_Progress *>(sheet)) {
-                connect(progress->progressBar(), &QProgressBar::valueChanged, sheet, [&app, &values](int value) {
-                    values.append(value);
-                    app.release(app.ffmpeg, "bar");
-                });
+                connect(
+                    progress->progressBar(), &QProgressBar::valueChanged, sheet, [&app, &values](int value) {
+                        values.append(value);
+                        app.release(app.ffmpeg, "bar");
+                    });
             }
         };
         app.press("btnBurn");
-        QCOMPARE(values, QList<int>{7});
+        QCOMPARE(values, QList<int>{ 7 });
         QVERIFY(app.completes());
     }
 
@@ -135,7 +138,8 @@ private Q_SLOTS:
     void aTranscoderThatAsksGetsNoAnswerAndEnds()
     {
         JobApplication app;
-        app.convertWith("printf 'Overwrite? [y/N] ' >&2; if read answer; then echo read; else echo end of input >&2; exit 1; fi\n");
+        app.convertWith("printf 'Overwrite? [y/N] ' >&2; if read answer; then echo read; else echo end of "
+                        "input >&2; exit 1; fi\n");
         ready(app);
         app.press("btnBurn");
         QVERIFY(app.completes());
@@ -182,7 +186,8 @@ private Q_SLOTS:
     void aWorkingFolderThatTakesNothingIsTold()
     {
         JobApplication app;
-        app.convertWith("echo converted 2> /dev/null > \"$output\" || { echo \"$output: $?\" >&2; exit 1; }\n");
+        app.convertWith(
+            "echo converted 2> /dev/null > \"$output\" || { echo \"$output: $?\" >&2; exit 1; }\n");
         ready(app);
         const QString folder = app.controller->s_Audio_Folder;
         QVERIFY(QDir().rmdir(folder));
@@ -294,8 +299,8 @@ private Q_SLOTS:
     void theWorkingSheetShowsWholeLines()
     {
         JobApplication app;
-        app.burnWith("printf 'Reading\\n12%% wri'\n" + app.waitFor("middle") + "printf 'tten: caf\\303'\n" + app.waitFor("letter")
-                     + "printf '\\251\\n13%% wri'\n" + app.waitFor("end"));
+        app.burnWith("printf 'Reading\\n12%% wri'\n" + app.waitFor("middle") + "printf 'tten: caf\\303'\n"
+            + app.waitFor("letter") + "printf '\\251\\n13%% wri'\n" + app.waitFor("end"));
         ready(app);
         app.press("btnBurn");
         QTRY_VERIFY(app.controller->windowPerformingOperation);
@@ -319,7 +324,8 @@ private Q_SLOTS:
         const QString line = u'0' + QString(198, u'0') + u'0';
         const auto fits = [&app](const Sheet *sheet) {
             const auto *text = sheet->findChild<QLabel *>(u"labelDescription"_s);
-            return sheet->width() < app.window->width() && text->height() >= text->heightForWidth(text->width())
+            return sheet->width() < app.window->width()
+                && text->height() >= text->heightForWidth(text->width())
                 && text->width() >= text->minimumSizeHint().width();
         };
         QTRY_VERIFY(app.controller->windowPerformingOperation);
@@ -381,7 +387,7 @@ private Q_SLOTS:
             exits = app.exits;
         });
         runThrough(app, project);
-        QCOMPARE(exits, QList<int>{0});
+        QCOMPARE(exits, QList<int>{ 0 });
     }
 
     void theCompleteSheetClosesByButtonEnterAndEscape_data()
@@ -439,7 +445,8 @@ private Q_SLOTS:
         QSignalSpy completed(app.controller.get(), &AppDelegate::operationCompleted);
         app.press("btnBurn");
         QVERIFY(app.completes());
-        QTest::mouseClick(app.button(app.controller->windowOperationCompleted, QDialogButtonBox::Ok), Qt::LeftButton);
+        QTest::mouseClick(
+            app.button(app.controller->windowOperationCompleted, QDialogButtonBox::Ok), Qt::LeftButton);
         app.burnWith("");
         app.press("btnBurn");
         QVERIFY(app.completes());
@@ -452,7 +459,10 @@ private:
     /// Counts the paint events of what it filters.
     class PaintCounter : public QObject {
     public:
-        explicit PaintCounter(int &count) : m_count(count) {}
+        explicit PaintCounter(int &count)
+            : m_count(count)
+        {
+        }
 
     protected:
         bool eventFilter(QObject *, QEvent *event) override
@@ -476,15 +486,17 @@ private:
     }
 
     /// Does `action` with the first sheet of this class while its work is held up.
-    static void holdAt(JobApplication &app, const QByteArray &sheetClass, const std::function<void(Sheet *)> &action)
+    static void holdAt(
+        JobApplication &app, const QByteArray &sheetClass, const std::function<void(Sheet *)> &action)
     {
         const QByteArray wait = app.waitFor("held");
-        const QByteArray held = sheetClass == "Window_Unique_Progress" ? "-eq" : "-gt"; // a probe has two arguments
+        const QByteArray held =
+            sheetClass == "Window_Unique_Progress" ? "-eq" : "-gt"; // a probe has two arguments
         app.ffmpeg.run("tool=$0\nfor output; do :; done\n"
                        "if [ $# "
-                       + held + " 2 ]; then\n" + wait
-                       + "fi\n"
-                         "[ $# -gt 2 ] && echo converted > \"$output\"\n");
+            + held + " 2 ]; then\n" + wait
+            + "fi\n"
+              "[ $# -gt 2 ] && echo converted > \"$output\"\n");
         app.burnWith(wait);
         app.around.stagingPoll = 500;
         whenShown(app, sheetClass.constData(), [&app, action](Sheet *sheet) {
@@ -505,7 +517,7 @@ private:
         if (project == 6)
             app.addFolder(file.left(file.lastIndexOf(u'/')));
         else
-            QVERIFY(app.add({file}));
+            QVERIFY(app.add({ file }));
         app.press("btnBurn");
         QVERIFY(app.completes());
     }

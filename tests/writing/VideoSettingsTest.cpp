@@ -14,7 +14,8 @@ class VideoSettingsTest : public QObject {
     static QString shown(const JobApplication &app)
     {
         QString states;
-        for (const char *name : {"radioVideoNTSC", "radioVideoPal", "radioAudioDolbyDigital", "radioAudioMPEG2"})
+        for (const char *name :
+            { "radioVideoNTSC", "radioVideoPal", "radioAudioDolbyDigital", "radioAudioMPEG2" })
             states += QLatin1Char(radio(app, name)->isChecked() ? '1' : '0');
         return states;
     }
@@ -40,7 +41,8 @@ class VideoSettingsTest : public QObject {
     {
         const QSettings file(u"Corvalis"_s, u"Corvalis"_s);
         return app.controller->s_Video_Output_Format + app.controller->s_Audio_Output_Format + u" on disk "_s
-            + file.value(u"QuendralVideoFormat18"_s).toString() + file.value(u"QuendralAudioFormat18"_s).toString();
+            + file.value(u"QuendralVideoFormat18"_s).toString()
+            + file.value(u"QuendralAudioFormat18"_s).toString();
     }
 
     static void open(JobApplication &app)
@@ -155,7 +157,7 @@ private Q_SLOTS:
         close(app, QDialogButtonBox::Cancel);
 
         app.insert(discs::blankDVD);
-        QVERIFY(app.add({app.file(u"clip.mov"_s)}));
+        QVERIFY(app.add({ app.file(u"clip.mov"_s) }));
         app.press("btnBurn");
         QVERIFY(app.completes());
         QCOMPARE(app.ffmpeg.runs().last().at(3), states.startsWith(u'1') ? u"ntsc-dvd"_s : u"pal-dvd"_s);
@@ -183,12 +185,12 @@ private Q_SLOTS:
         Window_Video_Settings *sheet = app.controller->windowVideoSettings;
         using Handler = void (Window_Video_Settings::*)();
         const std::pair<Handler, const char *> handlers[] = {
-            {&Window_Video_Settings::OnVideoNTSC, "radioVideoNTSC"},
-            {&Window_Video_Settings::OnVideoPal, "radioVideoPal"},
-            {&Window_Video_Settings::OnAudioDolbyDigital, "radioAudioDolbyDigital"},
-            {&Window_Video_Settings::OnAudioMPEG2, "radioAudioMPEG2"},
+            { &Window_Video_Settings::OnVideoNTSC, "radioVideoNTSC" },
+            { &Window_Video_Settings::OnVideoPal, "radioVideoPal" },
+            { &Window_Video_Settings::OnAudioDolbyDigital, "radioAudioDolbyDigital" },
+            { &Window_Video_Settings::OnAudioMPEG2, "radioAudioMPEG2" },
         };
-        const QStringList allButTheOther{u"1011"_s, u"0111"_s, u"1110"_s, u"1101"_s};
+        const QStringList allButTheOther{ u"1011"_s, u"0111"_s, u"1110"_s, u"1101"_s };
         for (qsizetype i = 0; i < 4; ++i) {
             const auto &[handler, name] = handlers[i];
             setAll(app, true);
@@ -228,7 +230,8 @@ private Q_SLOTS:
 private:
     static void setAll(const JobApplication &app, bool on)
     {
-        for (const char *name : {"radioVideoNTSC", "radioVideoPal", "radioAudioDolbyDigital", "radioAudioMPEG2"})
+        for (const char *name :
+            { "radioVideoNTSC", "radioVideoPal", "radioAudioDolbyDigital", "radioAudioMPEG2" })
             radio(app, name)->setChecked(on);
     }
 };

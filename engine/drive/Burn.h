@@ -32,8 +32,8 @@ Result<void> burnImageFile(Drive &drive, const std::string &image, const BurnOpt
 /// Erases the medium in `drive`.
 Result<void> eraseMedium(Drive &drive, EraseMode mode, const Control &control);
 
-/// Catches SIGINT, SIGTERM and ignores SIGHUP, SIGPIPE and SIGXFSZ as long as it lives: a signal is noted, no
-/// system call is broken off, and the operation ends in its own way. One at a time.
+/// Catches SIGINT and SIGTERM as long as it lives, and ignores SIGHUP, SIGPIPE and SIGXFSZ from then on: a signal
+/// is noted, no system call is broken off, and the operation ends in its own way. One at a time.
 class StopSignals {
 public:
     StopSignals();

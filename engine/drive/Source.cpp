@@ -21,8 +21,8 @@ struct SourceData {
     Fill fill;
     off_t size;
     /// libburn says that its writing thread has ended without anything that orders memory between the
-    /// threads, so each read is released here, and acquired before what it worked on goes away.
-    std::atomic<std::uint64_t> reads = 0;
+    /// threads, so each use is released here, and acquired before what was used goes away.
+    std::atomic<std::uint64_t> uses = 0;
 };
 
 SourceData &dataOf(burn_source *source)
@@ -34,13 +34,15 @@ int readData(burn_source *source, unsigned char *buffer, int size)
 {
     const std::span<std::byte> bytes(reinterpret_cast<std::byte *>(buffer), static_cast<std::size_t>(size));
     const auto filled = static_cast<int>(dataOf(source).fill(bytes));
-    dataOf(source).reads.fetch_add(1, std::memory_order_release);
+    dataOf(source).uses.fetch_add(1, std::memory_order_release);
     return filled;
 }
 
 off_t sizeOf(burn_source *source)
 {
-    return dataOf(source).size;
+    const off_t size = dataOf(source).size;
+    dataOf(source).uses.fetch_add(1, std::memory_order_release);
+    return size;
 }
 
 int setSize(burn_source *source, off_t size)
@@ -51,7 +53,7 @@ int setSize(burn_source *source, off_t size)
 
 void freeData(burn_source *source)
 {
-    static_cast<void>(dataOf(source).reads.load(std::memory_order_acquire));
+    static_cast<void>(dataOf(source).uses.load(std::memory_order_acquire));
     delete &dataOf(source);
 }
 

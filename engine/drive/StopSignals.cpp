@@ -46,8 +46,11 @@ StopSignals::StopSignals()
 
 StopSignals::~StopSignals()
 {
-    for (std::size_t i = 0; i < handled.size(); ++i)
-        ::sigaction(handled[i].signal, &previous[i], nullptr);
+    // What was ignored stays so: a thread that blocks all signals may have one pending, and gets it at its end.
+    for (std::size_t i = 0; i < handled.size(); ++i) {
+        if (handled[i].stops)
+            ::sigaction(handled[i].signal, &previous[i], nullptr);
+    }
 }
 
 int StopSignals::caught() const

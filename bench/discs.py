@@ -40,9 +40,9 @@ def bench_data_disc(bench):
     for what, tree in trees(bench):
         cost = burned(bench, tree)
         rows += [time_row(f"data disc of {what}", cost["ours"], "xorriso", cost["xorriso"], 1.0),
-                 time_row("the same, read back and compared", cost["verified"], "xorriso", cost["xorriso"]),
+                 time_row("the same, read back and compared", cost["verified"], "xorriso", cost["xorriso"], 1.0),
                  memory_row("peak memory", cost["ours"], "xorriso", cost["xorriso"], 0.7),
-                 memory_row("the same, read back and compared", cost["verified"], "xorriso", cost["xorriso"])]
+                 memory_row("the same, read back and compared", cost["verified"], "xorriso", cost["xorriso"], 0.7)]
     return rows
 
 

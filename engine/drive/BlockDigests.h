@@ -2,6 +2,7 @@
 #pragma once
 
 #include "drive/Drive.h"
+#include "drive/System.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -10,30 +11,38 @@
 
 namespace engine::drive {
 
-/// Digests of 32 bits, so a 25 GB disc needs 49 MB of memory. Filled on libburn's thread and read after
-/// its end.
+/// Digests of 32 bits: 49 MB for a 25 GB disc, of which the most recent lie in memory and the rest in a file
+/// without a name. Filled on libburn's thread and read after its end.
 class BlockDigests {
 public:
-    /// Without `keeping`, for a disc that is not compared, nothing is taken and no memory needed.
+    /// Without `keeping`, for a disc that is not compared, nothing is taken and no room needed.
     explicit BlockDigests(bool keeping = true)
         : m_keeping(keeping)
     {
     }
 
-    /// Forgets everything; memory for `blocks` digests is set aside.
+    /// Forgets everything; room for `blocks` digests is set aside: in the folder for temporary files, and where
+    /// that has none, in memory.
     void start(std::uint64_t blocks);
 
     /// Adds the blocks in `data`, a multiple of blockBytes.
     void add(std::span<const std::byte> data);
 
-    std::uint64_t blocks() const { return m_digests.size(); }
+    std::uint64_t blocks() const { return m_saved + m_recent.size(); }
 
-    /// Number of leading blocks of `data` that are the ones sent from block `first` on.
-    std::size_t matching(std::uint64_t first, std::span<const std::byte> data) const;
+    /// Number of leading blocks of `data` that are the ones sent from block `first` on. An error when the
+    /// digests of these blocks could not be kept.
+    Result<std::size_t> matching(std::uint64_t first, std::span<const std::byte> data) const;
 
 private:
+    void save();
+    Result<std::vector<std::uint32_t>> digestsFrom(std::uint64_t first, std::size_t count) const;
+
     bool m_keeping;
-    std::vector<std::uint32_t> m_digests;
+    Fd m_file;
+    std::uint64_t m_saved = 0; ///< digests in the file
+    std::vector<std::uint32_t> m_recent; ///< those after them
+    int m_failure = 0; ///< errno of the first one that could not be saved
 };
 
 /// Reads the disc back and compares it with what was sent. The error names the first block that differs or

@@ -10,22 +10,6 @@
 
 namespace engine::drive {
 
-namespace {
-
-bool writeFully(int fd, std::string_view text)
-{
-    while (!text.empty()) {
-        const ssize_t n = ::write(fd, text.data(), text.size());
-        if (n < 0 && errno != EINTR)
-            return false;
-        if (n > 0)
-            text.remove_prefix(static_cast<std::size_t>(n));
-    }
-    return true;
-}
-
-} // namespace
-
 Fd &Fd::operator=(Fd &&other) noexcept
 {
     std::swap(m_fd, other.m_fd);
@@ -70,7 +54,7 @@ Result<void> replaceFile(int folder, const std::string &name, std::string_view t
     Fd fd(::openat(folder, fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0666));
     if (!fd)
         return systemError(what, errno);
-    if (!writeFully(fd.get(), text) || ::fsync(fd.get()) != 0
+    if (!writeFully(fd.get(), std::as_bytes(std::span(text)), 0) || ::fsync(fd.get()) != 0
         || ::renameat(folder, fresh.c_str(), folder, name.c_str()) != 0) {
         const int failure = errno;
         ::unlinkat(folder, fresh.c_str(), 0);
@@ -78,6 +62,20 @@ Result<void> replaceFile(int folder, const std::string &name, std::string_view t
     }
     ::fsync(folder);
     return {};
+}
+
+bool writeFully(int fd, std::span<const std::byte> bytes, off_t offset)
+{
+    while (!bytes.empty()) {
+        const ssize_t n = ::pwrite(fd, bytes.data(), bytes.size(), offset);
+        if (n < 0 && errno != EINTR)
+            return false;
+        if (n > 0) {
+            bytes = bytes.subspan(static_cast<std::size_t>(n));
+            offset += n;
+        }
+    }
+    return true;
 }
 
 std::ptrdiff_t readFully(int fd, std::span<std::byte> buffer, off_t offset)

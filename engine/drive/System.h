@@ -44,6 +44,9 @@ Result<std::string> readSmallFile(int folder, const char *name, const std::strin
 /// power cut leaves one of them. The error begins with `what`.
 Result<void> replaceFile(int folder, const std::string &name, std::string_view text, const std::string &what);
 
+/// Writes all `bytes` from `offset` on; false and errno on failure.
+bool writeFully(int fd, std::span<const std::byte> bytes, off_t offset);
+
 /// Fills `buffer` from `offset` on; less than its size at the end of the file; -1 and errno on failure.
 std::ptrdiff_t readFully(int fd, std::span<std::byte> buffer, off_t offset);
 

@@ -4,6 +4,9 @@
 #include <QtTest>
 
 #include <csignal>
+#include <cstring>
+#include <set>
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 using namespace engine;
@@ -11,13 +14,22 @@ using namespace engine::drive;
 
 namespace {
 
-constexpr std::size_t blocks = 300;
+// More than the digests that are kept in memory, by a part of what is read at once.
+constexpr std::size_t blocks = 3 * 8 * 1024 + 300;
 
-/// A disc in memory, of which blocks from `unreadable` on cannot be read.
-class MemoryLease final : public Lease {
+/// A disc whose blocks from `unreadable` on cannot be read, and those in `changed` are not as they were sent.
+class MadeUpLease final : public Lease {
 public:
-    std::vector<std::byte> content;
+    std::set<std::size_t> changed;
     std::size_t unreadable = blocks;
+
+    void fill(std::size_t block, std::span<std::byte> bytes) const
+    {
+        for (std::size_t i = 0; i < blockBytes; i += sizeof block)
+            std::memcpy(&bytes[i], &block, sizeof block);
+        if (changed.contains(block))
+            bytes.back() ^= std::byte{ 1 };
+    }
 
     Result<report::Medium> medium() override { return report::Medium{}; }
     Result<void> erase(EraseMode, const Control &) override { return {}; }
@@ -27,10 +39,10 @@ public:
     void present() override { }
     Result<std::size_t> read(std::uint64_t block, std::span<std::byte> buffer) override
     {
-        const std::size_t end = std::min(unreadable * blockBytes, block * blockBytes + buffer.size());
-        const std::size_t start = std::min<std::size_t>(block * blockBytes, end);
-        std::copy(content.begin() + qsizetype(start), content.begin() + qsizetype(end), buffer.begin());
-        return end - start;
+        std::size_t done = 0;
+        for (; done < buffer.size() && block < unreadable; done += blockBytes)
+            fill(block++, buffer.subspan(done, blockBytes));
+        return done;
     }
 };
 
@@ -42,12 +54,8 @@ class BlockDigestsTest : public QObject {
 private Q_SLOTS:
     void init()
     {
-        m_lease.content.resize(blocks * blockBytes);
-        m_lease.unreadable = blocks;
-        for (std::size_t i = 0; i < m_lease.content.size(); ++i)
-            m_lease.content[i] = std::byte((i * 7 + i / blockBytes) & 0xff);
-        m_sent.start(blocks);
-        m_sent.add(m_lease.content);
+        m_lease = {};
+        sendTo(m_sent);
     }
 
     void anExactCopyIsGood() { QVERIFY(verify(m_lease, m_sent, "drive 1", {})); }
@@ -55,8 +63,7 @@ private Q_SLOTS:
     void nothingIsKeptOfADiscThatIsNotCompared()
     {
         BlockDigests none(false);
-        none.start(blocks);
-        none.add(m_lease.content);
+        sendTo(none);
         QCOMPARE(none.blocks(), std::uint64_t(0));
         QCOMPARE(m_sent.blocks(), std::uint64_t(blocks));
     }
@@ -64,15 +71,14 @@ private Q_SLOTS:
     void oneBitIsFound_data()
     {
         QTest::addColumn<int>("block");
-        for (const int block : { 0, 1, 127, 128, 255, 256, 299 })
+        for (const int block : { 0, 1, 31, 32, 8'191, 8'192, 16'383, 16'384, 24'575, 24'576, 24'875 })
             QTest::newRow(QByteArray::number(block).constData()) << block;
     }
 
     void oneBitIsFound()
     {
         QFETCH(int, block);
-        m_lease.content[std::size_t(block) * blockBytes + 2047] ^= std::byte{ 1 };
-        m_lease.content.back() ^= std::byte{ 2 };
+        m_lease.changed = { std::size_t(block), blocks - 1 };
         const auto verified = verify(m_lease, m_sent, "drive 1", {});
         QVERIFY(!verified);
         QCOMPARE(QString::fromStdString(verified.error().message),
@@ -82,7 +88,8 @@ private Q_SLOTS:
 
     void anUnreadableBlockIsNamed()
     {
-        for (const std::size_t block : { std::size_t(0), std::size_t(130), blocks - 1 }) {
+        for (const std::size_t block :
+            { std::size_t(0), std::size_t(130), std::size_t(20'000), blocks - 1 }) {
             m_lease.unreadable = block;
             const auto verified = verify(m_lease, m_sent, "drive 1", {});
             QVERIFY(!verified);
@@ -102,8 +109,58 @@ private Q_SLOTS:
             QString::fromStdString(verified.error().message).contains(u"written, but was not compared"_s));
     }
 
+    // A second attempt to write the same disc begins anew.
+    void anotherStartForgetsWhatWasSent()
+    {
+        sendTo(m_sent);
+        QVERIFY(verify(m_lease, m_sent, "drive 1", {}));
+        QCOMPARE(m_sent.blocks(), std::uint64_t(blocks));
+    }
+
+    void withoutAFolderForTemporaryFilesTheyAreKeptInMemory()
+    {
+        const auto restore = qScopeGuard(
+            [was = qgetenv("TMPDIR")] { was.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", was); });
+        qputenv("TMPDIR", "/nowhere at all");
+        BlockDigests kept;
+        sendTo(kept);
+        QVERIFY(verify(m_lease, kept, "drive 1", {}));
+        m_lease.changed = { 20'000 };
+        QVERIFY(!verify(m_lease, kept, "drive 1", {}));
+    }
+
+    void whatCouldNotBeKeptIsSaid()
+    {
+        struct rlimit was { };
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &was), 0);
+        const auto restore = qScopeGuard([&] { setrlimit(RLIMIT_FSIZE, &was); });
+        const struct rlimit small {
+            1024, was.rlim_max
+        };
+        std::signal(SIGXFSZ, SIG_IGN);
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+        BlockDigests lost;
+        sendTo(lost);
+        const auto verified = verify(m_lease, lost, "drive 1", {});
+        QVERIFY(!verified);
+        QCOMPARE(QString::fromStdString(verified.error().message),
+            u"The disc is written, but what was sent was not kept to compare it with: file too large."_s);
+    }
+
 private:
-    MemoryLease m_lease;
+    void sendTo(BlockDigests &digests) const
+    {
+        std::vector<std::byte> piece(64 * blockBytes);
+        digests.start(blocks);
+        for (std::size_t block = 0; block < blocks;) {
+            std::size_t count = 0;
+            for (; count < 64 && block < blocks; ++count)
+                m_lease.fill(block++, std::span(piece).subspan(count * blockBytes, blockBytes));
+            digests.add(std::span(piece).first(count * blockBytes));
+        }
+    }
+
+    MadeUpLease m_lease;
     BlockDigests m_sent;
 };
 

@@ -313,6 +313,16 @@ void IsoHeader::SourceRelease::operator()(burn::burn_source *source) const
     burn::burn_source_free(source);
 }
 
+/// libisofs loses the memory of a folder during whose writing it is cancelled, so all folders are let through.
+IsoHeader::~IsoHeader()
+{
+    std::array<std::byte, 16 * blockSize> unwanted;
+    for (bool going = m_source && m_left > 0; going;) {
+        const auto got = read(unwanted);
+        going = got && *got > 0;
+    }
+}
+
 std::uint32_t IsoHeader::paddingBlocks()
 {
     return image::paddingBlocks;

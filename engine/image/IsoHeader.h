@@ -28,6 +28,9 @@ public:
     static Result<IsoHeader> make(const FolderTree &tree, const std::string &volumeName, bool rockRidge);
 
     IsoHeader() = default;
+    IsoHeader(IsoHeader &&) = default;
+    IsoHeader &operator=(IsoHeader &&) = default;
+    ~IsoHeader();
 
     /// Blocks of the whole image.
     std::uint32_t imageBlocks() const { return m_imageBlocks; }

@@ -8,17 +8,13 @@ namespace engine::drive {
 
 namespace {
 
-struct Handled {
-    int signal;
-    bool stops;
-};
+constexpr std::array stopping{ SIGINT, SIGTERM };
 
 // Whoever closes the terminal or the reader of our output does not want to lose the disc.
 // A limit on the size of files has to become an error of the write, not the end of the program.
-constexpr std::array handled{ Handled{ SIGINT, true }, Handled{ SIGTERM, true }, Handled{ SIGHUP, false },
-    Handled{ SIGPIPE, false }, Handled{ SIGXFSZ, false } };
+constexpr std::array ignored{ SIGHUP, SIGPIPE, SIGXFSZ };
 
-std::array<struct sigaction, handled.size()> previous;
+std::array<struct sigaction, stopping.size()> previous; // of those that stop
 std::atomic<int> firstSignal = 0;
 static_assert(std::atomic<int>::is_always_lock_free);
 
@@ -33,24 +29,23 @@ extern "C" void note(int signal)
 StopSignals::StopSignals()
 {
     firstSignal = 0;
-    for (std::size_t i = 0; i < handled.size(); ++i) {
-        struct sigaction action { };
-        action.sa_handler = handled[i].stops ? note : SIG_IGN;
-        // A write to a file or a drive that a signal broke off would count as failed.
-        action.sa_flags = SA_RESTART;
-        // Of two at once the first is the one that counts.
-        sigfillset(&action.sa_mask);
-        ::sigaction(handled[i].signal, &action, &previous[i]);
-    }
+    struct sigaction action { };
+    action.sa_handler = note;
+    // A write to a file or a drive that a signal broke off would count as failed.
+    action.sa_flags = SA_RESTART;
+    // Of two at once the first is the one that counts.
+    sigfillset(&action.sa_mask);
+    for (std::size_t i = 0; i < stopping.size(); ++i)
+        ::sigaction(stopping[i], &action, &previous[i]);
+    for (const int signal : ignored)
+        std::signal(signal, SIG_IGN);
 }
 
 StopSignals::~StopSignals()
 {
     // What was ignored stays so: a thread that blocks all signals may have one pending, and gets it at its end.
-    for (std::size_t i = 0; i < handled.size(); ++i) {
-        if (handled[i].stops)
-            ::sigaction(handled[i].signal, &previous[i], nullptr);
-    }
+    for (std::size_t i = 0; i < stopping.size(); ++i)
+        ::sigaction(stopping[i], &previous[i], nullptr);
 }
 
 int StopSignals::caught() const

@@ -5,9 +5,63 @@
 #include <QDeadlineTimer>
 #include <QMetaObject>
 
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <optional>
+#include <poll.h>
+#include <unistd.h>
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace runner {
+
+namespace {
+
+/// What a child prints on both channels, in the order of writing.
+class OutputPipe {
+public:
+    OutputPipe()
+    {
+        if (::pipe2(m_ends.data(), O_CLOEXEC) != 0)
+            m_ends = { -1, -1 };
+    }
+    OutputPipe(const OutputPipe &) = delete;
+    OutputPipe &operator=(const OutputPipe &) = delete;
+    ~OutputPipe()
+    {
+        closeChildsEnd();
+        if (m_ends[0] >= 0)
+            ::close(m_ends[0]);
+    }
+
+    int childsEnd() const { return m_ends[1]; }
+    void closeChildsEnd()
+    {
+        if (m_ends[1] >= 0)
+            ::close(std::exchange(m_ends[1], -1));
+    }
+
+    /// What has arrived, waited for at most `patience` milliseconds; nothing at the end of the output.
+    std::optional<QByteArray> read(int patience) const
+    {
+        pollfd arrival{ m_ends[0], POLLIN, 0 };
+        if (m_ends[0] >= 0 && ::poll(&arrival, 1, patience) <= 0)
+            return QByteArray();
+        QByteArray piece(64 * 1024, Qt::Uninitialized);
+        const ssize_t count = ::read(m_ends[0], piece.data(), static_cast<std::size_t>(piece.size()));
+        if (count == 0 || (count < 0 && errno != EINTR))
+            return std::nullopt;
+        piece.truncate(qMax<qsizetype>(count, 0));
+        return piece;
+    }
+
+private:
+    std::array<int, 2> m_ends;
+};
+
+} // namespace
 
 QString ToolEnd::text() const
 {
@@ -40,6 +94,8 @@ ToolRun::~ToolRun()
     if (state() != NotRunning) {
         kill();
         waitForFinished(1000);
+        if (m_log && m_position >= 0)
+            finish({ ToolEnd::How::EndedByUs, 0, {} });
     }
 }
 
@@ -59,17 +115,35 @@ QByteArray ToolRun::capture(int limit)
 {
     constexpr qsizetype most = 64 * 1024 * 1024;
     m_position = m_log->begin(program(), arguments(), m_subject);
-    setProcessChannelMode(MergedChannels);
+    OutputPipe pipe;
+    setProcessChannelMode(ForwardedChannels); // the pipe is our own: QProcess does not tell when it is closed
+    setChildProcessModifier([fd = pipe.childsEnd()] {
+        ::dup2(fd, STDOUT_FILENO);
+        ::dup2(fd, STDERR_FILENO);
+    });
     start(ReadOnly);
+    pipe.closeChildsEnd();
     QByteArray printed;
-    const auto collect = [this, &printed] {
-        const QByteArray piece = take(StandardOutput);
-        printed.append(piece.constData(), qMin(piece.size(), most - printed.size()));
+    const auto collect = [&](int patience) {
+        const auto piece = pipe.read(patience);
+        if (piece && !piece->isEmpty()) {
+            m_log->append(m_position, *piece);
+            printed.append(piece->constData(), qMin(piece->size(), most - printed.size()));
+        }
+        return piece;
     };
     const QDeadlineTimer deadline(limit);
-    while (state() != NotRunning && !deadline.hasExpired()) {
-        waitForReadyRead(static_cast<int>(qMin<qint64>(deadline.remainingTime(), 100)));
-        collect();
+    bool closed = false;
+    while (!closed && !deadline.hasExpired()) {
+        const auto piece = collect(static_cast<int>(qMin<qint64>(deadline.remainingTime(), 100)));
+        // A child of the child may keep the pipe open.
+        closed = !piece || (piece->isEmpty() && (waitForFinished(0) || state() == NotRunning));
+    }
+    // Most end at once after that, and how they do belongs into the log.
+    constexpr int moment = 100;
+    if (state() != NotRunning && closed && !waitForFinished(moment) && state() != NotRunning) {
+        connect(this, &QProcess::finished, this, [this] { finish(endOfChild()); });
+        return printed;
     }
     ToolEnd end = endOfChild();
     if (state() != NotRunning) {
@@ -79,8 +153,9 @@ QByteArray ToolRun::capture(int limit)
             kill();
             waitForFinished(1000);
         }
+        for (auto last = collect(0); last && !last->isEmpty();)
+            last = collect(0);
     }
-    collect();
     finish(end);
     return printed;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QPointer>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
@@ -48,9 +49,10 @@ public:
     /// before control is back in the event loop.
     void launch();
 
-    /// Runs to its end and answers all that it printed, both channels in the order of writing. Blocks
-    /// the calling thread, at most `limit` milliseconds: then the child is ended, and what it printed
-    /// so far is the answer. Of more than 64 MiB the rest is dropped.
+    /// Answers all that it prints, both channels in the order of writing. Blocks the calling thread until
+    /// the child closes its output, at most `limit` milliseconds: then the child is ended, and what it printed
+    /// so far is the answer. Of more than 64 MiB the rest is dropped. A child that closes its output and
+    /// goes on is left to itself: hasEnded() is false then, and ended() follows.
     QByteArray capture(int limit);
 
     /// How the child ended; meaningful after ended() or capture().
@@ -69,7 +71,7 @@ private:
     void finish(const ToolEnd &end);
     ToolEnd endOfChild() const;
 
-    ActivityLog *m_log;
+    const QPointer<ActivityLog> m_log;
     qsizetype m_position = -1;
     ToolEnd m_end;
     QString m_subject;

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void endsWhatGivesNoAnswer_data();
     void endsWhatGivesNoAnswer();
     void hearsTheLastWords();
+    void waitsForTheEndOfTheOutputOnly();
     void passesArgumentsAsTheyAre();
     void capturesBothChannelsInOrder();
     void keepsChannelsApart();
@@ -127,9 +128,9 @@ void ToolRunTest::captures()
     ToolRun run(misbehave, behaviour, &log);
     QSignalSpy ended(&run, &ToolRun::ended);
     QTEST(run.capture(longEnough), "printed");
+    QTRY_VERIFY(run.hasEnded());
     QTEST(run.end().how, "how");
     QTEST(run.end().code, "code");
-    QVERIFY(run.hasEnded());
     QCOMPARE(ended.size(), 1);
     QCOMPARE(run.state(), QProcess::NotRunning);
 }
@@ -220,7 +221,6 @@ void ToolRunTest::endsWhatGivesNoAnswer_data()
     };
     row("hangs", u"out one , hang"_s, "one\n");
     row("hangs without a word", u"hang"_s, "");
-    row("hangs with its output closed", u"out one , close-hang"_s, "one\n");
     row("pays no heed to being asked", u"ignore-term , out one , hang"_s, "one\n");
     row("takes its time to end", u"slow-term 30000 , out one , hang"_s, "one\n");
     row("prints without end", u"flood"_s, "xxxxxxxx");
@@ -254,6 +254,19 @@ void ToolRunTest::hearsTheLastWords()
     QCOMPARE(run.capture(1500), QByteArray("one\ncleaned up\n"));
     QCOMPARE(run.end().how, How::EndedByUs);
     QCOMPARE(run.output(), QByteArray("one\ncleaned up\n"));
+}
+
+void ToolRunTest::waitsForTheEndOfTheOutputOnly()
+{
+    ActivityLog log;
+    {
+        ToolRun run(misbehave, { u"out"_s, u"one"_s, u","_s, u"close-early"_s, u","_s, u"hang"_s }, &log);
+        QCOMPARE(run.capture(longEnough), QByteArray("one\n"));
+        QVERIFY(!run.hasEnded());
+        QCOMPARE(run.state(), QProcess::Running);
+        QCOMPARE(log.at(0).outcome, QString());
+    }
+    QVERIFY(!log.at(0).outcome.isEmpty());
 }
 
 void ToolRunTest::passesArgumentsAsTheyAre()

@@ -15,7 +15,7 @@ namespace {
 QCollator fileBrowserCollator()
 {
     // The C locale has no collation of its own: it would compare code units.
-    const QLocale user;
+    const QLocale user = QLocale().collation(); // LC_COLLATE may name another one than LANG
     QCollator collator(user.language() == QLocale::C ? QLocale(QLocale::English) : user);
     collator.setNumericMode(true);
     collator.setCaseSensitivity(Qt::CaseInsensitive);

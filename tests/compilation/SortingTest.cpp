@@ -1,6 +1,7 @@
 #include "compilation/Sorting.h"
 
 #include <QLocale>
+#include <QProcess>
 #include <QTest>
 
 #include <algorithm>
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void sortsAsAFileBrowser_data();
     void sortsAsAFileBrowser();
     void sortsByTheUsersLocale();
+    void sortsByTheLocaleForSorting();
     void keepsTheOrderOfEqualTexts();
     void reordersRecords();
     void sortsLongLists();
@@ -85,6 +87,27 @@ void SortingTest::sortsByTheUsersLocale()
     QLocale::setDefault(before);
     QCOMPARE(german, (QStringList{ u"Ast"_s, u"Öl"_s, u"Zug"_s }));
     QCOMPARE(swedish, (QStringList{ u"Ast"_s, u"Zug"_s, u"Öl"_s }));
+}
+
+// In a process of its own: the environment is read once.
+void SortingTest::sortsByTheLocaleForSorting()
+{
+    const QString marker = u"SORTING_TEST_EXPECTS_SWEDISH"_s;
+    if (qEnvironmentVariableIsSet(qPrintable(marker))) {
+        QCOMPARE(sorted({ u"Öl"_s, u"Zug"_s }, true), (QStringList{ u"Zug"_s, u"Öl"_s }));
+        return;
+    }
+    QProcess again;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(u"LC_ALL"_s);
+    environment.insert(u"LANG"_s, u"C.UTF-8"_s);
+    environment.insert(u"LC_COLLATE"_s, u"sv_SE.UTF-8"_s);
+    environment.insert(marker, u"1"_s);
+    again.setProcessEnvironment(environment);
+    again.setProcessChannelMode(QProcess::ForwardedChannels);
+    again.start(QCoreApplication::applicationFilePath(), { u"sortsByTheLocaleForSorting"_s });
+    QVERIFY(again.waitForFinished());
+    QCOMPARE(again.exitCode(), 0);
 }
 
 void SortingTest::keepsTheOrderOfEqualTexts()

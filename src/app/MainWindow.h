@@ -24,6 +24,7 @@ Q_SIGNALS:
     void closing();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:

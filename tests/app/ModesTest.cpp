@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QRadioButton>
 #include <QTest>
+#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -76,6 +77,7 @@ private Q_SLOTS:
     void kindsWithoutAList();
     void modeButtonKeepsTheList();
     void tabsByClick();
+    void tabsNotByTheWheel();
     void tabsByMenu();
     void tabsByKeys();
     void sameTabFromTheMenuEmptiesTheList();
@@ -420,6 +422,18 @@ void ModesTest::tabsByClick()
         for (int item = 0; item < 5; ++item)
             QCOMPARE(m_app->element<QAction>(tabItems[item])->isChecked(), item == index);
     }
+}
+
+void ModesTest::tabsNotByTheWheel()
+{
+    fillLists();
+    QTabBar *bar = m_app->element<QTabWidget>("tabviewMain")->tabBar();
+    const QPointF place = bar->rect().center();
+    QWheelEvent turn(place, bar->mapToGlobal(place), {}, { 0, -120 }, Qt::NoButton, Qt::NoModifier,
+        Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(bar, &turn);
+    QCOMPARE(tab(), 0);
+    QVERIFY(!listsAreEmpty());
 }
 
 void ModesTest::tabsByMenu()

@@ -25,19 +25,23 @@ void Window_New_Disc::windowDidLoad()
 {
     // The buttons stand in three groups but exclude each other over all of them, so this class
     // switches the others off, not the toolkit.
+    constexpr std::array actions{ &Window_New_Disc::OnRadio1, &Window_New_Disc::OnRadio2,
+        &Window_New_Disc::OnRadio3, &Window_New_Disc::OnRadio4, &Window_New_Disc::OnRadio5,
+        &Window_New_Disc::OnRadio6, &Window_New_Disc::OnRadio7, &Window_New_Disc::OnRadio8 };
     for (int number = 1; number <= 8; ++number) {
-        QRadioButton *radio = m_radios.at(static_cast<std::size_t>(number - 1));
+        const auto position = static_cast<std::size_t>(number - 1);
+        QRadioButton *radio = m_radios.at(position);
         radio->setAutoExclusive(false);
         radio->setChecked(number == m_controller->i_Type_of_New_Disc);
         connect(radio, &QRadioButton::clicked, radio, [radio] { radio->setChecked(true); });
-        connect(radio, &QRadioButton::clicked, this, [this, number] { OnRadio(number); });
+        connect(radio, &QRadioButton::clicked, this, actions.at(position));
         if (radio->isChecked())
             radio->setFocus();
     }
     m_ui->buttonBox->button(QDialogButtonBox::Ok)->setDefault(true);
 }
 
-void Window_New_Disc::OnRadio(int number)
+void Window_New_Disc::chosen(int number)
 {
     const QRadioButton *pressed = m_radios.at(static_cast<std::size_t>(number - 1));
     if (!pressed->isChecked())

@@ -20,6 +20,14 @@ public:
     Window_New_Disc(AppDelegate *controller, QWidget *parent);
     ~Window_New_Disc() override;
 
+    void OnRadio1() { chosen(1); }
+    void OnRadio2() { chosen(2); }
+    void OnRadio3() { chosen(3); }
+    void OnRadio4() { chosen(4); }
+    void OnRadio5() { chosen(5); }
+    void OnRadio6() { chosen(6); }
+    void OnRadio7() { chosen(7); }
+    void OnRadio8() { chosen(8); }
     void OnOK();
     void OnCancel();
 
@@ -28,7 +36,7 @@ protected:
 
 private:
     void windowDidLoad();
-    void OnRadio(int number); ///< OnRadio1 to OnRadio8: they differ in the number only
+    void chosen(int number); ///< what the eight actions have in common
 
     AppDelegate *const m_controller;
     std::unique_ptr<Ui::Window_New_Disc> m_ui;

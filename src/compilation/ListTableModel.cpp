@@ -2,6 +2,8 @@
 
 #include "app/AppDelegate.h"
 
+using namespace Qt::StringLiterals;
+
 ListTableModel::ListTableModel(Kind kind, const AppDelegate *controller, QObject *parent)
     : QAbstractTableModel(parent)
     , m_kind(kind)
@@ -107,6 +109,8 @@ QVariant ListTableModel::headerData(int section, Qt::Orientation orientation, in
         return {};
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(Qt::AlignVCenter | (isNumber(section) ? Qt::AlignRight : Qt::AlignLeft));
+    if (role == IdentifierRole)
+        return u"key%1"_s.arg(section + 1);
     if (role != Qt::DisplayRole)
         return {};
     if (m_kind == Kind::Data)

@@ -15,6 +15,8 @@ public:
     enum DataColumn { DataFolder, DataSize, DataColumnCount };
     /// The text by which a column is sorted, where it differs from the one shown too.
     static constexpr int SortRole = Qt::UserRole;
+    /// Of a heading: what the column is called in the program, "key1" to "key4".
+    static constexpr int IdentifierRole = Qt::UserRole + 1;
 
     /// `controller` is not owned and outlives the model.
     ListTableModel(Kind kind, const AppDelegate *controller, QObject *parent);

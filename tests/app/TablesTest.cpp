@@ -121,10 +121,17 @@ void TablesTest::headings()
         { u"File"_s, u"Duration"_s, u"Size"_s, u"Path"_s }, { u"Folder"_s, u"Size"_s } };
     for (int tab = 0; tab < 3; ++tab) {
         showTab(tab);
-        QStringList shown;
-        for (int i = 0; i < table()->model()->columnCount(); ++i)
-            shown.append(table()->model()->headerData(i, Qt::Horizontal, Qt::DisplayRole).toString());
+        QStringList shown, identifiers;
+        for (int i = 0; i < table()->model()->columnCount(); ++i) {
+            const auto heading = [this, i](int role) {
+                return table()->model()->headerData(i, Qt::Horizontal, role).toString();
+            };
+            shown.append(heading(Qt::DisplayRole));
+            identifiers.append(heading(ListTableModel::IdentifierRole));
+        }
         QCOMPARE(shown, expected.at(tab));
+        const QStringList keys{ u"key1"_s, u"key2"_s, u"key3"_s, u"key4"_s };
+        QCOMPARE(identifiers, keys.first(shown.size()));
         // All of them are there to be pressed, at any width.
         const QHeaderView *header = table()->horizontalHeader();
         for (int i = 0; i < header->count(); ++i)

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QByteArrayView>
 #include <QCommandLineParser>
+#include <QLoggingCategory>
 #include <QTimer>
 
 #include <csignal>
@@ -112,6 +113,7 @@ int runWindow()
 int runBatch(const BatchJob &job)
 {
     surface::hush();
+    QLoggingCategory::setFilterRules(u"corvalis.tools.info=false"_s); // the alerts' texts are what is told
     // Whoever reads the progress may stop reading; that is no reason to spoil a disc.
     std::signal(SIGPIPE, SIG_IGN);
     BatchQuestions questions(job.show);

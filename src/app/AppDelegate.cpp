@@ -175,7 +175,6 @@ void AppDelegate::storeFirstRunFormats()
 
 void AppDelegate::RemoveAllContentInFolder(const QString &folder)
 {
-    QDir().mkpath(folder); // a person may have taken it away from the Documents folder
     compilation::emptyFolder(QFile::encodeName(folder).toStdString(), [this](const std::string &failure) {
         const QString text = QString::fromStdString(failure);
         qCWarning(files).noquote() << u"oops: %1"_s.arg(text);
@@ -213,6 +212,7 @@ void AppDelegate::schedule(QPointer<QTimer> &timer, TimerRoutine routine)
     delete timer;
     timer = new QTimer(this);
     timer->setSingleShot(true);
+    timer->setTimerType(Qt::PreciseTimer); // others may be early
     connect(timer, &QTimer::timeout, this, routine);
     connect(timer, &QTimer::timeout, timer, &QObject::deleteLater);
     timer->start(100);

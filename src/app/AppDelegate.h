@@ -100,8 +100,10 @@ public:
     bool terminated = false; ///< the transcoder of this round has ended
     QString s_Orig_Duration;
     quint64 i_Orig_Duration_in_Seconds = 0; ///< of the file being transcoded
+    float percentTranscoded = 0; ///< of that file, 0 to 100
     quint64 u_Duration_Segment_in_Seconds = 0, u_Duration_All_Segments_in_Seconds = 0;
     std::unique_ptr<FolderClaim> folderClaim; ///< on the working folder of the present job
+    bool b_Emptying_Data_Folder = false; ///< after a data disc was written
     qsizetype jobStart = 0; ///< where the present job begins in the activity log
     quint64 u_Type_Progress = 0; ///< 1 audio, 0 video, else progress is not read
 
@@ -216,6 +218,7 @@ public:
     // ---- Records and measurements (compilation/)
     QString GetMediaFileDuration(const QString &path); ///< any thread; runs the transcoder and waits
     static qint64 Return_Seconds_From_Duration_Str(const QString &duration);
+    static QStringList splitStringIntoChars(const QString &text); ///< a utility: one text per character
     static quint64 folderSize(const QString &path); ///< bytes below a folder, links followed; walks the tree
 
     // ---- Adding and removing (compilation/)
@@ -271,7 +274,7 @@ public:
 
     // ---- Running tools (runner/)
     QByteArray captureTool(const QString &program, const QStringList &arguments,
-        runner::ToolEnd *end = nullptr); ///< blocks; any thread
+        runner::ToolEnd *end = nullptr); ///< blocks
     using Observer = void (AppDelegate::*)();
     /// What a background run is watched for beside its end: `drutil` runs have their output logged.
     enum class Output { Observed, Ignored };
@@ -290,6 +293,7 @@ public:
     void AudioBurnTerminated();
     void VideoBurnTerminated();
     void dataBurnTerminated();
+    void dataFolderEmptied();
     void MediaDuplicationTerminated();
     void CreateISOfromDriveTerminated();
     void Show_Window_Performing_Operation();
@@ -300,6 +304,8 @@ public:
     void Close_Window_Progress();
     using TimerRoutine = void (AppDelegate::*)();
     void schedule(QPointer<QTimer> &timer, TimerRoutine routine); ///< after 0.1 s, replacing a pending one
+    /// A job is under way, also in the moments when none of its windows is up: no other one may begin.
+    bool isJobPending() const;
 
     // ---- Writing discs (writing/)
     /// What the three forms of every kind of disc have in common: the checks before a job.

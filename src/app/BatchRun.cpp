@@ -163,9 +163,6 @@ void BatchRun::end(int status)
 
 void BatchRun::showProgress()
 {
-    const auto percent = [](const QProgressBar *bar) {
-        return bar->maximum() > 0 ? bar->value() * 100 / bar->maximum() : 0;
-    };
     if (const Window_Unique_Progress *adding = m_controller->windowUniqueProgress) {
         printLine(Stage::Adding,
             tr("Adding files: %1 of %2")
@@ -177,7 +174,7 @@ void BatchRun::showProgress()
                 .arg(qMin(
                     converting->progressOverall()->value() + 1, converting->progressOverall()->maximum()))
                 .arg(converting->progressOverall()->maximum())
-                .arg(percent(converting->progressBar())));
+                .arg(static_cast<int>(m_controller->percentTranscoded)));
     } else if (m_controller->windowDataCopyFolders) {
         printLine(Stage::Gathering, tr("Gathering the folders"));
     } else if (const Window_Performing_Operation *working = m_controller->windowPerformingOperation) {

@@ -252,6 +252,8 @@ void AppDelegate::showTab(int index)
 
 void AppDelegate::OnBtnBurn()
 {
+    if (isJobPending())
+        return;
     const QString title = ui->btnBurn->text();
     for (const ProjectType &type : projects::all) {
         if (title == type.burnTitle)

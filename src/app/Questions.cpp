@@ -30,12 +30,20 @@ int WindowQuestions::ask(const Alert &alert, QWidget *over)
     return window.exec();
 }
 
+/// `path`, or what is left of the way to it: nothing can be chosen where a dialog stands in no folder.
+static QString nearestFolder(QString path)
+{
+    while (!QFileInfo(path).isDir())
+        path = QFileInfo(path).path();
+    return path;
+}
+
 QList<QUrl> WindowQuestions::choose(const OpenPanel &panel, QWidget *over)
 {
     const QString start = !panel.startFolder.isEmpty() ? panel.startFolder
         : !m_lastFolder.isEmpty()                      ? m_lastFolder
                                                        : QDir::homePath();
-    Window_Open_Panel dialog(panel, start, over);
+    Window_Open_Panel dialog(panel, nearestFolder(start), over);
     if (dialog.exec() != QDialog::Accepted)
         return {};
     m_lastFolder = dialog.directory().absolutePath();

@@ -55,6 +55,11 @@ qint64 AppDelegate::Return_Seconds_From_Duration_Str(const QString &duration)
     return compilation::secondsFromDurationText(duration);
 }
 
+QStringList AppDelegate::splitStringIntoChars(const QString &text)
+{
+    return compilation::splitStringIntoChars(text);
+}
+
 quint64 AppDelegate::folderSize(const QString &path)
 {
     return compilation::treeSize(QFile::encodeName(path).toStdString());

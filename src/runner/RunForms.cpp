@@ -15,32 +15,58 @@
 #include <QLoggingCategory>
 #include <QProgressBar>
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 using runner::ToolRun;
 
-Q_LOGGING_CATEGORY(tools, "corvalis.tools", QtWarningMsg)
+Q_LOGGING_CATEGORY(tools, "corvalis.tools")
+
+namespace {
+
+// The system's log is no place for a flood; the activity log has all.
+constexpr qsizetype mostLogged = 4096;
+
+/// What still runs goes on by itself.
+void forgetAtEnd(ToolRun *run)
+{
+    if (run->hasEnded())
+        run->deleteLater();
+    else
+        QObject::connect(run, &ToolRun::ended, run, &QObject::deleteLater);
+}
+
+} // namespace
 
 QByteArray AppDelegate::captureTool(
     const QString &program, const QStringList &arguments, runner::ToolEnd *end)
 {
-    ToolRun run(program, arguments, activityLog);
+    auto *run = new ToolRun(program, arguments, activityLog, this);
     // No answer is longer; a flood would be taken for a million drives.
-    const QByteArray printed = run.capture(around.probeLimit).left(ActivityLog::keptOutput);
+    const QByteArray printed = run->capture(around.probeLimit).left(ActivityLog::keptOutput);
     if (end)
-        *end = run.end();
+        *end = run->end();
+    forgetAtEnd(run);
     return printed;
+}
+
+bool AppDelegate::isJobPending() const
+{
+    const auto isActive = [](const QPointer<QTimer> &timer) { return timer && timer->isActive(); };
+    const std::array stages{ timerBurnAudioCD, timerBurnMP3, timerBurnVideo, timerBurnDataFolder,
+        timerDuplicateMediaCopy, timerCreateISOStep1, timerCreateISOStep2, timerCreateISOStep3 };
+    return std::ranges::any_of(stages, isActive) || (observed && !observed->hasEnded())
+        || b_Emptying_Data_Folder;
 }
 
 void AppDelegate::removeObservers()
 {
-    // A child whose watchers are gone goes on by itself; it is only forgotten.
     if (!observed)
         return;
     disconnect(observed, nullptr, this, nullptr);
-    if (observed->hasEnded())
-        observed->deleteLater();
-    else
-        connect(observed, &ToolRun::ended, observed, &QObject::deleteLater);
+    forgetAtEnd(observed);
     observed = nullptr;
 }
 
@@ -99,8 +125,9 @@ void AppDelegate::showProgress(const QString &piece)
     if (seconds && windowProgress) {
         // A percentage on a bar whose maximum is the file's duration in seconds: a short file's bar
         // is full before its end, a long one's never is.
-        showOnBar(
-            windowProgress->progressBar(), runner::progressPercent(*seconds, i_Orig_Duration_in_Seconds));
+        const float percent = runner::progressPercent(*seconds, i_Orig_Duration_in_Seconds);
+        showOnBar(windowProgress->progressBar(), percent);
+        percentTranscoded = std::isfinite(percent) ? qBound(0.F, percent, 100.F) : 0.F;
     }
 }
 
@@ -113,12 +140,12 @@ void AppDelegate::transcoderTerminated()
 void AppDelegate::dataReady(const QByteArray &data)
 {
     if (!data.isEmpty())
-        qCDebug(tools).noquote() << u"Data Ready : %1"_s.arg(QString::fromUtf8(data));
+        qCInfo(tools).noquote() << u"Data Ready : %1"_s.arg(QString::fromUtf8(data.left(mostLogged)));
 }
 
 void AppDelegate::dataAvailable(const QByteArray &data)
 {
-    qCDebug(tools).noquote() << u"Data Available : %1"_s.arg(QString::fromUtf8(data));
+    qCInfo(tools).noquote() << u"Data Available : %1"_s.arg(QString::fromUtf8(data.left(mostLogged)));
 }
 
 void AppDelegate::taskTerminated()

@@ -24,6 +24,8 @@ void AppDelegate::OnToolsFormatQuick()
 
 void AppDelegate::eraseDisc(const QString &extent)
 {
+    if (isJobPending())
+        return;
     if (IsDriveEmpty()) {
         return alert(u"No disc"_s,
             u"There is no disc on the drive. insert a rewritable media on the drive and try again."_s);

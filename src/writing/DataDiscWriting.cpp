@@ -7,6 +7,7 @@
 #include "writing/Window_Data_Copy_Folders.h"
 
 #include <QDeadlineTimer>
+#include <QGuiApplication>
 #include <QThreadPool>
 
 #include <chrono>
@@ -79,19 +80,24 @@ void AppDelegate::TimerBurnDataFolder()
 
 void AppDelegate::dataBurnTerminated()
 {
-    if (windowPerformingOperation) {
-        const QString said = windowPerformingOperation->newestLine();
-        windowPerformingOperation->showNewestLine(
-            tr("%1 The working folder is being emptied.\n").arg(said).toUtf8());
-    }
-    // Behind the working sheet: what still copies would fill the folder again after it was emptied, and
+    Close_Window_Performing_Operation();
+    b_Emptying_Data_Folder = true;
+    QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+    // Not on this thread: what still copies has to end, or it would fill the folder again after it was emptied, and
     // emptying it of very many files takes seconds.
     QThreadPool::globalInstance()->start([this] {
         if (!endStagingCopies())
             activityLog->note(tr("The copying of a folder does not end"), s_Data_Folder);
         RemoveAllContentInFolder(s_Data_Folder);
-        QMetaObject::invokeMethod(this, &AppDelegate::taskTerminated, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &AppDelegate::dataFolderEmptied, Qt::QueuedConnection);
     });
+}
+
+void AppDelegate::dataFolderEmptied()
+{
+    QGuiApplication::restoreOverrideCursor();
+    b_Emptying_Data_Folder = false;
+    Show_Window_Operation_Complete();
 }
 
 bool AppDelegate::endStagingCopies()

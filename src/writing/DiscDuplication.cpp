@@ -7,6 +7,8 @@ using namespace Qt::StringLiterals;
 
 void AppDelegate::DuplicateMedia()
 {
+    if (isJobPending())
+        return;
     if (IsDriveEmpty()) {
         return alert(writing::noDisc,
             u"There is no disc on the drive. insert a media on the drive to copy and try again."_s);

@@ -5,6 +5,7 @@
 #include "runner/ActivityLog.h"
 #include "runner/StatusSheets.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QProgressBar>
 
@@ -71,6 +72,7 @@ bool AppDelegate::mayWrite(const DiscForm &form, bool listIsEmpty)
 bool AppDelegate::claimFolder(const QString &folder)
 {
     folderClaim.reset();
+    QDir().mkpath(folder); // a person may have taken it away from the Documents folder
     folderClaim = FolderClaim::take(folder);
     if (!folderClaim) {
         alert(tr("Another Corvalis is at work"),
@@ -95,6 +97,7 @@ void AppDelegate::convertList(
         const NodeMediaFile file = arrayMediaFiles.at(i);
         i_Orig_Duration_in_Seconds = static_cast<quint64>(file.i_Duration_in_Seconds);
         windowProgress->showItem(file.s_File_Name_With_Extension, file.i_Duration_in_Seconds);
+        percentTranscoded = 0;
         u_Type_Progress = progressMode;
         const QStringList arguments = argumentsFor(file);
         // Nothing is written over: of two files that are converted to one name the first one is kept.

@@ -3,13 +3,15 @@
 #include "app/MainWindow.h"
 #include "writing/DiscForms.h"
 
-#include <QDir>
 #include <QFile>
+#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
 void AppDelegate::OnActionISOCreate()
 {
+    if (isJobPending())
+        return;
     SourcePath = DestPath = DestPathISO = QString();
     OpenPanel panel;
     panel.choose = OpenPanel::Choose::Folder;
@@ -26,7 +28,7 @@ void AppDelegate::TimerCreateISOStep1Routine()
     OpenPanel panel;
     panel.choose = OpenPanel::Choose::Folder;
     panel.message = u"Select a folder to save the Image.iso file."_s;
-    panel.startFolder = QDir::home().filePath(u"Documents"_s);
+    panel.startFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QList<QUrl> chosen = around.questions->choose(panel, window);
     if (chosen.isEmpty())
         return;
@@ -59,6 +61,8 @@ void AppDelegate::TimerCreateISOStep3Routine()
 
 void AppDelegate::OnActionISOBurn()
 {
+    if (isJobPending())
+        return;
     OpenPanel panel;
     panel.extensions = { u"iso"_s, u"img"_s, u"dmg"_s };
     panel.message = u"Select a ISO image to burn to media."_s;

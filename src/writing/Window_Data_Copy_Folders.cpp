@@ -57,6 +57,7 @@ void Window_Data_Copy_Folders::windowDidLoad()
     m_ui->labelFolder->setTextFormat(Qt::PlainText);
     m_ui->pgAnimation->start();
     timerCloseWindow.setSingleShot(true);
+    timerCloseWindow.setTimerType(Qt::PreciseTimer); // others round a minute, and may be half a second early
     connect(&timerCloseWindow, &QTimer::timeout, this, &Window_Data_Copy_Folders::TimerCloseWindow);
     timerCloseWindow.start(100);
 }

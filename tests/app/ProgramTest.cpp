@@ -123,6 +123,7 @@ private Q_SLOTS:
     void progressFitsTheTerminal();
     void alertHasItsOwnLine();
     void progressInAFile();
+    void progressOfALongFile();
 
     void pathsAreWhatTheyAreToAShell_data();
     void pathsAreWhatTheyAreToAShell();
@@ -535,6 +536,18 @@ void ProgramTest::progressInAFile()
         lines, [](const QByteArray &line) { return line.endsWith(" %") && !line.contains(':'); });
     QVERIFY2(writing > 0 && writing < 6, lines.join(" | ").constData());
     QCOMPARE(lines.last(), QByteArray("Operation complete"));
+}
+
+void ProgramTest::progressOfALongFile()
+{
+    ProgramFolder folder;
+    folder.drutil.print(u"status"_s, "Type: CD-R\noverwritable\n");
+    folder.ffmpeg.run("if [ $# -eq 2 ]; then echo '  Duration: 00:10:00.00, start' >&2\n"
+                      "else echo 'time=00:05:00.00' >&2; sleep 1.5; fi");
+    makeFile(folder.home(u"song.mp3"_s));
+    QCOMPARE(folder.run({ u"--burn"_s, u"MP3 CD"_s, folder.home(u"song.mp3"_s) }), 0);
+    const QByteArray told = folder.process.readAllStandardOutput();
+    QVERIFY2(told.contains("Converting: file 1 of 1, 50 %\n"), told.constData());
 }
 
 void ProgramTest::pathsAreWhatTheyAreToAShell_data()

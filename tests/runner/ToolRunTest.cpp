@@ -260,7 +260,7 @@ void ToolRunTest::waitsForTheEndOfTheOutputOnly()
 {
     ActivityLog log;
     {
-        ToolRun run(misbehave, { u"out"_s, u"one"_s, u","_s, u"close-early"_s, u","_s, u"hang"_s }, &log);
+        ToolRun run(misbehave, { u"out"_s, u"one"_s, u","_s, u"close-hang"_s }, &log);
         QCOMPARE(run.capture(longEnough), QByteArray("one\n"));
         QVERIFY(!run.hasEnded());
         QCOMPARE(run.state(), QProcess::Running);

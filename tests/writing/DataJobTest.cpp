@@ -257,11 +257,10 @@ private Q_SLOTS:
         });
         int ticks = 0;
         QTimer timer;
-        QString shown;
         connect(&timer, &QTimer::timeout, this, [&] {
-            if (slow->stop && app.controller->windowPerformingOperation) {
+            if (slow->stop && app.controller->isJobPending()) {
                 ++ticks;
-                shown = app.controller->windowPerformingOperation->newestLine();
+                app.press("btnBurn"); // no second job meanwhile
             }
         });
         timer.start(10);
@@ -270,9 +269,8 @@ private Q_SLOTS:
         slow->stop = true;
         copying.join();
         QVERIFY(completed);
-        QVERIFY2(
-            ticks >= 5, "the window stood still, or was without its sheet, while the copy was waited for");
-        QVERIFY2(shown.contains(u"is being emptied"_s), qUtf8Printable(shown));
+        QVERIFY2(ticks >= 5, "the window stood still while the copy was waited for");
+        QVERIFY(!QGuiApplication::overrideCursor());
         QCOMPARE(app.namesIn(app.controller->s_Data_Folder), QStringList());
         QCOMPARE(app.sheets.order(), sheetsOfAJob);
         QVERIFY2(app.trouble().contains(u"before the copying of a folder has ended"_s),

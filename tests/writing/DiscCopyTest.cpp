@@ -53,6 +53,29 @@ class DiscCopyTest : public QObject {
     }
 
 private Q_SLOTS:
+    void noOtherJobBeginsBetweenTheEjectAndThePrompt()
+    {
+        JobApplication app;
+        ready(app);
+        layMedia(app, { discs::blankDVD });
+        app.trigger("submenuItemTabData");
+        app.file(u"photos/beach.jpg"_s);
+        app.addFolder(app.media.filePath(u"photos"_s));
+        app.insert(discs::pressedCD);
+        app.sheets.clear();
+        app.sheets.onHide = [&app](Sheet *sheet) {
+            if (sheet->inherits("Window_Performing_Operation") && app.hdiutil.runs(u"burn"_s).isEmpty()) {
+                app.insert(discs::blankCD);
+                QTimer::singleShot(0, sheet->parentWidget(), [&app] { app.press("btnBurn"); });
+            }
+        };
+        app.press("toolbar_btn_Data_Copy_Disc");
+        QVERIFY(app.completes());
+        QCOMPARE(noted(app, ".burned"), QByteArray("image\n"));
+        QCOMPARE(app.drutil.runs(u"burn"_s), QList<QStringList>());
+        QVERIFY(!app.sheets.order().contains(u"+Window_Data_Copy_Folders"_s));
+    }
+
     void aDiscIsCopied_data()
     {
         QTest::addColumn<int>("tab");

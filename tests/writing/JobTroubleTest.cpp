@@ -1,4 +1,5 @@
 // Jobs whose tools misbehave, and what a person can do while one runs.
+#include "app/FolderClaim.h"
 #include "app/Window_Activity_Log.h"
 #include "runner/ToolRun.h"
 #include "support/JobApplication.h"
@@ -34,6 +35,45 @@ class JobTroubleTest : public QObject {
     }
 
 private Q_SLOTS:
+    // ---- Between the windows of a job
+
+    void noSecondJobBeginsBetweenTheWindows()
+    {
+        JobApplication app;
+        ready(app, { u"one.mp3"_s, u"two.mp3"_s });
+        int presses = 0;
+        app.sheets.onHide = [&](Sheet *sheet) {
+            if (!sheet->inherits("Window_Progress"))
+                return;
+            QTimer::singleShot(20, sheet->parentWidget(), [&] {
+                ++presses;
+                app.press("btnBurn");
+            });
+        };
+        app.press("btnBurn");
+        QVERIFY(app.completes());
+        QCOMPARE(presses, 1);
+        QCOMPARE(app.burned(), (QStringList{ u"one.wav"_s, u"two.wav"_s }));
+        QCOMPARE(app.drutil.runs(u"burn"_s).size(), 1);
+        QCOMPARE(app.sheets.order().count(u"+Window_Progress"_s), 1);
+        QVERIFY(!app.controller->isJobPending());
+    }
+
+    void whatABurnPrintsIsInTheSystemsLog()
+    {
+        JobApplication app;
+        app.burnWith("echo Writing\n" + app.waitFor("more") + "echo Done\n");
+        ready(app);
+        QTest::ignoreMessage(QtInfoMsg, "Data Available : Writing\n");
+        QTest::ignoreMessage(QtInfoMsg, "Data Available : Done\n");
+        QTest::ignoreMessage(QtInfoMsg, "Data Ready : Writing\nDone\n");
+        app.press("btnBurn");
+        QTRY_VERIFY(app.controller->windowPerformingOperation);
+        QTRY_COMPARE(app.controller->windowPerformingOperation->newestLine(), u"Writing"_s);
+        app.release(app.drutil, "more");
+        QVERIFY(app.completes());
+    }
+
     // ---- Tools that misbehave
 
     void aMissingTranscoderIsToldAtTheEnd()
@@ -176,9 +216,13 @@ private Q_SLOTS:
     {
         JobApplication app;
         ready(app);
-        QVERIFY(QDir(app.controller->s_Audio_Folder).removeRecursively());
+        const QString folder = app.controller->s_Audio_Folder;
+        QVERIFY(QDir(folder).removeRecursively());
+        bool isOurs = false;
+        app.sheets.onShow = [&](Sheet *) { isOurs = isOurs || !FolderClaim::take(folder); };
         app.press("btnBurn");
         QVERIFY(app.completes());
+        QVERIFY(isOurs);
         QCOMPARE(app.trouble(), QString());
         QCOMPARE(app.burned(), QStringList(u"song.wav"_s));
     }

@@ -12,9 +12,11 @@ burn_counting() {
     # The time of drive and disc is not counted, and neither is that of the kernel's own threads.
     { time "$@" >out 2>err; } 2>seconds || fail "$name: $(tail -1 err)"
     read -r -a times <seconds
-    awk -v name="$name" -v user="${times[0]}" -v system="${times[1]}" -v size="$size" -v gib="$gibibyte" \
-        'BEGIN { printf "# %s: %.2f s of processor time for each GiB burned\n", name, (user + system) * gib / size }' \
+    awk -v name="$name" -v user="${times[0]}" -v kernel="${times[1]}" -v size="$size" -v gib="$gibibyte" \
+        'BEGIN { printf "# %s: %.2f s of processor time for each GiB burned\n", name, (user + kernel) * gib / size }' \
         >>"$scratch/processor"
+    # Without this the kernel does not see what a program that leaves the tray closed has written.
+    { eject "$device"; eject -t "$device"; } >/dev/null 2>&1
     compare_disc f
 }
 

@@ -46,7 +46,7 @@ def command_line():
                                      formatter_class=argparse.RawDescriptionHelpFormatter,
                                      epilog="\n".join(function.__doc__.splitlines()[0] for function in BENCHES.values()))
     parser.add_argument("--bin", required=True, help=argparse.SUPPRESS)
-    parser.add_argument("--scratch", help="where up to 14 GiB are needed for a while (default: a folder in the build folder)")
+    parser.add_argument("--scratch", metavar="FOLDER", help="where up to 14 GiB are needed for a while (default: a folder in the build folder)")
     parser.add_argument("--peers", action="store_true", help="(a) beside other disc programs, which are installed for it")
     parser.add_argument("--runs", type=int, default=3, metavar="N", help="measure N times, the least counts (default: 3)")
     parser.add_argument("--scale", type=float, default=1, metavar="X",

@@ -55,33 +55,41 @@ void refuseUnreadableNames(int argc, char **argv)
     }
 }
 
+QString projectNames()
+{
+    QStringList names;
+    for (const ProjectType &type : projects::all)
+        names.append(u'"' + QString(type.name) + u'"');
+    return names.join(u", "_s);
+}
+
 const ProjectType *projectNamed(const QString &name)
 {
     for (const ProjectType &type : projects::all) {
         if (name == type.name)
             return &type;
     }
-    QStringList names;
-    for (const ProjectType &type : projects::all)
-        names.append(u'"' + QString(type.name) + u'"');
-    refuse(u"there is no project \"%1\"; it is one of %2."_s.arg(name, names.join(u", "_s)));
+    refuse(u"there is no project \"%1\"; it is one of %2."_s.arg(name, projectNames()));
 }
 
 /// What the command line asks for; nothing for the ordinary window.
 std::optional<BatchJob> readCommandLine(const QCoreApplication &application)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(u"Prepares and writes optical discs."_s);
+    parser.setApplicationDescription(
+        u"Prepares and writes optical discs.\n\nExit status with --burn: 0 the job came to its end, 1 an "
+        u"alert ended it, "
+        "2 wrong arguments.\nA file whose name begins with a dash goes behind \"--\"."_s);
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption burn(
-        u"burn"_s, u"Make a disc of kind <project> from the files and end."_s, u"project"_s);
+    const QCommandLineOption burn(u"burn"_s,
+        u"Make a disc of kind <project> from the files and end: %1."_s.arg(projectNames()), u"project"_s);
     const QCommandLineOption show(u"show"_s, u"Do so in the window, which stays."_s);
     parser.addOptions({ burn, show });
-    parser.addPositionalArgument(
-        u"FILE"_s, u"Files, or folders for a data disc, in the order of the disc."_s, u"[FILE...]"_s);
+    parser.addPositionalArgument(u"FILE"_s,
+        u"Files, or folders for a data disc; the tracks of an audio CD keep their order."_s, u"[FILE...]"_s);
     if (!parser.parse(application.arguments()))
-        refuse(parser.errorText());
+        refuse(parser.errorText() + u" A file whose name begins with a dash goes behind \"--\"."_s);
     if (parser.isSet(u"help"_s) || parser.isSet(u"help-all"_s))
         parser.showHelp(0);
     if (parser.isSet(u"version"_s))
@@ -91,6 +99,8 @@ std::optional<BatchJob> readCommandLine(const QCoreApplication &application)
             refuse(u"files and --show go with --burn."_s);
         return std::nullopt;
     }
+    if (parser.values(burn).size() > 1)
+        refuse(u"--burn is there more than once."_s);
     BatchJob job{ projectNamed(parser.value(burn)), {}, parser.isSet(show) };
     for (const QString &path : parser.positionalArguments())
         job.paths.append(BatchRun::meantPath(path));

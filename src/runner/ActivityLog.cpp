@@ -114,7 +114,8 @@ QStringList ActivityLog::troublesSince(qsizetype position) const
         }
         const QString what =
             activity.subject.isEmpty() ? QFileInfo(activity.command.first()).fileName() : activity.subject;
-        const bool named = !activity.subject.isEmpty() && said.contains(activity.subject);
+        const bool named = said.startsWith(what + u": "_s)
+            || (!activity.subject.isEmpty() && said.contains(activity.subject));
         troubles.append((named ? QString() : what + u": "_s) + (said.isEmpty() ? activity.outcome : said));
     }
     return troubles;

@@ -138,7 +138,7 @@ void ActivityLogTest::tellsTroubles_data()
     };
     row("ended well", u"/usr/bin/drutil"_s, "all went well\n", false, {});
     row("its last line", u"/usr/bin/drutil"_s, "one\ntwo\ndrutil: no disc\n", true,
-        { u"drutil: drutil: no disc"_s });
+        { u"drutil: no disc"_s });
     row("its last line without an end", u"ffmpeg"_s, "one\ntwo", true, { u"ffmpeg: two"_s });
     row("its last line after bare returns", u"ffmpeg"_s, "10 %\r20 %\rfailed\r\n", true,
         { u"ffmpeg: failed"_s });

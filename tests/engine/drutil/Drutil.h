@@ -31,9 +31,8 @@ public:
     Drutil()
     {
         m_environment.insert(QStringLiteral("CORVALIS_RECORDERS"), recorders());
-        // A burner of the machine that runs the tests is never touched: `always` keeps a recorder beside it,
-        // and the tests name drives by what they find.
-        m_environment.insert(QStringLiteral("CORVALIS_VIRTUAL"), QStringLiteral("always"));
+        // A burner of the machine that runs the tests is never touched.
+        m_environment.insert(QStringLiteral("CORVALIS_VIRTUAL"), QStringLiteral("only"));
     }
 
     static QString program() { return qEnvironmentVariable("CORVALIS_BIN") + QStringLiteral("/drutil"); }

@@ -114,7 +114,7 @@ private Q_SLOTS:
         const Ran ran = burn(scratch.path("i.iso"));
         QCOMPARE(ran.exit, 3);
         QVERIFY2(!ran.err.isEmpty(), qPrintable(ran.err));
-        m_drutil->environment().insert(u"CORVALIS_VIRTUAL"_s, u"off"_s);
+        m_drutil->environment().insert(u"CORVALIS_RECORDERS"_s, m_drutil->path(u"no recorder"_s));
         QCOMPARE(burn(scratch.path("i.iso")).exit, 3);
     }
 

@@ -62,6 +62,14 @@ Error folderError(const std::string &folder, int error)
     return { Exit::failed, "The folder " + quoted(folder) + " cannot be read: " + reason(error) + "." };
 }
 
+Error tooLong(const std::string &folder, std::uint64_t sectors)
+{
+    return { Exit::failed,
+        "The WAVE files in " + quoted(folder) + " make a disc of " + std::to_string(sectors) + " sectors ("
+            + msf(sectors) + "), and an audio disc counts to " + std::to_string(mostSectors) + " ("
+            + msf(mostSectors) + "): take some out of the folder." };
+}
+
 /// The files that can be tracks, in order; the others become notes.
 Result<std::vector<Candidate>> listCandidates(const std::string &folder, std::vector<std::string> &notes)
 {
@@ -101,10 +109,9 @@ std::uint32_t AudioDisc::sectorCount() const
     return sum;
 }
 
-std::uint32_t sectorsFor(std::uint64_t bytes)
+std::uint64_t sectorsFor(std::uint64_t bytes)
 {
-    const std::uint64_t sectors = (bytes + sectorSize - 1) / sectorSize;
-    return std::max(static_cast<std::uint32_t>(sectors), shortestTrack);
+    return std::max<std::uint64_t>(bytes / sectorSize + (bytes % sectorSize != 0), shortestTrack);
 }
 
 Result<AudioDisc> readAudioFolder(const std::string &folder)
@@ -120,22 +127,29 @@ Result<AudioDisc> readAudioFolder(const std::string &folder)
         return Error{ Exit::failed,
             "The folder " + quoted(folder) + " holds " + std::to_string(candidates->size())
                 + " WAVE files, but an audio disc has at most " + std::to_string(mostTracks) + " tracks." };
+    std::uint64_t total = firstPause; // of 99 files of any size it fits in 64 bits
     for (const Candidate &candidate : *candidates) {
         const std::string path = folder + (folder.ends_with('/') ? "" : "/") + candidate.name;
         const auto wave = readWave(path);
         if (!wave)
             return wave.error();
-        disc.tracks.push_back({ path, *wave, sectorsFor(wave->size) });
+        const std::uint64_t sectors = sectorsFor(wave->size);
+        total += sectors;
+        disc.tracks.push_back({ path, *wave, static_cast<std::uint32_t>(sectors) });
     }
+    if (total > mostSectors)
+        return tooLong(folder, total);
     return disc;
 }
 
-std::string msf(std::uint32_t sector)
+std::string msf(std::uint64_t sector)
 {
-    char text[32];
-    std::snprintf(text, sizeof text, "%02u:%02u:%02u", sector / sectorsPerSecond / 60,
-        sector / sectorsPerSecond % 60, sector % sectorsPerSecond);
-    return text;
+    const auto twoDigits = [](std::uint64_t number) {
+        return (number < 10 ? "0" : "") + std::to_string(number);
+    };
+    const std::uint64_t seconds = sector / sectorsPerSecond;
+    return twoDigits(seconds / 60) + ':' + twoDigits(seconds % 60) + ':'
+        + twoDigits(sector % sectorsPerSecond);
 }
 
 std::string cueSheet(const std::string &binName, const std::vector<AudioTrack> &tracks)

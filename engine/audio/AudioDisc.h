@@ -15,8 +15,11 @@ constexpr std::uint32_t sectorsPerSecond = 75; ///< also called frames
 constexpr std::uint32_t firstPause = 150; ///< sectors of silence before track 1
 constexpr std::uint32_t shortestTrack = 300; ///< sectors; a CD track lasts at least four seconds
 constexpr std::uint32_t mostTracks = 99;
+/// Sectors before the lead-out, the first pause included. The lead-out begins at 99:59:74 at the latest: the
+/// subcode of a disc has two digits each for minutes, seconds and frames (IEC 60908).
+constexpr std::uint32_t mostSectors = (100 * 60 * sectorsPerSecond) - 1;
 
-/// One track: a file's samples, filled with silence to `sectors` whole sectors.
+/// One track: a file's samples, filled with silence to `sectors` whole sectors, which hold all of them.
 struct AudioTrack {
     std::string path;
     WaveData wave;
@@ -32,16 +35,16 @@ struct AudioDisc {
 };
 
 /// Whole sectors for `bytes` of samples, at least shortestTrack.
-std::uint32_t sectorsFor(std::uint64_t bytes);
+std::uint64_t sectorsFor(std::uint64_t bytes);
 
 /// The WAVE files directly in `folder` (name ends in .wav or .wave in any case, hidden files apart) in the
 /// order of their modification times, then of their names with digit runs compared by value.
-/// Errors: no WAVE file, more than 99, one that is not 16-bit 44100 Hz stereo PCM (named), one
+/// Errors: no WAVE file, more than 99, more sound than mostSectors (with both times), one that is not 16-bit 44100 Hz stereo PCM (named), one
 /// that cannot be read.
 Result<AudioDisc> readAudioFolder(const std::string &folder);
 
 /// "mm:ss:ff" of a sector address counted from 0; minutes take as many digits as they need.
-std::string msf(std::uint32_t sector);
+std::string msf(std::uint64_t sector);
 
 /// The cue sheet of a .bin file that holds the pause of track 1 and then all tracks back to back.
 /// `binName` is written between quotation marks; a quotation mark or line break in it becomes '_'.

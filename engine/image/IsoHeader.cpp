@@ -27,6 +27,9 @@ namespace {
 // Blocks of zeros after the image: a drive reads ahead over the end of a track written at once.
 constexpr std::uint32_t paddingBlocks = 150;
 
+// ECMA-119 8.4.8: the number of blocks of a volume is kept in 32 bits.
+constexpr std::uint64_t mostBlocks = UINT32_MAX;
+
 // How much of the data area is looked at to prove that libisofs put the files where we put their data.
 constexpr std::uint64_t mostProvedBlocks = 64;
 
@@ -278,15 +281,25 @@ WriteOptions writeOptions(bool rockRidge)
 
 std::uint64_t blocksFor(std::uint64_t bytes)
 {
-    return (bytes + blockSize - 1) / blockSize;
+    return bytes / blockSize + (bytes % blockSize != 0);
 }
 
 std::uint64_t dataBlocks(const FolderTree &tree)
 {
+    // More than any disc has; thousands of sparse files may promise more than 64 bits can count.
+    constexpr std::uint64_t most = UINT64_MAX / 4;
     std::uint64_t blocks = 0;
     for (const Content &content : tree.contents())
-        blocks += blocksFor(content.size);
+        blocks = std::min(blocks + blocksFor(content.size), most);
     return blocks;
+}
+
+Error tooLarge(const FolderTree &tree, std::uint64_t blocks)
+{
+    return { Exit::failed,
+        "The content of " + quoted(tree.folder()) + " needs " + std::to_string(blocks)
+            + " blocks, and an image has at most " + std::to_string(mostBlocks)
+            + ": take some files out of the folder." };
 }
 
 std::string lastMessage()
@@ -347,6 +360,11 @@ Result<IsoHeader> IsoHeader::make(const FolderTree &tree, const std::string &vol
 
 Result<void> IsoHeader::layOut(const FolderTree &tree, bool rockRidge)
 {
+    // libisofs counts in 32 bits and does not notice when they do not suffice.
+    m_dataBlocks = dataBlocks(tree);
+    const std::uint64_t afterHeader = m_dataBlocks + image::paddingBlocks;
+    if (afterHeader > mostBlocks)
+        return tooLarge(tree, afterHeader);
     const WriteOptions options = writeOptions(rockRidge);
     ::burn_source *source = nullptr; // libisofs knows libburn's structure outside its name space
     const int code = options ? iso_image_create_burn_source(m_image.get(), options.get(), &source)
@@ -355,10 +373,11 @@ Result<void> IsoHeader::layOut(const FolderTree &tree, bool rockRidge)
         return Error{ Exit::failed,
             std::string("The image cannot be laid out: ") + iso_error_to_msg(code) + "." };
     m_source.reset(reinterpret_cast<burn::burn_source *>(source));
-    const auto bytes = static_cast<std::uint64_t>(m_source->get_size(m_source.get()));
-    m_imageBlocks = static_cast<std::uint32_t>(bytes / blockSize);
-    m_dataBlocks = dataBlocks(tree);
-    m_left = bytes - (m_dataBlocks + image::paddingBlocks) * blockSize;
+    const auto counted = static_cast<std::uint64_t>(m_source->get_size(m_source.get())) / blockSize;
+    if (counted < afterHeader)
+        return tooLarge(tree, counted + mostBlocks + 1);
+    m_imageBlocks = static_cast<std::uint32_t>(counted);
+    m_left = (counted - afterHeader) * blockSize;
     return {};
 }
 

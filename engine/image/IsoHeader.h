@@ -24,7 +24,8 @@ namespace engine::image {
 /// One thread at a time. Movable.
 class IsoHeader {
 public:
-    /// `tree` must live longer.
+    /// `tree` must live longer. An error when the image would have more blocks than a volume can count
+    /// (32 bits, ECMA-119 8.4.8); it has both figures.
     static Result<IsoHeader> make(const FolderTree &tree, const std::string &volumeName, bool rockRidge);
 
     IsoHeader() = default;

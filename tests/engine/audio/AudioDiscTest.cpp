@@ -7,6 +7,7 @@
 
 #include <libburn/libburn.h>
 
+using namespace Qt::StringLiterals;
 using namespace engine;
 using namespace engine::audio;
 
@@ -67,18 +68,20 @@ private Q_SLOTS:
     void lengths_data()
     {
         QTest::addColumn<quint64>("bytes");
-        QTest::addColumn<quint32>("sectors");
-        QTest::newRow("one frame") << quint64(4) << 300U;
-        QTest::newRow("four seconds") << quint64(300 * 2352) << 300U;
-        QTest::newRow("a frame more") << quint64(300 * 2352 + 4) << 301U;
-        QTest::newRow("whole sectors") << quint64(1000 * 2352) << 1000U;
-        QTest::newRow("4 GiB") << quint64(4294967292) << 1826092U;
+        QTest::addColumn<quint64>("sectors");
+        QTest::newRow("one frame") << quint64(4) << quint64(300);
+        QTest::newRow("four seconds") << quint64(300 * 2352) << quint64(300);
+        QTest::newRow("a frame more") << quint64(300 * 2352 + 4) << quint64(301);
+        QTest::newRow("whole sectors") << quint64(1000 * 2352) << quint64(1000);
+        QTest::newRow("4 GiB") << quint64(4294967292) << quint64(1826092);
+        QTest::newRow("more than 32 bits") << quint64(4294967296 + 5) * 2352 << quint64(4294967296 + 5);
+        QTest::newRow("the largest file") << quint64(INT64_MAX) << quint64(3921501716349820);
     }
 
     void lengths()
     {
         QFETCH(quint64, bytes);
-        QTEST(quint32(sectorsFor(bytes)), "sectors");
+        QTEST(quint64(sectorsFor(bytes)), "sectors");
     }
 
     void cueSheets()
@@ -147,6 +150,41 @@ private Q_SLOTS:
         QVERIFY(makeWave(scratch.path("f/99.wav"), 400, 1));
         QVERIFY(
             readAudioFolder(scratch.path("f")).error().message.find("100 WAVE files") != std::string::npos);
+    }
+
+    void lengthsOfADisc_data()
+    {
+        QTest::addColumn<QList<qint64>>("sectors");
+        QTest::addColumn<QString>("error"); // after the name of the folder
+        const QString last =
+            u", and an audio disc counts to 449999 (99:59:74): take some out of the folder."_s;
+        QTest::newRow("all that a disc counts") << QList<qint64>{ 449999 - 150 } << QString();
+        QTest::newRow("one sector more")
+            << QList<qint64>{ 449999 - 150 - 300 + 1, 300 } << u"450000 sectors (100:00:00)"_s + last;
+        QTest::newRow("a little more than 32 bits")
+            << QList<qint64>{ 4294967296 + 100732 } << u"4295068178 sectors (954459:35:53)"_s + last;
+        QTest::newRow("more than 32 bits together")
+            << QList<qint64>{ 2147483648, 2147483748 } << u"4294967546 sectors (954437:13:71)"_s + last;
+    }
+
+    void lengthsOfADisc()
+    {
+        QFETCH(QList<qint64>, sectors);
+        QFETCH(QString, error);
+        Scratch scratch;
+        for (int i = 0; i < sectors.size(); ++i) {
+            // What a program leaves that writes into a pipe: the data reach to the end of the file.
+            const std::string header = "RIFF" + little(0xffffffff, 4) + "WAVE" + chunk("fmt ", formatBody())
+                + "data" + little(0xffffffff, 4);
+            const std::string path = scratch.path("f/" + std::to_string(i) + ".wav");
+            QVERIFY(makeFile(path, header));
+            QCOMPARE(truncate(path.c_str(), qint64(header.size()) + sectors[i] * 2352), 0);
+        }
+        const auto disc = readAudioFolder(scratch.path("f"));
+        const QString before =
+            u"The WAVE files in \"%1\" make a disc of "_s.arg(QString::fromStdString(scratch.path("f")));
+        QCOMPARE(disc ? QString() : QString::fromStdString(disc.error().message),
+            error.isEmpty() ? QString() : before + error);
     }
 
     void binFile()

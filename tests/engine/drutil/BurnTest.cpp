@@ -184,6 +184,17 @@ private Q_SLOTS:
         }
     }
 
+    void moreBlocksThan32BitsAreNotTakenForFew()
+    {
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        QVERIFY(sparseFile(source() + u"/large"_s, 8796093022208));
+        const Ran ran = (*m_drutil)({ u"burn"_s, source() });
+        QCOMPARE(ran.exit, 1);
+        QVERIFY2(ran.err.contains(u"needs 4294967446 blocks"_s), qPrintable(ran.err));
+        QVERIFY(m_drutil->state().contains("state=blank"));
+        QVERIFY(!QFile::exists(disc()));
+    }
+
     void theLastBlockFits()
     {
         // The image of one file grows block by block with the file.

@@ -308,6 +308,55 @@ private Q_SLOTS:
             done.error().message.c_str());
     }
 
+    void moreThanAVolumeCounts_data()
+    {
+        QTest::addColumn<QList<qint64>>("sizes");
+        QTest::addColumn<quint64>("least"); // of the blocks that the error tells
+        constexpr qint64 limit = qint64(1) << 32;
+        QTest::newRow("one file") << QList<qint64>{ limit * 2048 } << quint64(limit + 150);
+        QTest::newRow("two files") << QList<qint64>{ 5000LL << 30, 3192LL << 30 } << quint64(limit + 150);
+        QTest::newRow("only with the folders") << QList<qint64>{ (limit - 152) * 2048 } << quint64(limit);
+    }
+
+    void moreThanAVolumeCounts()
+    {
+        QFETCH(QList<qint64>, sizes);
+        QFETCH(quint64, least);
+        Scratch scratch;
+        for (int i = 0; i < sizes.size(); ++i) {
+            const std::string path = scratch.path("t/" + std::to_string(i));
+            QVERIFY(makeFile(path, {}));
+            QCOMPARE(truncate(path.c_str(), sizes[i]), 0);
+        }
+        const auto image = IsoImage::fromFolder(scratch.path("t"), {});
+        QVERIFY(!image);
+        const QString said = QString::fromStdString(image.error().message);
+        const auto match = QRegularExpression(
+            u"^The content of \".*/t\" needs (\\d+) blocks, and an image has at most 4294967295: take"_s)
+                               .match(said);
+        QVERIFY2(match.hasMatch(), qPrintable(said));
+        QVERIFY2(match.captured(1).toULongLong() >= least, qPrintable(said));
+        QVERIFY2(match.captured(1).toULongLong() < least + 1000, qPrintable(said));
+    }
+
+    void asMuchAsAVolumeCounts()
+    {
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("t/large"), {}));
+        const auto blocksWith = [&](qint64 blocks) {
+            if (truncate(scratch.path("t/large").c_str(), blocks * 2048) != 0)
+                return quint64(0);
+            const auto image = IsoImage::fromFolder(scratch.path("t"), {});
+            return image ? quint64(image->blockCount()) : quint64(0);
+        };
+        constexpr quint64 most = UINT32_MAX;
+        constexpr qint64 nearly = qint64(most) - 2000;
+        const quint64 blocks = blocksWith(nearly);
+        QVERIFY(blocks > quint64(nearly) && blocks <= most);
+        QCOMPARE(blocksWith(nearly + qint64(most - blocks)), most);
+        QCOMPARE(blocksWith(nearly + qint64(most - blocks) + 1), quint64(0));
+    }
+
     void fiveGibibytes()
     {
         Scratch scratch;

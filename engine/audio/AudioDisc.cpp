@@ -41,6 +41,21 @@ bool isWaveName(const std::string &name)
     return endsWith(name, ".wav") || endsWith(name, ".wave");
 }
 
+/// Whether a file is only what another system noted beside the file of the name without "._": its attributes
+/// and icon, under the same ending (RFC 1740).
+bool isSidecar(int folder, const std::string &name)
+{
+    static constexpr std::string_view magic("\0\x05\x16\x07", 4);
+    if (!name.starts_with("._"))
+        return false;
+    const int fd = openat(folder, name.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    char start[magic.size()];
+    const ssize_t got = fd >= 0 ? pread(fd, start, sizeof start, 0) : -1;
+    if (fd >= 0)
+        close(fd);
+    return got == ssize_t{ sizeof start } && std::string_view(start, sizeof start) == magic;
+}
+
 bool isDigit(char character)
 {
     return character >= '0' && character <= '9';
@@ -80,13 +95,15 @@ Result<std::vector<Candidate>> listCandidates(const std::string &folder, std::ve
     errno = 0;
     while (const dirent *item = readdir(directory.get())) {
         const std::string name = item->d_name;
-        if (name.starts_with('.'))
+        if (name == "." || name == "..")
             continue;
         struct stat info { };
         if (fstatat(dirfd(directory.get()), name.c_str(), &info, 0) != 0)
             return Error{ Exit::failed,
                 "The file " + quoted(folder + '/' + name) + " cannot be read: " + reason(errno) + "." };
-        if (isWaveName(name) && !S_ISDIR(info.st_mode))
+        const bool isTrack =
+            isWaveName(name) && !S_ISDIR(info.st_mode) && !isSidecar(dirfd(directory.get()), name);
+        if (isTrack)
             candidates.push_back({ info.st_mtim.tv_sec, info.st_mtim.tv_nsec, name });
         else
             notes.push_back(quoted(folder + '/' + name) + " is left out: only WAVE files become tracks.");

@@ -37,10 +37,11 @@ struct AudioDisc {
 /// Whole sectors for `bytes` of samples, at least shortestTrack.
 std::uint64_t sectorsFor(std::uint64_t bytes);
 
-/// The WAVE files directly in `folder` (name ends in .wav or .wave in any case, hidden files apart) in the
-/// order of their modification times, then of their names with digit runs compared by value.
-/// Errors: no WAVE file, more than 99, more sound than mostSectors (with both times), one that is not 16-bit 44100 Hz stereo PCM (named), one
-/// that cannot be read.
+/// The WAVE files directly in `folder` (name ends in .wav or .wave in any case, hidden or not) in the order of
+/// their modification times, then of their names with digit runs compared by value. Other files, and the "._"
+/// files of RFC 1740, which hold no sound whatever their name says, become notes.
+/// Errors: no WAVE file, more than 99, more sound than mostSectors (with both times), one that is not 16-bit
+/// 44100 Hz stereo PCM (named), one that cannot be read.
 Result<AudioDisc> readAudioFolder(const std::string &folder);
 
 /// "mm:ss:ff" of a sector address counted from 0; minutes take as many digits as they need.

@@ -108,16 +108,25 @@ private Q_SLOTS:
         QVERIFY(makeWave(scratch.path("f/track 10.wav"), 4000, 2000));
         QVERIFY(makeWave(scratch.path("f/track 9.WAV"), 4000, 2000));
         QVERIFY(makeWave(scratch.path("f/\xff.Wave"), 4000, 500));
-        QVERIFY(makeWave(scratch.path("f/.hidden.wav"), 4000, 100));
+        QVERIFY(makeWave(scratch.path("f/.hidden.wav"), 4000, 1500));
+        QVERIFY(makeWave(scratch.path("f/._.wav"), 4000, 1600));
+        // What some systems put beside each file on a disk that is not theirs.
+        QVERIFY(makeFile(
+            scratch.path("f/._a.wav"), std::string("\0\x05\x16\x07\0\2\0\0", 8) + std::string(74, '\0')));
+        QVERIFY(makeFile(scratch.path("f/.DS_Store"), "view") && makeFolder(scratch.path("f/.wav")));
         QVERIFY(makeFile(scratch.path("f/cover.jpg"), "picture") && makeFolder(scratch.path("f/folder.wav")));
         const auto disc = readAudioFolder(scratch.path("f"));
         QVERIFY2(disc, disc ? "" : disc.error().message.c_str());
         QCOMPARE(namesOf(*disc).mid(1),
             (QStringList{ QStringLiteral("z last by name.wav"), QStringLiteral("a.wav"),
-                QStringLiteral("track 9.WAV"), QStringLiteral("track 10.wav") }));
+                QStringLiteral(".hidden.wav"), QStringLiteral("._.wav"), QStringLiteral("track 9.WAV"),
+                QStringLiteral("track 10.wav") }));
         QVERIFY(disc->tracks.front().path.ends_with("/\xff.Wave"));
-        QCOMPARE(disc->notes.size(), 2U);
-        QCOMPARE(disc->sectorCount(), 150U + 5 * 300);
+        QCOMPARE(disc->notes.size(), 5U);
+        QCOMPARE(QString::fromStdString(disc->notes.at(1)),
+            u"\"%1/._a.wav\" is left out: only WAVE files become tracks."_s.arg(
+                QString::fromStdString(scratch.path("f"))));
+        QCOMPARE(disc->sectorCount(), 150U + 7 * 300);
     }
 
     void refusals()
@@ -131,6 +140,10 @@ private Q_SLOTS:
         QVERIFY(makeWave(scratch.path("bad/1.wav"), 4000, 1));
         QVERIFY(makeFile(scratch.path("bad/2.wav"), "no sound"));
         QVERIFY(readAudioFolder(scratch.path("bad")).error().message.find("2.wav\" is not a WAVE file")
+            != std::string::npos);
+        // A hidden track that was cut short is missed as any other.
+        QVERIFY(makeWave(scratch.path("cut/1.wav"), 4000, 1) && makeFile(scratch.path("cut/.2.wav"), "RIF"));
+        QVERIFY(readAudioFolder(scratch.path("cut")).error().message.find(".2.wav\" is not a WAVE file")
             != std::string::npos);
         QCOMPARE(mkfifo(scratch.path("bad/0.wav").c_str(), 0600), 0);
         QVERIFY(setTime(scratch.path("bad/0.wav"), 0));

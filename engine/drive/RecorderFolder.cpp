@@ -196,27 +196,32 @@ Result<void> RecorderFolder::moveToArchive(const std::string &stem, bool audio, 
 {
     const char *from = audio ? audioDiscFile : dataDiscFile;
     const std::string what = "The disc of " + m_name + " cannot be put into its folder " + archiveFolder;
+    const bool hasSheet = audio && exists(m_folder.get(), cueSheetFile);
+    const Result<std::string> sheet =
+        hasSheet ? readSmallFile(m_folder.get(), cueSheetFile, what) : Result<std::string>(std::string());
+    if (!sheet)
+        return sheet.error();
     for (int copy = 1;; ++copy) {
         const std::string name = copy == 1 ? stem : stem + '-' + std::to_string(copy);
         const std::string file = name + (audio ? ".bin" : ".iso");
-        // The sheet goes first: with a name of its own it cannot meet that of another disc later.
-        if (exists(discs.get(), (name + ".cue").c_str()))
+        const std::string sheetFile = name + ".cue";
+        if (exists(discs.get(), sheetFile.c_str()))
             continue;
-        if (::renameat2(m_folder.get(), from, discs.get(), file.c_str(), RENAME_NOREPLACE) != 0) {
-            if (errno == EEXIST)
-                continue;
-            return systemError(what, errno);
-        }
-        if (!audio || !exists(m_folder.get(), cueSheetFile))
-            return {};
-        const Result<std::string> sheet = readSmallFile(m_folder.get(), cueSheetFile, what);
-        if (!sheet)
-            return sheet.error();
-        if (auto saved = replaceFile(discs.get(), name + ".cue", renamedCueSheet(*sheet, file), what); !saved)
-            return saved;
-        ::unlinkat(m_folder.get(), cueSheetFile, 0);
-        return {};
+        // The sheet goes first: nothing has moved when there is no room for it.
+        if (hasSheet)
+            if (auto saved = replaceFile(discs.get(), sheetFile, renamedCueSheet(*sheet, file), what); !saved)
+                return saved;
+        if (::renameat2(m_folder.get(), from, discs.get(), file.c_str(), RENAME_NOREPLACE) == 0)
+            break;
+        const int failure = errno;
+        if (hasSheet)
+            ::unlinkat(discs.get(), sheetFile.c_str(), 0);
+        if (failure != EEXIST)
+            return systemError(what, failure);
     }
+    if (hasSheet)
+        ::unlinkat(m_folder.get(), cueSheetFile, 0);
+    return {};
 }
 
 Result<void> RecorderFolder::archive(report::MediumKind kind, bool spoilt) const

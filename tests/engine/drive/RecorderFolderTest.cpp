@@ -3,6 +3,8 @@
 
 #include <QtTest>
 
+#include <csignal>
+#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -147,6 +149,31 @@ private Q_SLOTS:
             QCOMPARE(readFile(discs.filePath(bin)), "sound");
         }
         QVERIFY(!QFile::exists(m_path + u"/disc.cue"_s));
+    }
+
+    void withoutRoomForItsSheetADiscStays()
+    {
+        const auto folder = RecorderFolder::lock(m_path.toStdString(), "drive 1", Access::exclusive);
+        QVERIFY(folder);
+        writeFile(m_path + u"/disc.bin"_s, "sound");
+        const QByteArray sheet = "FILE \"disc.bin\" BINARY\n" + QByteArray("  TRACK 01 AUDIO\n").repeated(99);
+        QVERIFY(folder->saveCueSheet(sheet.toStdString()));
+        // A limit on the size of files stands for a full file system.
+        rlimit before{};
+        QCOMPARE(::getrlimit(RLIMIT_FSIZE, &before), 0);
+        const rlimit small{ 100, before.rlim_max };
+        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &small), 0);
+        const auto moved = folder->archive(MediumKind::cdR, false);
+        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &before), 0);
+        std::signal(SIGXFSZ, handler);
+        QVERIFY(!moved);
+        QCOMPARE(readFile(m_path + u"/disc.bin"_s), "sound");
+        QCOMPARE(readFile(m_path + u"/disc.cue"_s), sheet);
+        const QDir discs(m_path + u"/discs"_s);
+        QCOMPARE(discs.entryList(QDir::Files), QStringList());
+        QVERIFY(folder->archive(MediumKind::cdR, false));
+        QCOMPARE(discs.entryList(QDir::Files).size(), 2);
     }
 
     void nothingOnTheDiscIsNothingPutAside()

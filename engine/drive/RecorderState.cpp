@@ -104,6 +104,8 @@ report::MediumState mediumState(DiscState state)
 Result<RecorderState> parseRecorder(std::string_view text)
 {
     RecorderState state;
+    bool hasKind = false;
+    bool hasDisc = false;
     bool ours = true; // keys before the first section are read as well
     for (std::size_t number = 1; !text.empty(); ++number) {
         const auto end = text.find('\n');
@@ -116,10 +118,18 @@ Result<RecorderState> parseRecorder(std::string_view text)
             continue;
         }
         const auto equals = line.find('=');
+        const std::string_view key = trimmed(line.substr(0, equals));
         if (equals == std::string_view::npos
-            || (ours && !readKey(trimmed(line.substr(0, equals)), trimmed(line.substr(equals + 1)), state)))
+            || (ours && !readKey(key, trimmed(line.substr(equals + 1)), state)))
             return Error{ Exit::failed, "cannot be understood in line " + std::to_string(number) };
+        hasKind = hasKind || (ours && key == "kind");
+        hasDisc = hasDisc || (ours && key == "state");
     }
+    // A text that was cut off must not make a blank of a disc that was written.
+    if (!hasKind)
+        return Error{ Exit::failed, "does not tell the kind of the disc" };
+    if (!hasDisc && state.kind != report::MediumKind::none)
+        return Error{ Exit::failed, "does not tell the state of the disc" };
     return state;
 }
 

@@ -27,8 +27,9 @@ struct RecorderState {
 };
 
 /// Reads the text of a recorder.ini. Unknown keys and sections are left alone, missing ones keep
-/// their defaults; a value that means nothing, or a line that is no `key=value`, is an error
-/// whose message is a predicate: "cannot be understood in line 3".
+/// their defaults, but `kind`, and `state` of any disc, have none: a text without them was cut off. That, a value
+/// that means nothing, or a line that is no `key=value`, is an error whose message is a predicate: "cannot be
+/// understood in line 3".
 Result<RecorderState> parseRecorder(std::string_view text);
 
 /// The text that parseRecorder() reads.

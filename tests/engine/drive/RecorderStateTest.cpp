@@ -37,13 +37,24 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QString>("error");
         const QString second = u"cannot be understood in line 2"_s;
-        QTest::newRow("empty") << QByteArray() << QString();
+        const QString noKind = u"does not tell the kind of the disc"_s;
+        const QString noState = u"does not tell the state of the disc"_s;
+        QTest::newRow("empty") << QByteArray() << noKind;
+        QTest::newRow("cut off before the kind")
+            << QByteArray("[recorder]\ntray=closed\n\n[medium]\n") << noKind;
+        QTest::newRow("cut off in the kind") << QByteArray("[medium]\nkind=dvd+r") << noState;
+        QTest::newRow("cut off before the state") << QByteArray("[medium]\nkind=cd-r\n") << noState;
+        QTest::newRow("cut off in the state")
+            << QByteArray("[medium]\nkind=cd-r\nstate=wri") << u"cannot be understood in line 3"_s;
+        QTest::newRow("no disc") << QByteArray("[medium]\nkind=none\n") << QString();
         QTest::newRow("comments and blanks")
-            << QByteArray("# one\n\n ; two\n[medium]\r\n kind = cd-r \r\n") << QString();
-        QTest::newRow("unknown key") << QByteArray("[recorder]\nshelf=3\n") << QString();
+            << QByteArray("# one\n\n ; two\n[medium]\r\n kind = cd-r \r\nstate\t=blank\n") << QString();
+        QTest::newRow("unknown key") << QByteArray("[recorder]\nshelf=3\nkind=none\n") << QString();
         QTest::newRow("unknown section")
-            << QByteArray("[other]\nkind=disk\n[medium]\nkind=cd-r\n") << QString();
-        QTest::newRow("no end of line") << QByteArray("[medium]\nkind=dvd-r") << QString();
+            << QByteArray("[other]\nkind=disk\n[medium]\nkind=cd-r\nstate=blank\n") << QString();
+        QTest::newRow("only in an unknown section")
+            << QByteArray("[other]\nkind=cd-r\nstate=blank\n") << noKind;
+        QTest::newRow("no end of line") << QByteArray("[medium]\nkind=dvd-r\nstate=blank") << QString();
         QTest::newRow("unknown kind") << QByteArray("[medium]\nkind=cd\n") << second;
         QTest::newRow("unknown state") << QByteArray("[medium]\nstate=full\n") << second;
         QTest::newRow("unknown tray") << QByteArray("[recorder]\ntray=ajar\n") << second;

@@ -135,6 +135,30 @@ private Q_SLOTS:
         }
     }
 
+    void aWrittenDiscWhoseStateWasCutOffIsNotWrittenOver()
+    {
+        put((source() + u"/file"_s).toStdString(), "content");
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        QCOMPARE((*m_drutil)({ u"burn"_s, source() }).exit, 0);
+        const QByteArray written = readFile(disc());
+        const QByteArray state = m_drutil->state();
+        for (const QByteArray &rest : { QByteArray(), state.left(state.indexOf("state=")) }) {
+            QVERIFY(writeFile(m_drutil->recorder() + u"/recorder.ini"_s, rest));
+            for (const QStringList &verb :
+                { QStringList{ u"status"_s }, QStringList{ u"burn"_s, source() } }) {
+                const Ran ran = (*m_drutil)(verb);
+                QCOMPARE(ran.exit, 1);
+                QVERIFY2(ran.err.contains(u"a new medium repairs it: drutil insert"_s), qPrintable(ran.err));
+            }
+            QVERIFY((*m_drutil)({ u"list"_s }).out.contains(u"Damaged"_s));
+            QCOMPARE(readFile(disc()), written);
+        }
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        const QDir discs(m_drutil->recorder() + u"/discs"_s);
+        QCOMPARE(discs.entryList(QDir::Files).size(), 1);
+        QCOMPARE(readFile(discs.filePath(discs.entryList(QDir::Files).first())), written);
+    }
+
     void aRewritableDiscIsErasedFirst()
     {
         const fs::path root = source().toStdString();

@@ -55,7 +55,7 @@ private Q_SLOTS:
         for (int i = 2; i <= 12; ++i) {
             QVERIFY(QDir().mkpath(m_drutil->recorder(i)));
             QVERIFY(writeFile(m_drutil->recorder(i) + u"/recorder.ini"_s,
-                "[recorder]\nproduct=Number " + QByteArray::number(i) + "\n"));
+                "[recorder]\nproduct=Number " + QByteArray::number(i) + "\n[medium]\nkind=none\n"));
         }
         const QStringList lines = (*m_drutil)({ u"list"_s }).out.split(u'\n', Qt::SkipEmptyParts);
         QCOMPARE(lines.size(), 13);

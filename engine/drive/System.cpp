@@ -51,7 +51,10 @@ Result<std::string> readSmallFile(int folder, const char *name, const std::strin
 Result<void> replaceFile(int folder, const std::string &name, std::string_view text, const std::string &what)
 {
     const std::string fresh = name + ".new";
-    Fd fd(::openat(folder, fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0666));
+    // A file of that name may be a killed program's, or a link or pipe that leads elsewhere: never written into.
+    if (::unlinkat(folder, fresh.c_str(), 0) != 0 && errno != ENOENT)
+        return systemError(what, errno);
+    Fd fd(::openat(folder, fresh.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
     if (!fd)
         return systemError(what, errno);
     if (!writeFully(fd.get(), std::as_bytes(std::span(text)), 0) || ::fsync(fd.get()) != 0

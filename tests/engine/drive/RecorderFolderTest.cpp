@@ -106,6 +106,31 @@ private Q_SLOTS:
         QVERIFY(!readable);
     }
 
+    void whatIsInTheWayOfANewStateIsNotWrittenInto_data()
+    {
+        QTest::addColumn<QString>("make"); // with $0 for what is in the way
+        QTest::newRow("hard link") << u"echo precious > elsewhere; ln elsewhere \"$0\""_s;
+        QTest::newRow("symbolic link") << u"echo precious > elsewhere; ln -s elsewhere \"$0\""_s;
+        QTest::newRow("pipe") << u"echo precious > elsewhere; mkfifo \"$0\""_s;
+        QTest::newRow("left behind") << u"echo precious > elsewhere; echo a long text > \"$0\""_s;
+    }
+
+    void whatIsInTheWayOfANewStateIsNotWrittenInto()
+    {
+        QFETCH(QString, make);
+        QProcess shell;
+        shell.setWorkingDirectory(m_path);
+        shell.start(u"sh"_s, { u"-c"_s, make, u"recorder.ini.new"_s });
+        QVERIFY(shell.waitForFinished() && shell.exitCode() == 0);
+        const auto folder = RecorderFolder::lock(m_path.toStdString(), "drive 1", Access::exclusive);
+        QVERIFY(folder);
+        QVERIFY(folder->save({}));
+        QVERIFY(readFile(m_path + u"/recorder.ini"_s).startsWith("[recorder]"));
+        QCOMPARE(readFile(m_path + u"/elsewhere"_s), "precious\n");
+        QVERIFY(!QFileInfo::exists(m_path + u"/recorder.ini.new"_s));
+        QVERIFY(folder->load());
+    }
+
     void aDiscPutAsideReplacesNone()
     {
         const auto folder = RecorderFolder::lock(m_path.toStdString(), "drive 1", Access::exclusive);

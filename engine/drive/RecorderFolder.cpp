@@ -26,6 +26,7 @@ namespace engine::drive {
 namespace {
 
 constexpr const char *stateFile = "recorder.ini";
+constexpr const char *reserveFile = "recorder.ini.room";
 constexpr const char *archiveFolder = "discs";
 
 std::string homeFolder()
@@ -270,6 +271,20 @@ Result<Fd> RecorderFolder::openDisc(const char *file) const
     Fd fd(::openat(m_folder.get(), file, O_RDONLY | O_CLOEXEC));
     if (!fd)
         return systemError("The disc of " + m_name + " cannot be read", errno);
+    return fd;
+}
+
+Result<Fd> RecorderFolder::reserve() const
+{
+    const std::string what = "There is no room for " + std::string(stateFile) + " of " + m_name;
+    if (::unlinkat(m_folder.get(), reserveFile, 0) != 0 && errno != ENOENT)
+        return systemError(what, errno);
+    Fd fd(::openat(m_folder.get(), reserveFile, O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    if (!fd)
+        return systemError(what, errno);
+    ::unlinkat(m_folder.get(), reserveFile, 0);
+    if (const int failure = ::posix_fallocate(fd.get(), 0, smallFileLimit); failure != 0)
+        return systemError(what, failure);
     return fd;
 }
 

@@ -58,6 +58,10 @@ public:
     /// Opens what lies on the disc for reading.
     Result<Fd> openDisc(const char *file) const;
 
+    /// A file without a name that takes the room of a state to come, until it is closed: the end of a write can
+    /// be noted then even when the disc has filled the file system.
+    Result<Fd> reserve() const;
+
     /// Bytes that the file system of the folder has room for.
     Result<std::uint64_t> room() const;
 

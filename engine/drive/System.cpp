@@ -34,15 +34,14 @@ Error systemError(const std::string &what, int failure)
 
 Result<std::string> readSmallFile(int folder, const char *name, const std::string &what)
 {
-    constexpr std::size_t limit = 1 << 16;
     const Fd fd(::openat(folder, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!fd)
         return systemError(what, errno);
-    std::string text(limit, '\0');
+    std::string text(smallFileLimit, '\0');
     const std::ptrdiff_t n = readFully(fd.get(), std::as_writable_bytes(std::span(text)), 0);
     if (n < 0)
         return systemError(what, errno);
-    if (static_cast<std::size_t>(n) == limit)
+    if (static_cast<std::size_t>(n) == smallFileLimit)
         return systemError(what, EFBIG);
     text.resize(static_cast<std::size_t>(n));
     return text;

@@ -36,8 +36,10 @@ private:
 /// "recorder.ini of drive 1 cannot be read: Permission denied."; `failure` is an errno.
 Error systemError(const std::string &what, int failure);
 
+constexpr std::size_t smallFileLimit = 64 * 1024; ///< bytes
+
 /// The whole file `name` in the folder `folder`; the errno of the failure otherwise, as a systemError()
-/// that begins with `what`. Files of 64 KiB and more are refused.
+/// that begins with `what`. Files of smallFileLimit and more are refused.
 Result<std::string> readSmallFile(int folder, const char *name, const std::string &what);
 
 /// Replaces the file `name` in `folder` at once, so that a reader sees the old text or the new one and a

@@ -6,7 +6,9 @@
 #include "drive/RecorderFolder.h"
 #include "drive/WriteFailure.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -36,6 +38,16 @@ struct Content {
     std::string cueSheet; ///< empty for a data disc
 };
 
+/// What a disc counts of the first `bytes` of its file.
+std::uint64_t sectorsIn(std::string_view file, std::uint64_t bytes)
+{
+    if (file == dataDiscFile)
+        return bytes / blockBytes;
+    // The pause of track 1 lies before the sectors that are counted.
+    const std::uint64_t sectors = bytes / audio::sectorSize;
+    return sectors - std::min<std::uint64_t>(sectors, audio::firstPause);
+}
+
 class VirtualLease final : public Lease {
 public:
     VirtualLease(RecorderFolder folder, std::string name)
@@ -56,12 +68,15 @@ private:
     Result<RecorderState> begin(std::uint64_t bytes);
     Result<void> write(Content content, const std::shared_ptr<TapState> &tapState,
         const std::function<Result<void>()> &sourceOutcome, const Control &control);
+    Result<LibburnDrive::Outcome> stream(Content &content, const Fd &file, report::MediumKind kind,
+        TapState &tapState, const Control &control);
     Result<void> finish(RecorderState state, const Content &content, const Fd &file);
-    Error abandon(RecorderState state, const Fd &file, const LibburnDrive::Outcome &outcome,
-        const Result<void> &sourceOutcome);
+    Error abandon(RecorderState state, const Content &content, const Fd &file,
+        const LibburnDrive::Outcome &outcome, const Result<void> &sourceOutcome);
 
     RecorderFolder m_folder;
     std::string m_name;
+    Fd m_reserve; ///< while a write runs: room for its end
     Fd m_disc;
     std::unique_ptr<LibburnDrive> m_reader;
 };
@@ -76,7 +91,7 @@ Result<report::Medium> VirtualLease::medium()
     if (state->disc == DiscState::writing && medium.kind != report::MediumKind::none)
         for (const char *file : { dataDiscFile, audioDiscFile })
             if (const auto disc = m_folder.openDisc(file))
-                medium.used = sizeOf(*disc) / blockBytes;
+                medium.used = sectorsIn(file, sizeOf(*disc));
     medium.deviceName = "virtual";
     return medium;
 }
@@ -99,7 +114,7 @@ Result<void> VirtualLease::erase(EraseMode, const Control &)
     return m_folder.save(*state);
 }
 
-/// The recorder's rules, and room for the file. Marks the disc as being written.
+/// The recorder's rules, and room for the file and for what is noted at its end. Marks the disc as being written.
 Result<RecorderState> VirtualLease::begin(std::uint64_t bytes)
 {
     Result<RecorderState> state = m_folder.load();
@@ -109,6 +124,10 @@ Result<RecorderState> VirtualLease::begin(std::uint64_t bytes)
         return Error{ Exit::failed, "The disc in " + m_name + " was written already: insert a blank one." };
     if (auto cleared = m_folder.clear(); !cleared)
         return cleared.error();
+    Result<Fd> reserve = m_folder.reserve();
+    if (!reserve)
+        return reserve.error();
+    m_reserve = std::move(reserve).value();
     const Result<std::uint64_t> room = m_folder.room();
     if (!room)
         return room.error();
@@ -124,21 +143,21 @@ Result<RecorderState> VirtualLease::begin(std::uint64_t bytes)
     return state;
 }
 
-Error VirtualLease::abandon(RecorderState state, const Fd &file, const LibburnDrive::Outcome &outcome,
-    const Result<void> &sourceOutcome)
+/// Notes how far the write came, as far as that can be noted: what the person has to know is why it ended.
+Error VirtualLease::abandon(RecorderState state, const Content &content, const Fd &file,
+    const LibburnDrive::Outcome &outcome, const Result<void> &sourceOutcome)
 {
-    const std::uint64_t reached = sizeOf(file) / blockBytes;
+    m_reserve = Fd();
     state.disc = DiscState::blank;
-    const Left left = leftOf(mediumOf(state), reached > 0);
+    const report::Medium before = mediumOf(state);
+    const std::uint64_t reached = sizeOf(file);
     if (reached > 0) {
         state.disc = DiscState::spoilt;
-        state.blocks = reached;
-    } else if (auto cleared = m_folder.clear(); !cleared) {
-        return cleared.error();
+        state.blocks = sectorsIn(content.file, reached);
     }
-    if (auto saved = m_folder.save(state); !saved)
-        return saved.error();
-    return writeFailure(outcome, sourceOutcome, m_name, left);
+    // Where nothing can be noted, `writing` stays, and reads as spoilt.
+    const bool noted = (reached > 0 || m_folder.clear()) && m_folder.save(state);
+    return writeFailure(outcome, sourceOutcome, m_name, leftOf(before, reached > 0 || !noted));
 }
 
 Result<void> VirtualLease::finish(RecorderState state, const Content &content, const Fd &file)
@@ -147,12 +166,29 @@ Result<void> VirtualLease::finish(RecorderState state, const Content &content, c
     if (sizeOf(file) != content.bytes
         && (::ftruncate(file.get(), static_cast<off_t>(content.bytes)) != 0 || ::fsync(file.get()) != 0))
         return systemError("The disc of " + m_name + " cannot be finished", errno);
-    if (!content.cueSheet.empty())
-        if (auto saved = m_folder.saveCueSheet(content.cueSheet); !saved)
-            return saved;
+    m_reserve = Fd();
     state.disc = DiscState::written;
     state.blocks = content.sectors;
     return m_folder.save(state);
+}
+
+/// Sends the content through libburn into `file`.
+Result<LibburnDrive::Outcome> VirtualLease::stream(
+    Content &content, const Fd &file, report::MediumKind kind, TapState &tapState, const Control &control)
+{
+    auto drive = LibburnDrive::grab(addressOf(file), m_name, true, false);
+    if (!drive)
+        return drive.error();
+    std::vector<Track> tracks;
+    tracks.push_back(std::move(content.track));
+    LibburnDrive::Outcome outcome = (*drive)->write(
+        tracks, WriteMode::trackAtOnce, report::Phase::writing, report::factsOf(kind).family,
+        [&] { return tapState.ranDry.load(); }, control);
+    outcome.well = outcome.well && tapState.bytes.load() >= content.bytes;
+    // A signal may come between the last look for one and a failure.
+    if (!outcome.well && outcome.signal == 0)
+        outcome.signal = control.stopped();
+    return outcome;
 }
 
 Result<void> VirtualLease::write(Content content, const std::shared_ptr<TapState> &tapState,
@@ -163,22 +199,19 @@ Result<void> VirtualLease::write(Content content, const std::shared_ptr<TapState
         return state.error();
     Result<Fd> file = m_folder.createDisc(content.file);
     if (!file)
-        return abandon(*state, Fd(), {}, file.error());
-    LibburnDrive::Outcome outcome;
-    {
-        auto drive = LibburnDrive::grab(addressOf(*file), m_name, true, false);
-        if (!drive)
-            return abandon(*state, *file, {}, drive.error());
-        const auto family = report::factsOf(state->kind).family;
-        std::vector<Track> tracks;
-        tracks.push_back(std::move(content.track));
-        outcome = (*drive)->write(
-            tracks, WriteMode::trackAtOnce, report::Phase::writing, family,
-            [&] { return tapState->ranDry.load(); }, control);
-    }
-    if (!outcome.well || tapState->bytes.load() < content.bytes)
-        return abandon(*state, *file, outcome, sourceOutcome());
-    return finish(*state, content, *file);
+        return abandon(*state, content, Fd(), {}, file.error());
+    // Before the sectors, which may take all the room there is.
+    if (!content.cueSheet.empty())
+        if (auto saved = m_folder.saveCueSheet(content.cueSheet); !saved)
+            return abandon(*state, content, *file, {}, saved);
+    const auto outcome = stream(content, *file, state->kind, *tapState, control);
+    if (!outcome)
+        return abandon(*state, content, *file, {}, outcome.error());
+    if (!outcome->well)
+        return abandon(*state, content, *file, *outcome, sourceOutcome());
+    if (auto finished = finish(*state, content, *file); !finished)
+        return abandon(*state, content, *file, {}, finished);
+    return {};
 }
 
 Result<void> VirtualLease::writeData(DiscData &data, BlockDigests &sent, const Control &control)

@@ -1,4 +1,5 @@
 // Writes that are stopped, killed, watched by nobody, or meet another program.
+#include "../audio/Waves.h"
 #include "Drutil.h"
 
 #include <csignal>
@@ -13,23 +14,43 @@ class InterruptionTest : public QObject {
     QString source() const { return m_drutil->path(u"source"_s); }
     QString disc() const { return m_drutil->recorder() + u"/disc.iso"_s; }
 
-    /// Starts a burn and waits until data are on the disc.
+    /// Starts a burn and waits until data are on the disc: more than the pause of an audio disc.
     std::unique_ptr<QProcess> startBurn(const QStringList &options = {})
     {
         auto process = std::make_unique<QProcess>();
         process->setProcessEnvironment(m_drutil->environment());
         process->start(Drutil::program(), QStringList{ u"burn"_s, source() } + options);
-        for (int i = 0; i < 3000 && QFileInfo(disc()).size() == 0; ++i) {
+        const QString file = options.contains(u"-audio"_s) ? m_drutil->recorder() + u"/disc.bin"_s : disc();
+        for (int i = 0; i < 3000 && QFileInfo(file).size() <= 200 * 2352; ++i) {
             if (process->waitForFinished(10))
                 break;
         }
         return process;
     }
 
+    /// Runs `script` with recorder 1 on a file system of its own: $0 is drutil, $1 the source, $2 the recorders.
+    Ran onFileSystem(const QString &size, const QString &script) const
+    {
+        // A name space of its own may mount without privileges, and takes its mount away when it ends.
+        const QString mount =
+            u"mkdir -p \"$2\" && mount -t tmpfs -o size=%1 none \"$2\" && \"$0\" list && "_s;
+        return runProgram(u"unshare"_s,
+            { u"--map-root-user"_s, u"--mount"_s, u"sh"_s, u"-c"_s, mount.arg(size) + script,
+                Drutil::program(), source(), m_drutil->recorders() },
+            m_drutil->environment());
+    }
+
     static void end(QProcess &process, int signal)
     {
         ::kill(pid_t(process.processId()), signal);
         QVERIFY(process.waitForFinished(120000));
+    }
+
+    /// The blocks that a status calls used.
+    qint64 usedBlocks() const
+    {
+        const QString used = m_drutil->fact(u"Space Used:"_s).section(u"blocks:"_s, 1).trimmed();
+        return used.section(u' ', 0, 0).toLongLong();
     }
 
 private Q_SLOTS:
@@ -113,6 +134,40 @@ private Q_SLOTS:
         QCOMPARE((*m_drutil)({ u"status"_s }).out, fresh);
         QVERIFY(QFile::resize(source() + u"/large"_s, 10));
         QCOMPARE((*m_drutil)({ u"burn"_s, source() }).exit, 0);
+    }
+
+    void aKilledAudioWriteCountsItsSectors_data()
+    {
+        QTest::addColumn<qint64>("bytes");
+        QTest::addColumn<qint64>("used");
+        QTest::newRow("nothing") << qint64(0) << qint64(0);
+        QTest::newRow("in the pause") << qint64(100 * 2352) << qint64(0);
+        QTest::newRow("in the first sector") << qint64(150 * 2352 + 2351) << qint64(0);
+        QTest::newRow("sectors") << qint64((150 + 375) * 2352) << qint64(375);
+    }
+
+    void aKilledAudioWriteCountsItsSectors()
+    {
+        QFETCH(qint64, bytes);
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        QVERIFY(writeFile(m_drutil->recorder() + u"/recorder.ini"_s, "[medium]\nkind=cd-r\nstate=writing\n"));
+        QVERIFY(sparseFile(m_drutil->recorder() + u"/disc.bin"_s, bytes));
+        QTEST(usedBlocks(), "used");
+    }
+
+    void aStoppedAudioWriteCountsItsSectors()
+    {
+        const QString track = source() + u"/1.wav"_s;
+        const std::string header = wave(4).substr(0, 40);
+        QVERIFY(writeFile(track, QByteArray::fromStdString(header + little(0xffffffff, 4))));
+        QVERIFY(QFile::resize(track, 700LL * 1000 * 1000));
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        auto burn = startBurn({ u"-audio"_s });
+        end(*burn, SIGTERM);
+        QCOMPARE(burn->exitCode(), 143);
+        QVERIFY(m_drutil->state().contains("state=spoilt"));
+        const qint64 sectors = QFileInfo(m_drutil->recorder() + u"/disc.bin"_s).size() / 2352;
+        QCOMPARE(usedBlocks(), std::max<qint64>(sectors - 150, 0));
     }
 
     void aBusyRecorderSaysSo()
@@ -242,21 +297,91 @@ private Q_SLOTS:
 
     void aFileSystemThatIsTooSmallIsSaidBeforehand()
     {
-        QVERIFY(QDir().mkpath(m_drutil->recorders()));
-        // A name space of its own may mount without privileges, and takes its mount away when it ends.
-        const QString script = u"mount -t tmpfs -o size=20m none \"$2\" && \"$0\" list && \"$0\" insert bd-r "
-                               u"&& \"$0\" burn \"$1\"; "
-                               "echo $?; cat \"$2\"/1/recorder.ini"_s;
-        const Ran ran = runProgram(u"unshare"_s,
-            { u"--map-root-user"_s, u"--mount"_s, u"sh"_s, u"-c"_s, script, Drutil::program(), source(),
-                m_drutil->recorders() },
-            m_drutil->environment());
+        const Ran ran = onFileSystem(
+            u"20m"_s, u"\"$0\" insert bd-r && \"$0\" burn \"$1\"; echo $?; cat \"$2\"/1/recorder.ini"_s);
         QVERIFY2(ran.out.contains(u"\n1\n"_s), qPrintable(ran.out + ran.err));
         QVERIFY2(QRegularExpression(u"has room for \\d+ blocks, and the disc needs 976\\d+"_s)
                      .match(ran.err)
                      .hasMatch(),
             qPrintable(ran.err));
         QVERIFY(ran.out.contains(u"state=blank"_s));
+    }
+
+    void theStateOfADiscNeedsRoomAsWell_data()
+    {
+        QTest::addColumn<bool>("audio");
+        QTest::addColumn<int>("more"); // bytes beside those of the disc
+        QTest::addColumn<QString>("end");
+        const QString blank = u"exit 1\nstate=blank"_s;
+        const QString written = u"exit 0\nstate=written"_s;
+        QTest::newRow("data, the disc alone") << false << 0 << blank;
+        QTest::newRow("data, a little more") << false << 4096 << blank;
+        QTest::newRow("data, enough") << false << 80 * 1024 << written;
+        QTest::newRow("audio, the disc alone") << true << 0 << blank;
+        QTest::newRow("audio, enough") << true << 80 * 1024 << written;
+    }
+
+    void theStateOfADiscNeedsRoomAsWell()
+    {
+        QFETCH(bool, audio);
+        QFETCH(int, more);
+        QFETCH(QString, end);
+        QVERIFY(QFile::remove(source() + u"/large"_s));
+        QVERIFY(writeFile(source() + u"/1.wav"_s, QByteArray::fromStdString(wave(400))));
+        const QString burn = audio ? u"burn -audio"_s : u"burn"_s;
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        QCOMPARE((*m_drutil)(burn.split(u' ') + QStringList{ source() }).exit, 0);
+        const qint64 size = QFileInfo(audio ? m_drutil->recorder() + u"/disc.bin"_s : disc()).size();
+        const qint64 free = (size + 4095) / 4096 * 4096 + more;
+        const Ran ran = onFileSystem(u"4m"_s,
+            u"\"$0\" insert cd-r; room=$(($(stat -f -c '%a * %S' \"$2\") - %1)); "
+            "head -c $room /dev/zero > \"$2\"/filler; "
+            "\"$0\" %2 \"$1\" > /dev/null; echo exit $?; grep state= \"$2\"/1/recorder.ini; ls \"$2\"/1"_s
+                .arg(free)
+                .arg(burn));
+        QVERIFY2(ran.out.contains(end), qPrintable(ran.out + ran.err));
+        QCOMPARE(ran.err.contains(u": make room there."_s), end.contains(u"blank"_s));
+        const QString files = ran.out.section(u"state="_s, 1).section(u'\n', 1);
+        const QString disc = audio ? u"disc.bin\ndisc.cue\n"_s : u"disc.iso\n"_s;
+        QCOMPARE(files, end.contains(u"blank"_s) ? u"recorder.ini\n"_s : disc + u"recorder.ini\n"_s);
+    }
+
+    void aFileSystemThatFillsUpMeanwhile_data()
+    {
+        QTest::addColumn<QString>("then");
+        QTest::addColumn<QString>("end");
+        QTest::addColumn<QString>("sentence");
+        const QString spoilt = u" The disc in drive . is spoilt\\.\n$"_s;
+        // A write that was under way may still end after the process was stopped.
+        const QString fill =
+            u"until mount -o remount,size=$(($(stat -f -c '(%b - %f) * %S' \"$2\"))) \"$2\" 2> /dev/null; "
+            "do sleep 0.01; done"_s;
+        QTest::newRow("the disc") << fill << u"exit 1\nstate=spoilt"_s
+                                  << u"^drutil: The file system that holds drive . takes no more: no space "
+                                     "left on device\\."_s
+                + spoilt;
+        QTest::newRow("the disc, and it is stopped")
+            << fill + u"; kill -TERM $burn"_s << u"exit 143\nstate=spoilt"_s
+            << u"^drutil: Stopped\\."_s + spoilt;
+        // What is in its way keeps the end of the write from being noted, whatever room there is.
+        QTest::newRow("the state, and it is stopped")
+            << u"mkdir -p \"$2\"/1/recorder.ini.new && kill -TERM $burn"_s << u"exit 143\nstate=writing"_s
+            << u"^drutil: Stopped\\."_s + spoilt;
+    }
+
+    void aFileSystemThatFillsUpMeanwhile()
+    {
+        QFETCH(QString, then);
+        QFETCH(QString, end);
+        QFETCH(QString, sentence);
+        const Ran ran = onFileSystem(u"2500m"_s,
+            u"\"$0\" insert dvd-r; \"$0\" burn \"$1\" > /dev/null & burn=$!; "
+            "until [ -s \"$2\"/1/disc.iso ]; do kill -0 $burn || exit; sleep 0.01; done; "
+            "kill -STOP $burn; %1; kill -CONT $burn; wait $burn; echo exit $?; "
+            "cat \"$2\"/1/recorder.ini | grep state=; \"$0\" status"_s.arg(then));
+        QVERIFY2(ran.out.contains(end), qPrintable(ran.out + ran.err));
+        QVERIFY2(ran.out.contains(u"State: spoilt"_s), qPrintable(ran.out));
+        QVERIFY2(QRegularExpression(sentence).match(ran.err).hasMatch(), qPrintable(ran.err));
     }
 
     void aWriteThatTheSystemRefuses()

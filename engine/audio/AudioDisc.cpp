@@ -74,7 +74,8 @@ std::string_view takeDigits(std::string_view &text)
 
 Error folderError(const std::string &folder, int error)
 {
-    return { Exit::failed, "The folder " + quoted(folder) + " cannot be read: " + reason(error) + "." };
+    return { Exit::failed,
+        "The folder " + quoted(folder) + " cannot be read: " + reasonAndAdvice(error) + "." };
 }
 
 Error tooLong(const std::string &folder, std::uint64_t sectors)
@@ -100,7 +101,8 @@ Result<std::vector<Candidate>> listCandidates(const std::string &folder, std::ve
         struct stat info { };
         if (fstatat(dirfd(directory.get()), name.c_str(), &info, 0) != 0)
             return Error{ Exit::failed,
-                "The file " + quoted(folder + '/' + name) + " cannot be read: " + reason(errno) + "." };
+                "The file " + quoted(folder + '/' + name) + " cannot be read: " + reasonAndAdvice(errno)
+                    + "." };
         const bool isTrack =
             isWaveName(name) && !S_ISDIR(info.st_mode) && !isSidecar(dirfd(directory.get()), name);
         if (isTrack)
@@ -143,7 +145,8 @@ Result<AudioDisc> readAudioFolder(const std::string &folder)
     if (candidates->size() > mostTracks)
         return Error{ Exit::failed,
             "The folder " + quoted(folder) + " holds " + std::to_string(candidates->size())
-                + " WAVE files, but an audio disc has at most " + std::to_string(mostTracks) + " tracks." };
+                + " WAVE files, but an audio disc has at most " + std::to_string(mostTracks)
+                + " tracks: take some out." };
     std::uint64_t total = firstPause; // of 99 files of any size it fits in 64 bits
     for (const Candidate &candidate : *candidates) {
         const std::string path = folder + (folder.ends_with('/') ? "" : "/") + candidate.name;

@@ -47,7 +47,8 @@ Result<void> writeAll(int fd, const std::byte *bytes, std::size_t size, const st
         if (part < 0 && errno == EINTR)
             continue;
         if (part < 0)
-            return Error{ Exit::failed, quoted(destination) + " cannot be written: " + reason(errno) + "." };
+            return Error{ Exit::failed,
+                quoted(destination) + " cannot be written: " + reasonAndAdvice(errno) + "." };
         bytes += part;
         size -= static_cast<std::size_t>(part);
     }
@@ -61,7 +62,7 @@ Result<TrackStream> TrackStream::open(const AudioTrack &track)
     const int fd = ::open(track.path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (fd < 0)
         return Error{ Exit::failed,
-            "The file " + quoted(track.path) + " cannot be read: " + reason(errno) + "." };
+            "The file " + quoted(track.path) + " cannot be read: " + reasonAndAdvice(errno) + "." };
     return TrackStream(track, fd);
 }
 
@@ -110,7 +111,8 @@ Result<std::size_t> TrackStream::read(std::byte *buffer, std::size_t size)
         if (got <= 0)
             return Error{ Exit::failed,
                 "The file " + quoted(m_path)
-                    + (got < 0 ? " cannot be read: " + reason(errno) : " became shorter while it was read")
+                    + (got < 0 ? " cannot be read: " + reasonAndAdvice(errno)
+                               : " became shorter while it was read; leave it alone and start again")
                     + "." };
         done += static_cast<std::size_t>(got);
         m_next += static_cast<std::uint64_t>(got);

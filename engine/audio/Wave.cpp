@@ -79,6 +79,11 @@ Error no(const std::string &predicate)
     return { Exit::failed, predicate };
 }
 
+Error noTrack(const std::string &predicate)
+{
+    return no(predicate + "; convert it or take it out of the folder");
+}
+
 std::optional<Format> readFormat(const ReadAt &readAt, std::uint64_t offset, std::uint32_t size)
 {
     const Bytes bytes(readAt, offset, size);
@@ -98,7 +103,7 @@ Result<void> checkFormat(const std::optional<Format> &format)
 {
     static const std::string wanted = "; an audio disc takes 16-bit 44100 Hz stereo PCM only, convert it";
     if (!format)
-        return no("is a WAVE file without a description of its format");
+        return noTrack("is a WAVE file without a description of its format");
     if (format->tag != formatPcm)
         return no("holds compressed or floating-point sound" + wanted);
     if (format->bits != 16)
@@ -127,7 +132,7 @@ Result<WaveData> parseWave(const ReadAt &readAt, std::uint64_t fileSize)
 {
     const Bytes riff(readAt, 0, riffHeader);
     if (!riff.has(riffHeader) || riff.id(0) != "RIFF" || riff.id(8) != "WAVE")
-        return no("is not a WAVE file");
+        return noTrack("is not a WAVE file");
     std::optional<Format> format;
     std::uint64_t offset = riffHeader;
     for (int chunk = 0; chunk < mostChunks && offset + chunkHeader <= fileSize; ++chunk) {
@@ -145,12 +150,12 @@ Result<WaveData> parseWave(const ReadAt &readAt, std::uint64_t fileSize)
             WaveData data{ offset, isOpenEnded(size, riff.u32(4), rest, fileSize) ? rest : size };
             data.size -= data.size % frameSize;
             if (data.size == 0)
-                return no("holds no sound");
+                return noTrack("holds no sound");
             return data;
         }
         offset += size + (size & 1U); // chunks begin at even offsets
     }
-    return no("is a WAVE file without sound data");
+    return noTrack("is a WAVE file without sound data");
 }
 
 Result<WaveData> parseWave(std::span<const std::byte> file)
@@ -174,7 +179,7 @@ Result<WaveData> readWave(const std::string &path)
     const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     struct stat info { };
     if (fd < 0 || fstat(fd, &info) != 0)
-        return failed("cannot be read: " + reason(errno));
+        return failed("cannot be read: " + reasonAndAdvice(errno));
     int readError = 0;
     const ReadAt readAt = [fd, &readError](std::uint64_t offset, std::byte *buffer, std::size_t size) {
         const ssize_t got = pread(fd, buffer, size, static_cast<off_t>(offset));
@@ -183,10 +188,10 @@ Result<WaveData> readWave(const std::string &path)
         return got < 0 ? 0 : static_cast<std::size_t>(got);
     };
     const auto data = S_ISREG(info.st_mode) ? parseWave(readAt, static_cast<std::uint64_t>(info.st_size))
-                                            : Result<WaveData>(no("is not a file"));
+                                            : Result<WaveData>(noTrack("is not a file"));
     close(fd);
     if (readError != 0)
-        return failed("cannot be read: " + reason(readError));
+        return failed("cannot be read: " + reasonAndAdvice(readError));
     return data ? data : failed(data.error().message);
 }
 

@@ -1,7 +1,9 @@
 #include "base/Words.h"
 
+#include <algorithm>
 #include <array>
 #include <cctype>
+#include <cerrno>
 #include <cstdio>
 #include <system_error>
 
@@ -27,6 +29,36 @@ constexpr std::array<Utf8Lead, 9> utf8Leads{ {
     { 0xf1, 0xf3, 0x80, 0xbf, 4 },
     { 0xf4, 0xf4, 0x80, 0x8f, 4 },
 } };
+
+struct Advice {
+    int error;
+    const char *text;
+};
+
+constexpr const char *choosePlace = "free some space or choose another place";
+constexpr const char *getPermission = "get the permission for it or choose another one";
+constexpr const char *endPrograms = "end some programs and try again";
+
+constexpr std::array advices{
+    Advice{ EACCES, getPermission },
+    Advice{ EPERM, getPermission },
+    Advice{ ENOENT, "check its name" },
+    Advice{ ENOTDIR, "name a folder, or put one in the place of the file" },
+    Advice{ EISDIR, "move the folder of that name away" },
+    Advice{ EEXIST, "move away what has that name" },
+    Advice{ ENOTEMPTY, "move away what lies in it" },
+    Advice{ ELOOP, "remove the link that leads back to itself" },
+    Advice{ ENAMETOOLONG, "choose a shorter name" },
+    Advice{ ENOSPC, choosePlace },
+    Advice{ EDQUOT, choosePlace },
+    Advice{ EFBIG, "its file system does not take a file of this size, choose another place" },
+    Advice{ EROFS, "its file system takes no changes, choose another place" },
+    Advice{ EIO, "what it lies on may be damaged, or a cable loose" },
+    Advice{ EBUSY, "end the program that uses it" },
+    Advice{ EMFILE, endPrograms },
+    Advice{ ENFILE, endPrograms },
+    Advice{ ENOMEM, endPrograms },
+};
 
 unsigned char byteAt(std::string_view text, std::size_t at)
 {
@@ -80,6 +112,12 @@ std::string reason(int error)
     if (text.size() > 1 && std::islower(static_cast<unsigned char>(text[1])))
         text[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(text[0])));
     return text;
+}
+
+std::string reasonAndAdvice(int error)
+{
+    const auto row = std::ranges::find(advices, error, &Advice::error);
+    return reason(error) + "; " + (row == advices.end() ? "try again" : row->text);
 }
 
 std::string sizeText(std::uint64_t bytes)

@@ -14,6 +14,10 @@ std::string quoted(std::string_view text);
 /// The system's words for an errno value, begun with a small letter: "permission denied".
 std::string reason(int error);
 
+/// The same, and what to do about it: "permission denied; get the permission for it or choose another one". For the end
+/// of an error's sentence, before its full stop.
+std::string reasonAndAdvice(int error);
+
 /// A size for people, in decimal units: "734 MB", "4.7 GB", "512 bytes".
 std::string sizeText(std::uint64_t bytes);
 

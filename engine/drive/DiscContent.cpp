@@ -83,9 +83,10 @@ Result<std::unique_ptr<DiscData>> ImageContent::open(const std::string &path)
     if (!file || ::fstat(file.get(), &info) != 0)
         return systemError(engine::quoted(path) + " cannot be read", errno);
     if (!S_ISREG(info.st_mode))
-        return Error{ Exit::failed, engine::quoted(path) + " is not a file with a disc image." };
+        return Error{ Exit::failed,
+            engine::quoted(path) + " is not a file with a disc image: name an image file." };
     if (info.st_size == 0)
-        return Error{ Exit::failed, engine::quoted(path) + " is empty: there is nothing to write." };
+        return Error{ Exit::failed, engine::quoted(path) + " is empty: name another image file." };
     ::posix_fadvise(file.get(), 0, 0, POSIX_FADV_SEQUENTIAL);
     return std::unique_ptr<DiscData>(
         new ImageContent(path, std::move(file), static_cast<std::uint64_t>(info.st_size)));
@@ -120,7 +121,9 @@ Result<void> ImageContent::outcome() const
     if (m_failure == 0)
         return {};
     if (m_failure == shrunk)
-        return Error{ Exit::failed, engine::quoted(m_path) + " became shorter while it was being written." };
+        return Error{ Exit::failed,
+            engine::quoted(m_path)
+                + " became shorter while it was being written: leave it alone and write it again." };
     return systemError(engine::quoted(m_path) + " cannot be read", m_failure);
 }
 

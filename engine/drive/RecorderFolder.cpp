@@ -179,7 +179,7 @@ Result<RecorderState> RecorderFolder::load() const
     const std::string file = std::string(stateFile) + " of " + m_name;
     const Result<std::string> text = readSmallFile(m_folder.get(), stateFile, file + " cannot be read");
     if (!text)
-        return Error{ Exit::failed, text.error().message + " A new medium repairs it: drutil insert." };
+        return Error{ Exit::failed, text.error().message + "; a new medium repairs it: drutil insert." };
     Result<RecorderState> state = parseRecorder(*text);
     if (!state)
         return Error{ Exit::failed,
@@ -201,7 +201,8 @@ Result<void> RecorderFolder::moveToArchive(const std::string &stem, bool audio, 
     const Result<std::string> sheet =
         hasSheet ? readSmallFile(m_folder.get(), cueSheetFile, what) : Result<std::string>(std::string());
     if (!sheet)
-        return sheet.error();
+        return Error{ Exit::failed,
+            sheet.error().message + "; remove its " + cueSheetFile + ", the disc keeps its sound without." };
     for (int copy = 1;; ++copy) {
         const std::string name = copy == 1 ? stem : stem + '-' + std::to_string(copy);
         const std::string file = name + (audio ? ".bin" : ".iso");
@@ -276,7 +277,7 @@ Result<Fd> RecorderFolder::openDisc(const char *file) const
 
 Result<Fd> RecorderFolder::reserve() const
 {
-    const std::string what = "There is no room for " + std::string(stateFile) + " of " + m_name;
+    const std::string what = "Room for " + std::string(stateFile) + " of " + m_name + " cannot be kept";
     if (::unlinkat(m_folder.get(), reserveFile, 0) != 0 && errno != ENOENT)
         return systemError(what, errno);
     Fd fd(::openat(m_folder.get(), reserveFile, O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600));

@@ -29,20 +29,21 @@ int Fd::release()
 
 Error systemError(const std::string &what, int failure)
 {
-    return { Exit::failed, what + ": " + reason(failure) + "." };
+    return { Exit::failed, what + ": " + reasonAndAdvice(failure) + "." };
 }
 
 Result<std::string> readSmallFile(int folder, const char *name, const std::string &what)
 {
+    const auto failed = [&what](int failure) { return Error{ Exit::failed, what + ": " + reason(failure) }; };
     const Fd fd(::openat(folder, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!fd)
-        return systemError(what, errno);
+        return failed(errno);
     std::string text(smallFileLimit, '\0');
     const std::ptrdiff_t n = readFully(fd.get(), std::as_writable_bytes(std::span(text)), 0);
     if (n < 0)
-        return systemError(what, errno);
+        return failed(errno);
     if (static_cast<std::size_t>(n) == smallFileLimit)
-        return systemError(what, EFBIG);
+        return failed(EFBIG);
     text.resize(static_cast<std::size_t>(n));
     return text;
 }

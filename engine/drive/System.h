@@ -33,13 +33,14 @@ private:
     int m_fd = -1;
 };
 
-/// "recorder.ini of drive 1 cannot be read: Permission denied."; `failure` is an errno.
+/// "The disc of drive 1 cannot be read: permission denied; get the permission for it or choose another one.";
+/// `failure` is an errno.
 Error systemError(const std::string &what, int failure);
 
 constexpr std::size_t smallFileLimit = 64 * 1024; ///< bytes
 
-/// The whole file `name` in the folder `folder`; the errno of the failure otherwise, as a systemError()
-/// that begins with `what`. Files of smallFileLimit and more are refused.
+/// The whole file `name` in the folder `folder`; otherwise an error for whoever knows what to do about it: `what` and
+/// the system's reason, without a full stop. Files of smallFileLimit and more are refused.
 Result<std::string> readSmallFile(int folder, const char *name, const std::string &what);
 
 /// Replaces the file `name` in `folder` at once, so that a reader sees the old text or the new one and a

@@ -59,7 +59,8 @@ Error writeFailure(
     const int failure = outcome.message.failure;
     if (failure == ENOSPC || failure == EDQUOT || failure == EFBIG)
         return { Exit::failed,
-            "The file system that holds " + driveName + " takes no more: " + reason(failure) + "." + state };
+            "The file system that holds " + driveName + " takes no more: " + reasonAndAdvice(failure) + "."
+                + state };
     if (outcome.message.text.empty())
         return { Exit::failed, "The write to " + driveName + " failed." + state };
     return { Exit::failed,

@@ -175,7 +175,7 @@ Result<void> checkDiskImage(const std::string &path)
     // Not blocking: a pipe of that name must not hold the program up.
     const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (fd < 0)
-        return failed("cannot be read: " + reason(errno));
+        return failed("cannot be read: " + reasonAndAdvice(errno));
     struct stat info { };
     int readError = fstat(fd, &info) == 0 ? 0 : errno;
     const ReadAt readAt = [fd, &readError](std::uint64_t offset, std::byte *buffer, std::size_t size) {
@@ -189,9 +189,9 @@ Result<void> checkDiskImage(const std::string &path)
         kind = diskImageKind(readAt, static_cast<std::uint64_t>(info.st_size));
     close(fd);
     if (readError != 0)
-        return failed("cannot be read: " + reason(readError));
+        return failed("cannot be read: " + reasonAndAdvice(readError));
     if (!S_ISREG(info.st_mode))
-        return failed("is not a file");
+        return failed("is not a file; name an image file");
     const char *what = advice(kind);
     return what ? Result<void>(failed(what)) : Result<void>();
 }

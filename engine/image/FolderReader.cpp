@@ -61,7 +61,7 @@ Result<void> FolderReader::outcome() const
 Error FolderReader::contentError(const FolderTree &tree, std::uint32_t content, int error)
 {
     const std::string why = error != 0
-        ? "cannot be read: " + reason(error)
+        ? "cannot be read: " + reasonAndAdvice(error)
         : "became shorter while it was being stored; leave it alone and start again";
     return { Exit::failed,
         "The file " + quoted(tree.path(tree.contents()[content].entry)) + " " + why + "." };

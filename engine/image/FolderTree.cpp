@@ -79,7 +79,8 @@ private:
         const int fd = m_opener.enter(0);
         if (fd < 0 || fstat(fd, &info) != 0) {
             return Error{ Exit::failed,
-                "The folder " + quoted(m_tree.folder()) + " cannot be read: " + reason(errno) + "." };
+                "The folder " + quoted(m_tree.folder()) + " cannot be read: " + reasonAndAdvice(errno)
+                    + "." };
         }
         Entry &root = m_tree.m_entries.emplace_back();
         root.name = text("");
@@ -138,7 +139,8 @@ private:
             return Error{ Exit::interrupted, "Reading the folder was interrupted." };
         if (m_tree.m_texts.size() > mostTextBytes)
             return Error{ Exit::failed,
-                "The folder " + quoted(m_tree.folder()) + " holds too many names for a disc." };
+                "The folder " + quoted(m_tree.folder())
+                    + " holds too many names for a disc: take some out." };
         struct stat info { };
         if (fstatat(fd, name.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0) {
             if (errno != ENOENT)
@@ -269,7 +271,8 @@ private:
     {
         const std::string path = name.empty() ? m_tree.path(entry) : childPath(entry, name);
         return { Exit::failed,
-            std::string("The ") + kind + " " + quoted(path) + " cannot be read: " + reason(error) + "." };
+            std::string("The ") + kind + " " + quoted(path) + " cannot be read: " + reasonAndAdvice(error)
+                + "." };
     }
 
     bool stopped() const { return m_options.stop && m_options.stop(); }

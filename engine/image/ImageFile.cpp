@@ -17,12 +17,7 @@ constexpr std::uint64_t copySize = 16 * 1024 * 1024;
 
 Error writeError(const std::string &name, int error)
 {
-    std::string what = quoted(name) + " cannot be written: " + reason(error);
-    if (error == ENOSPC || error == EDQUOT)
-        what += "; free some space or choose another place";
-    if (error == EFBIG)
-        what += "; its file system does not take a file of this size, choose another place";
-    return { Exit::failed, what + "." };
+    return { Exit::failed, quoted(name) + " cannot be written: " + reasonAndAdvice(error) + "." };
 }
 
 } // namespace

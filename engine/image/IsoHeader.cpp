@@ -201,7 +201,7 @@ private:
         if (code < 0) {
             return Error{ Exit::failed,
                 quoted(m_tree.path(number)) + " cannot be put into the image: " + iso_error_to_msg(code)
-                    + "." };
+                    + "; take it out of the folder." };
         }
         copyAttributes(node, entry);
         return {};

@@ -113,7 +113,7 @@ Result<void> NewFile::keep()
         return {};
     const int error = errno;
     unlink(m_path.c_str());
-    return Error{ Exit::failed, quoted(m_path) + " cannot be written: " + reason(error) + "." };
+    return Error{ Exit::failed, quoted(m_path) + " cannot be written: " + reasonAndAdvice(error) + "." };
 }
 
 } // namespace engine::image

@@ -144,7 +144,7 @@ private Q_SLOTS:
         const auto verified = verify(m_lease, lost, "drive 1", {});
         QVERIFY(!verified);
         QCOMPARE(QString::fromStdString(verified.error().message),
-            u"The disc is written, but what was sent was not kept to compare it with: file too large."_s);
+            u"The disc is written, but what was sent was not kept to compare it with: file too large; its file system does not take a file of this size, choose another place."_s);
     }
 
 private:

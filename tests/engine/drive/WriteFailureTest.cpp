@@ -53,7 +53,7 @@ private Q_SLOTS:
                              << u"The data for the disc ended too early. The disc in drive 1 is spoilt."_s;
         QTest::newRow("full")
             << outcome(0, false, full) << QString() << int(Left::spoilt) << 1
-            << u"The file system that holds drive 1 takes no more: no space left on device. The disc in drive 1 is spoilt."_s;
+            << u"The file system that holds drive 1 takes no more: no space left on device; free some space or choose another place. The disc in drive 1 is spoilt."_s;
         QTest::newRow("drive")
             << outcome(0, false, sense) << QString() << int(Left::spoilt) << 1
             << u"The write to drive 1 failed (SCSI error on write(16,16): [3 0C 00] Medium error. Write error). The disc in drive 1 is spoilt."_s;

@@ -358,7 +358,7 @@ private Q_SLOTS:
             "do sleep 0.01; done"_s;
         QTest::newRow("the disc") << fill << u"exit 1\nstate=spoilt"_s
                                   << u"^drutil: The file system that holds drive . takes no more: no space "
-                                     "left on device\\."_s
+                                     "left on device; free some space or choose another place\\."_s
                 + spoilt;
         QTest::newRow("the disc, and it is stopped")
             << fill + u"; kill -TERM $burn"_s << u"exit 143\nstate=spoilt"_s

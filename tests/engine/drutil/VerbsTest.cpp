@@ -156,6 +156,35 @@ private Q_SLOTS:
         }
     }
 
+    void everyErrorSaysWhatToDo_data()
+    {
+        QTest::addColumn<QStringList>(
+            "arguments"); // % is a folder with a text "1.wav" and the text "file" in it
+        QTest::addColumn<QString>("advice");
+        const auto row = [](const char *title, const QStringList &arguments, const QString &advice) {
+            QTest::newRow(title) << arguments << advice;
+        };
+        row("no folder", { u"burn"_s, u"%/gone"_s }, u"; check its name."_s);
+        row("a file", { u"burn"_s, u"%/file"_s }, u"; name a folder, or put one in the place of the file."_s);
+        row("no folder of tracks", { u"burn"_s, u"-audio"_s, u"%/gone"_s }, u"; check its name."_s);
+        row("no track", { u"burn"_s, u"-audio"_s, u"%"_s }, u"; convert it or take it out of the folder."_s);
+        row("a folder in the way", { u"erase"_s, u"quick"_s }, u"; move the folder of that name away."_s);
+    }
+
+    void everyErrorSaysWhatToDo()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, advice);
+        const QString folder = m_drutil->path(u"some"_s);
+        QVERIFY(QDir().mkpath(folder) && writeFile(folder + u"/file"_s, "x"));
+        QVERIFY(writeFile(folder + u"/1.wav"_s, "x"));
+        QVERIFY(m_drutil->insert(u"cd-rw"_s));
+        QVERIFY(QDir().mkpath(m_drutil->recorder() + u"/disc.iso"_s));
+        const Ran ran = (*m_drutil)(arguments.replaceInStrings(u"%"_s, folder));
+        QCOMPARE(ran.exit, 1);
+        QVERIFY2(ran.err.endsWith(advice + u'\n'), qPrintable(ran.err));
+    }
+
     void kinds_data()
     {
         QTest::addColumn<QString>("type");

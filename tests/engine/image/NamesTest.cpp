@@ -4,6 +4,8 @@
 
 #include <QtTest>
 
+#include <cerrno>
+
 using engine::image::JolietFit;
 using engine::image::jolietFit;
 
@@ -41,6 +43,22 @@ private Q_SLOTS:
         QFETCH(QByteArray, name);
         QFETCH(int, fit);
         QCOMPARE(int(jolietFit(name.toStdString())), fit);
+    }
+
+    void advice_data()
+    {
+        QTest::addColumn<int>("error");
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("of its own") << ENOENT << QByteArray("no such file or directory; check its name");
+        QTest::newRow("shared") << EDQUOT
+                                << QByteArray("disk quota exceeded; free some space or choose another place");
+        QTest::newRow("any other") << EPROTO << QByteArray("protocol error; try again");
+    }
+
+    void advice()
+    {
+        QFETCH(int, error);
+        QTEST(QByteArray::fromStdString(engine::reasonAndAdvice(error)), "text");
     }
 
     void quoted_data()

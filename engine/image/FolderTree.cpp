@@ -39,6 +39,23 @@ struct FileIdHash {
     }
 };
 
+/// Whether libisofs can store a link to `path` so that it can read it as well: one of 1024 bytes, which it still
+/// stores, keeps it from reading anything on the disc.
+bool isTargetForRockRidge(std::string_view path)
+{
+    constexpr std::size_t mostBytes = 1023;
+    constexpr std::size_t mostInName = 255;
+    if (path.size() > mostBytes)
+        return false;
+    while (path.size() > mostInName) {
+        const std::size_t slash = path.find('/');
+        if (slash > mostInName) // or none
+            return false;
+        path.remove_prefix(slash + 1);
+    }
+    return true;
+}
+
 bool mayRead(const struct stat &info, int folderFd, const char *name)
 {
     static const uid_t user = geteuid();
@@ -175,7 +192,12 @@ private:
             const ssize_t length = readlinkat(fd, name.c_str(), target, PATH_MAX);
             if (length < 0)
                 return unreadable("symbolic link", entry.parent, errno, name);
-            entry.target = text({ target, static_cast<std::size_t>(length) });
+            const std::string_view path(target, static_cast<std::size_t>(length));
+            if (m_options.rockRidge && !isTargetForRockRidge(path)) {
+                leaveOut(entry.parent, name, "what the link points to is too long for Rock Ridge");
+                return {};
+            }
+            entry.target = text(path);
         }
         const bool posixOnly = !S_ISREG(info.st_mode) && !S_ISDIR(info.st_mode);
         if (posixOnly && !m_options.rockRidge) {

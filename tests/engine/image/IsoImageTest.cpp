@@ -58,6 +58,43 @@ private Q_SLOTS:
             difference(list(root, modesAndTimes), list(scratch.path("out"), modesAndTimes)), QByteArray());
     }
 
+    void linksToLongPaths_data()
+    {
+        QTest::addColumn<QByteArray>("target");
+        QTest::addColumn<bool>("stored");
+        const QByteArray name(255, 'n');
+        QTest::newRow("a name of 255") << name << true;
+        QTest::newRow("a name of 256") << name + 'n' << false;
+        QTest::newRow("a name of 256 before others") << name + "n/a" << false;
+        QTest::newRow("a name of 256 after others") << "../a/" + name + "n" << false;
+        QTest::newRow("names of 255") << '/' + name + '/' + name + "/a" << true;
+        QTest::newRow("1023 bytes") << QByteArray("dir/").repeated(255) + "end" << true;
+        QTest::newRow("1024 bytes") << QByteArray("dir/").repeated(255) + "last" << false;
+        QTest::newRow("as long as can be") << QByteArray("dir/").repeated(1023) + "end" << false;
+    }
+
+    void linksToLongPaths()
+    {
+        QFETCH(QByteArray, target);
+        QFETCH(bool, stored);
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("t/file"), "data"));
+        QCOMPARE(symlink(target.constData(), scratch.path("t/link").c_str()), 0);
+        auto image = IsoImage::fromFolder(scratch.path("t"), {});
+        QVERIFY2(image, image ? "" : image.error().message.c_str());
+        QCOMPARE(image->notes().size(), 1U);
+        const bool told =
+            image->notes().front().find("t/link\" is left out: what the link points to is too long")
+            != std::string::npos;
+        QCOMPARE(told, !stored);
+        writeImage(scratch.path("t"), scratch.path("i.iso"));
+        QVERIFY(extractRockRidge(scratch.path("i.iso"), scratch.path("out")));
+        Listing expected = list(scratch.path("t"));
+        if (!stored)
+            expected.erase("link");
+        QCOMPARE(difference(expected, list(scratch.path("out"))), QByteArray());
+    }
+
     void jolietHoldsPlainNamesAsTheyAre()
     {
         Scratch scratch;

@@ -287,8 +287,13 @@ bool isSpoilt(DiscState state)
 /// Takes what is in `folder` out and puts a blank of `kind` in.
 Result<void> exchange(const RecorderFolder &folder, RecorderState state, report::MediumKind kind)
 {
+    // A disc that is gone while the state still tells of it helps nobody: room for the new state comes first.
+    Result<Fd> reserve = folder.reserve();
+    if (!reserve)
+        return reserve.error();
     if (auto moved = folder.archive(state.kind, isSpoilt(state.disc)); !moved)
         return moved;
+    *reserve = Fd();
     state.trayOpen = false;
     state.kind = kind;
     state.disc = DiscState::blank;

@@ -346,6 +346,27 @@ private Q_SLOTS:
         QCOMPARE(files, end.contains(u"blank"_s) ? u"recorder.ini\n"_s : disc + u"recorder.ini\n"_s);
     }
 
+    void aDiscStaysInARecorderThatHasNoRoomToEjectIt()
+    {
+        QVERIFY(QFile::remove(source() + u"/large"_s));
+        QVERIFY(writeFile(source() + u"/1.wav"_s, QByteArray::fromStdString(wave(400))));
+        for (const QString &burn : { u"burn"_s, u"burn -audio"_s }) {
+            const Ran ran = onFileSystem(u"4m"_s,
+                u"\"$0\" insert cd-r; \"$0\" %1 \"$1\" > /dev/null; cat /dev/zero > \"$2\"/filler 2> "
+                u"/dev/null; "
+                "ls \"$2\"/1 > \"$1.before\"; \"$0\" tray eject; echo exit $?; ls \"$2\"/1 > \"$1.after\"; "
+                "cmp \"$1.before\" \"$1.after\"; "
+                "grep state= \"$2\"/1/recorder.ini; rm \"$2\"/filler; "
+                "\"$0\" tray eject; echo exit $?; grep state= \"$2\"/1/recorder.ini; ls \"$2\"/1/discs | wc -l"_s
+                    .arg(burn));
+            const QString files = burn == u"burn"_s ? u"1\n"_s : u"2\n"_s;
+            QVERIFY2(ran.out.endsWith(u"exit 1\nstate=written\nexit 0\nstate=blank\n"_s + files),
+                qPrintable(ran.out + ran.err));
+            QVERIFY2(
+                ran.err.endsWith(u"; free some space or choose another place.\n"_s), qPrintable(ran.err));
+        }
+    }
+
     void aFileSystemThatFillsUpMeanwhile_data()
     {
         QTest::addColumn<QString>("then");

@@ -373,11 +373,13 @@ Result<void> IsoHeader::layOut(const FolderTree &tree, bool rockRidge)
         return Error{ Exit::failed,
             std::string("The image cannot be laid out: ") + iso_error_to_msg(code) + "." };
     m_source.reset(reinterpret_cast<burn::burn_source *>(source));
-    const auto counted = static_cast<std::uint64_t>(m_source->get_size(m_source.get())) / blockSize;
-    if (counted < afterHeader)
-        return tooLarge(tree, counted + mostBlocks + 1);
-    m_imageBlocks = static_cast<std::uint32_t>(counted);
-    m_left = (counted - afterHeader) * blockSize;
+    auto blocks = static_cast<std::uint64_t>(m_source->get_size(m_source.get())) / blockSize;
+    if (blocks < afterHeader)
+        blocks += mostBlocks + 1;
+    m_left = (blocks - afterHeader) * blockSize;
+    if (blocks > mostBlocks)
+        return tooLarge(tree, blocks);
+    m_imageBlocks = static_cast<std::uint32_t>(blocks);
     return {};
 }
 

@@ -99,13 +99,12 @@ Result<std::vector<Candidate>> listCandidates(const std::string &folder, std::ve
         if (name == "." || name == "..")
             continue;
         struct stat info { };
-        if (fstatat(dirfd(directory.get()), name.c_str(), &info, 0) != 0)
+        const bool maybe = isWaveName(name) && !isSidecar(dirfd(directory.get()), name);
+        if (maybe && fstatat(dirfd(directory.get()), name.c_str(), &info, 0) != 0)
             return Error{ Exit::failed,
                 "The file " + quoted(folder + '/' + name) + " cannot be read: " + reasonAndAdvice(errno)
                     + "." };
-        const bool isTrack =
-            isWaveName(name) && !S_ISDIR(info.st_mode) && !isSidecar(dirfd(directory.get()), name);
-        if (isTrack)
+        if (maybe && !S_ISDIR(info.st_mode))
             candidates.push_back({ info.st_mtim.tv_sec, info.st_mtim.tv_nsec, name });
         else
             notes.push_back(quoted(folder + '/' + name) + " is left out: only WAVE files become tracks.");

@@ -114,6 +114,8 @@ private Q_SLOTS:
         QVERIFY(makeFile(
             scratch.path("f/._a.wav"), std::string("\0\x05\x16\x07\0\2\0\0", 8) + std::string(74, '\0')));
         QVERIFY(makeFile(scratch.path("f/.DS_Store"), "view") && makeFolder(scratch.path("f/.wav")));
+        // An editor's lock, which points to no file.
+        QCOMPARE(symlink("person@host.1", scratch.path("f/.#list").c_str()), 0);
         QVERIFY(makeFile(scratch.path("f/cover.jpg"), "picture") && makeFolder(scratch.path("f/folder.wav")));
         const auto disc = readAudioFolder(scratch.path("f"));
         QVERIFY2(disc, disc ? "" : disc.error().message.c_str());
@@ -122,8 +124,8 @@ private Q_SLOTS:
                 QStringLiteral(".hidden.wav"), QStringLiteral("._.wav"), QStringLiteral("track 9.WAV"),
                 QStringLiteral("track 10.wav") }));
         QVERIFY(disc->tracks.front().path.ends_with("/\xff.Wave"));
-        QCOMPARE(disc->notes.size(), 5U);
-        QCOMPARE(QString::fromStdString(disc->notes.at(1)),
+        QCOMPARE(disc->notes.size(), 6U);
+        QCOMPARE(QString::fromStdString(disc->notes.at(2)),
             u"\"%1/._a.wav\" is left out: only WAVE files become tracks."_s.arg(
                 QString::fromStdString(scratch.path("f"))));
         QCOMPARE(disc->sectorCount(), 150U + 7 * 300);

@@ -19,8 +19,8 @@ constexpr std::uint32_t blockSize = 2048; ///< bytes of a logical block (ECMA-11
 
 /// What becomes of symbolic links.
 enum class Links {
-    /// Stored as Rock Ridge links. Left out, with a note, when there is no Rock Ridge, or when the target is longer than
-    /// 1023 bytes or has a name of more than 255: no disc of ours could hold the link as it is.
+    /// Stored as Rock Ridge links. Left out, with a note, when there is no Rock Ridge, or when the target is
+    /// longer than 1023 bytes or has a name of more than 255: libisofs could not store the link, or not read it.
     keep,
     follow, ///< stored as what they point to; loops and dangling links left out, with a note
 };

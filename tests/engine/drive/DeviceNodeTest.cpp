@@ -28,8 +28,9 @@ private Q_SLOTS:
         QTest::newRow("no node") << ENOENT << 3 << gone;
         QTest::newRow("no device") << ENODEV << 3 << gone;
         QTest::newRow("no unit") << ENXIO << 3 << gone;
-        QTest::newRow("read-only") << EROFS << 1
-                                   << u"/dev/sr0 (drive 1) cannot be opened: read-only file system; its file system takes no changes, choose another place."_s;
+        QTest::newRow("read-only")
+            << EROFS << 1
+            << u"/dev/sr0 (drive 1) cannot be opened: read-only file system; its file system takes no changes, choose another place."_s;
     }
 
     void sentences()

@@ -48,10 +48,13 @@ Result<void> checkWritable(const Medium &medium, const std::string &driveName)
             + " cannot be written any more: insert a blank or rewritable disc." };
 }
 
-/// What the medium takes once a rewritable one is erased.
-std::uint64_t roomOn(const Medium &medium)
+/// Whether `needed` blocks fit the medium once it is erased if need be. Where the drive does not tell what an
+/// erased one takes, the write asks again.
+Result<void> checkFits(std::uint64_t needed, const Medium &medium, const std::string &driveName)
 {
-    return report::canErase(medium) ? std::max(medium.capacity, medium.free) : medium.free;
+    if (report::canWriteNow(medium))
+        return checkRoom(needed, medium.free, driveName);
+    return medium.capacity == 0 ? Result<void>() : checkRoom(needed, medium.capacity, driveName);
 }
 
 /// Makes a rewritable medium that is not blank blank.
@@ -104,7 +107,7 @@ Result<void> burnContent(
     const Result<Content> data = prepare();
     if (!data)
         return data.error();
-    if (auto fits = checkRoom((*data)->blocks(), roomOn(medium), drive.name()); !fits)
+    if (auto fits = checkFits((*data)->blocks(), medium, drive.name()); !fits)
         return fits;
     auto done = eraseFirst(**lease, medium, options);
     if (done)
@@ -121,7 +124,7 @@ Result<void> checkAudioMedium(
             "An audio disc needs a CD, and there is a " + std::string(report::factsOf(medium.kind).type)
                 + " in " + driveName + ": insert a blank CD-R or CD-RW." };
     // The pause of track 1 lies before the blocks that a disc counts.
-    return checkRoom(disc.sectorCount() - audio::firstPause, roomOn(medium), driveName);
+    return checkFits(disc.sectorCount() - audio::firstPause, medium, driveName);
 }
 
 } // namespace

@@ -133,6 +133,9 @@ Result<void> PhysicalLease::writeAudio(const audio::AudioDisc &disc, const Contr
     const Result<report::Medium> now = medium();
     if (!now)
         return now.error();
+    // What an erased disc takes is known only now where the drive did not tell.
+    if (auto fits = checkRoom(disc.sectorCount() - audio::firstPause, now->free, m_name); !fits)
+        return fits;
     const auto reading = std::make_shared<AudioReading>();
     Job job;
     job.audio = true;

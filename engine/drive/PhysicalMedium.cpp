@@ -57,6 +57,24 @@ std::uint64_t leadOutOf(burn_drive *drive, report::MediumKind kind)
     return static_cast<std::uint64_t>(std::max(end, 0));
 }
 
+/// The largest size that the drive can format the medium to (READ FORMAT CAPACITIES, MMC-6 6.23).
+std::uint64_t largestFormatOf(burn_drive *drive)
+{
+    int status = 0;
+    off_t size = 0;
+    unsigned parameter = 0;
+    int formats = 0;
+    // The size beside the list is that of the drive's largest medium where the state is not known.
+    if (burn_disc_get_formats(drive, &status, &size, &parameter, &formats) <= 0)
+        return 0;
+    off_t largest = 0;
+    int type = 0;
+    for (int i = 0; i < formats; ++i)
+        if (burn_disc_get_format_descr(drive, i, &type, &size, &parameter) > 0)
+            largest = std::max(largest, size);
+    return static_cast<std::uint64_t>(largest) / blockBytes;
+}
+
 std::uint64_t volumeOn(LibburnDrive &drive)
 {
     std::array<std::byte, blockBytes> descriptor{};
@@ -96,7 +114,10 @@ Result<report::Medium> readMedium(LibburnDrive &drive, const std::string &device
         answers.readableBlocks = static_cast<std::uint64_t>(std::max(readable, 0));
     const report::MediumKind kind = report::kindOfProfile(answers.profile);
     answers.leadOutBlocks = leadOutOf(d, kind);
-    if (report::rewritingOfProfile(answers.profile) == report::Rewriting::overwrite)
+    const report::Rewriting rewriting = report::rewritingOfProfile(answers.profile);
+    if (rewriting == report::Rewriting::erase && report::factsOf(kind).family == report::Family::dvd)
+        answers.formatBlocks = largestFormatOf(d);
+    if (rewriting == report::Rewriting::overwrite)
         answers.volumeBlocks = volumeOn(drive);
     answers.speeds = speedsOf(d);
     report::Medium medium = report::mediumFromAnswers(answers);

@@ -156,7 +156,10 @@ Medium mediumFromAnswers(const DriveAnswers &a)
     const bool room = medium.state == MediumState::blank || medium.state == MediumState::appendable;
     medium.free = room ? a.freeBlocks : 0;
     medium.used = medium.state == MediumState::blank ? 0 : a.readableBlocks;
-    medium.capacity = std::max({ a.leadOutBlocks, medium.free, medium.used });
+    const uint64_t told = std::max(a.leadOutBlocks, a.formatBlocks);
+    // What is on a disc and behind it says nothing of what the disc takes once it is erased.
+    const bool unknown = told == 0 && medium.rewriting == Rewriting::erase && !canWriteNow(medium);
+    medium.capacity = unknown ? 0 : std::max({ told, medium.free, medium.used });
     return medium;
 }
 

@@ -62,7 +62,7 @@ struct Medium {
     MediumKind kind = MediumKind::none;
     MediumState state = MediumState::blank;
     Rewriting rewriting = Rewriting::pressed;
-    uint64_t capacity = 0; ///< of the whole medium; 0 when the drive does not tell
+    uint64_t capacity = 0; ///< of the whole medium, once erased if need be; 0 when the drive does not tell
     uint64_t free = 0; ///< what a write can take now, without an erase
     uint64_t used = 0;
     std::vector<int> speeds; ///< write speeds in 1000 bytes a second, ascending
@@ -99,6 +99,7 @@ struct DriveAnswers {
     uint64_t freeBlocks = 0;
     uint64_t readableBlocks = 0; ///< READ CAPACITY; the formatted size for overwritable media
     uint64_t leadOutBlocks = 0; ///< start of the last possible lead-out of a CD blank (ATIP); 0 not told
+    uint64_t formatBlocks = 0; ///< largest of READ FORMAT CAPACITIES, of a DVD-RW that is erased; 0 not told
     uint64_t volumeBlocks = 0; ///< size of the ISO 9660 volume on an overwritable medium, 0 none
     std::vector<int> speeds; ///< as Medium::speeds, any order
 };

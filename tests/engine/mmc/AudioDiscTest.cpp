@@ -212,6 +212,24 @@ private Q_SLOTS:
         QVERIFY2(said.endsWith(u"The disc in drive 1 is spoilt."_s), qPrintable(said));
         QVERIFY(!session.drive.trayLocked);
     }
+
+    // A CD-RW that does not tell its size before it is erased.
+    void whatTheErasedDiscCannotHoldIsNotBegun()
+    {
+        Session session({ cdRw, State::complete });
+        session.drive.disc.blocks[0] = QByteArray(2048, 'x');
+        session.drive.refuse = [](const Command &command) -> std::optional<Sense> {
+            const bool atip = command.opcode() == readToc && (command.number(2, 1) & 0x0f) == 4;
+            return atip ? std::optional(Sense{ 5, 0x24, 0x00 }) : std::nullopt;
+        };
+        const std::string folder = audioFolder(session, { sectorBytes * 600, sectorBytes * 600 });
+        const QString said =
+            sentence(engine::drive::burnAudioFolder(session.physical, folder, session.options));
+        QVERIFY2(
+            said.contains(u"need 1200 blocks"_s) && said.contains(u"has room for 1024"_s), qPrintable(said));
+        QCOMPARE(session.drive.commandsOf(blankDisc).size(), 1);
+        QVERIFY(session.drive.commandsOf(write10).isEmpty());
+    }
 };
 
 QTEST_GUILESS_MAIN(AudioDiscTest)

@@ -135,13 +135,45 @@ private Q_SLOTS:
     {
         QFETCH(int, profile);
         Session session({ profile });
-        QCOMPARE(sentence(session.burn(200)), QString());
+        QCOMPARE(sentence(session.burn(50)), QString());
         QVERIFY(session.drive.commandsOf(blankDisc).isEmpty());
         session.lines.clear();
-        QCOMPARE(sentence(session.burn(50)), QString());
+        // Erased, it takes more than it held.
+        QCOMPARE(sentence(session.burn(800)), QString());
         QVERIFY(session.lines.contains(u"The disc is not blank; it is erased first."_s));
         QTEST(!session.drive.commandsOf(blankDisc).isEmpty(), "blanks");
         QVERIFY(session.drive.content(0).contains(session.bigFile()));
+    }
+
+    void whatNoErasedDiscHoldsLeavesItAsItIs()
+    {
+        for (const int profile : { cdRw, dvdRwSequential }) {
+            Session session(written(profile));
+            const QString said = sentence(session.burn(1100));
+            QVERIFY2(said.contains(u"has room for 1024"_s), qPrintable(said));
+            QVERIFY(session.drive.commandsOf(blankDisc).isEmpty());
+        }
+    }
+
+    // A drive that tells no size of the written disc tells that of the erased one.
+    void whereNoSizeIsToldTheErasedDiscDecides()
+    {
+        for (const int profile : { cdRw, dvdRwSequential }) {
+            Session session({ profile });
+            session.drive.refuse = [](const Command &command) -> std::optional<Sense> {
+                const bool atip = command.opcode() == readToc && (command.number(2, 1) & 0x0f) == 4;
+                if (atip || command.opcode() == readFormatCapacities)
+                    return Sense{ 5, 0x24, 0x00 };
+                return {};
+            };
+            QCOMPARE(sentence(session.burn(50)), QString());
+            QCOMPARE(sentence(session.burn(800)), QString());
+            QVERIFY(session.drive.content(0).contains(session.bigFile()));
+            const QString said = sentence(session.burn(1100));
+            QVERIFY2(said.contains(u"has room for 1024"_s), qPrintable(said));
+            QCOMPARE(session.drive.commandsOf(blankDisc).size(), 2);
+            QCOMPARE(session.drive.disc.state, State::blank);
+        }
     }
 
     // The spares that a format sets aside are known only when it is done.

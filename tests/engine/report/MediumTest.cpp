@@ -32,6 +32,12 @@ DriveAnswers answers(int profile, const char *bits, quint64 free = 0, quint64 re
     return a;
 }
 
+DriveAnswers withFormat(DriveAnswers a, quint64 blocks)
+{
+    a.formatBlocks = blocks;
+    return a;
+}
+
 DriveAnswers with(DriveAnswers a, quint64 leadOut, quint64 volume = 0)
 {
     a.leadOutBlocks = leadOut;
@@ -64,7 +70,7 @@ private Q_SLOTS:
             { "blank CD-RW", ::answers(0x0a, "b", 359844), "CD-RW", blankErasable, 359844, 0, 359844 },
             { "written CD-RW", with(::answers(0x0a, "", 0, 5000), 359845), "CD-RW", "erasable", 0, 5000,
                 359845 },
-            { "open CD-RW", ::answers(0x0a, "a", 300000, 5000), "CD-RW", "erasable", 300000, 5000, 300000 },
+            { "open CD-RW", ::answers(0x0a, "a", 300000, 5000), "CD-RW", "erasable", 300000, 5000, 0 },
             { "CD-RW after a kill", ::answers(0x0a, "u"), "CD-RW", "erasable", 0, 0, 0 },
             { "pressed DVD", ::answers(0x10, "", 0, 2000000), "DVD-ROM", "not writable", 0, 2000000,
                 2000000 },
@@ -78,10 +84,14 @@ private Q_SLOTS:
                 "erasable, overwritable", 2297888, 0, 2297888 },
             { "blank DVD-RW sequential", ::answers(0x14, "b", 2297888), "DVD-RW", blankErasable, 2297888, 0,
                 2297888 },
-            { "written DVD-RW sequential", ::answers(0x14, "", 0, 90000), "DVD-RW", "erasable", 0, 90000,
-                90000 },
-            { "open DVD-RW sequential", ::answers(0x14, "a", 2000000, 90000), "DVD-RW", "erasable", 2000000,
-                90000, 2000000 },
+            { "written DVD-RW sequential", withFormat(::answers(0x14, "", 0, 90000), 2297888), "DVD-RW",
+                "erasable", 0, 90000, 2297888 },
+            { "open DVD-RW sequential", withFormat(::answers(0x14, "a", 2000000, 90000), 2297888), "DVD-RW",
+                "erasable", 2000000, 90000, 2297888 },
+            { "written DVD-RW, no format told", ::answers(0x14, "", 0, 90000), "DVD-RW", "erasable", 0, 90000,
+                0 },
+            { "open DVD-RW, no format told", ::answers(0x14, "a", 2000000, 90000), "DVD-RW", "erasable",
+                2000000, 90000, 0 },
             { "blank DVD-R DL", ::answers(0x15, "b", 4171712), "DVD-R DL", blankOnce, 4171712, 0, 4171712 },
             { "DVD-R DL in layer jump", ::answers(0x16, "b", 4171712), "DVD-R DL", "not writable", 0, 0, 0 },
             { "new DVD+RW", ::answers(0x1a, "b", 2295104), "DVD+RW", "erasable, overwritable", 2295104, 0,

@@ -57,18 +57,46 @@ Result<void> checkFits(std::uint64_t needed, const Medium &medium, const std::st
     return medium.capacity == 0 ? Result<void>() : checkRoom(needed, medium.capacity, driveName);
 }
 
+/// An erase that ends well in spite of a stop is told as stopped.
+Result<void> eraseUntilStopped(
+    Lease &lease, EraseMode mode, const std::string &driveName, const Control &control)
+{
+    if (auto erased = lease.erase(mode, control); !erased)
+        return erased;
+    if (const int signal = control.stopped())
+        return stoppedBy(
+            signal, "Stopped after the erase had ended: the disc in " + driveName + " is blank.");
+    return {};
+}
+
 /// Makes a rewritable medium that is not blank blank.
-Result<void> eraseFirst(Lease &lease, const Medium &medium, const BurnOptions &options)
+Result<void> eraseFirst(
+    Lease &lease, const Medium &medium, const std::string &driveName, const BurnOptions &options)
 {
     if (medium.state == report::MediumState::blank || !report::canErase(medium))
         return {};
     say(options, "The disc is not blank; it is erased first.");
-    return lease.erase(EraseMode::quick, options.control);
+    return eraseUntilStopped(lease, EraseMode::quick, driveName, options.control);
+}
+
+/// Does `write` on a medium that is erased first if need be, and gives the drive back.
+Result<void> eraseAndWrite(Lease &lease, const Medium &medium, const std::string &driveName,
+    const BurnOptions &options, const std::function<Result<void>()> &write)
+{
+    // Not every preparation asks for a stop, nor does the wait for a drive that is busy.
+    if (const int signal = options.control.stopped())
+        return stoppedUntouched(signal);
+    auto done = eraseFirst(lease, medium, driveName, options);
+    if (done)
+        done = write();
+    lease.present();
+    return done;
 }
 
 /// Opens the drive for a write and looks at what is in it.
-Result<std::unique_ptr<Lease>> openForWriting(Drive &drive, Medium &medium)
+Result<std::unique_ptr<Lease>> openForWriting(Drive &drive, Medium &medium, const Control &control)
 {
+    drive.setStopSignal(control.stopSignal);
     auto lease = drive.acquire(Purpose::change);
     if (!lease)
         return lease;
@@ -100,7 +128,7 @@ Result<void> burnContent(
     Drive &drive, const std::function<Result<Content>()> &prepare, const BurnOptions &options)
 {
     Medium medium;
-    const auto lease = openForWriting(drive, medium);
+    const auto lease = openForWriting(drive, medium, options.control);
     if (!lease)
         return lease.error();
     preparing(options);
@@ -109,11 +137,8 @@ Result<void> burnContent(
         return data.error();
     if (auto fits = checkFits((*data)->blocks(), medium, drive.name()); !fits)
         return fits;
-    auto done = eraseFirst(**lease, medium, options);
-    if (done)
-        done = writeAndVerify(**lease, **data, drive.name(), options);
-    (*lease)->present();
-    return done;
+    return eraseAndWrite(**lease, medium, drive.name(), options,
+        [&] { return writeAndVerify(**lease, **data, drive.name(), options); });
 }
 
 Result<void> checkAudioMedium(
@@ -144,7 +169,7 @@ Result<void> burnImageFile(Drive &drive, const std::string &image, const BurnOpt
 Result<void> burnAudioFolder(Drive &drive, const std::string &folder, const BurnOptions &options)
 {
     Medium medium;
-    const auto lease = openForWriting(drive, medium);
+    const auto lease = openForWriting(drive, medium, options.control);
     if (!lease)
         return lease.error();
     preparing(options);
@@ -155,15 +180,13 @@ Result<void> burnAudioFolder(Drive &drive, const std::string &folder, const Burn
         say(options, line);
     if (auto fits = checkAudioMedium(medium, *disc, drive.name()); !fits)
         return fits;
-    auto done = eraseFirst(**lease, medium, options);
-    if (done)
-        done = (*lease)->writeAudio(*disc, options.control);
-    (*lease)->present();
-    return done;
+    return eraseAndWrite(
+        **lease, medium, drive.name(), options, [&] { return (*lease)->writeAudio(*disc, options.control); });
 }
 
 Result<void> eraseMedium(Drive &drive, EraseMode mode, const Control &control)
 {
+    drive.setStopSignal(control.stopSignal);
     const auto lease = drive.acquire(Purpose::change);
     if (!lease)
         return lease.error();
@@ -176,7 +199,9 @@ Result<void> eraseMedium(Drive &drive, EraseMode mode, const Control &control)
         return Error{ Exit::failed,
             "The " + std::string(report::factsOf(medium->kind).type) + " in " + drive.name()
                 + " cannot be erased: insert a rewritable disc." };
-    auto erased = (*lease)->erase(mode, control);
+    if (const int signal = control.stopped())
+        return stoppedUntouched(signal);
+    auto erased = eraseUntilStopped(**lease, mode, drive.name(), control);
     (*lease)->present();
     return erased;
 }

@@ -27,8 +27,7 @@ image::IsoOptions isoOptions(const std::function<int()> &stopSignal)
 Error readingError(const Error &error, const std::function<int()> &stopSignal)
 {
     const int signal = stopSignal ? stopSignal() : 0;
-    return signal == 0 ? error
-                       : stoppedBy(signal, "Stopped before anything was written: the disc is as it was.");
+    return signal == 0 ? error : stoppedUntouched(signal);
 }
 
 } // namespace

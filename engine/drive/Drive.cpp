@@ -20,6 +20,11 @@ Error stoppedBy(int signal, std::string message)
     return { signal == SIGINT ? Exit::interrupted : Exit::terminated, std::move(message) };
 }
 
+Error stoppedUntouched(int signal)
+{
+    return stoppedBy(signal, "Stopped before anything was written: the disc is as it was.");
+}
+
 Result<void> checkRoom(std::uint64_t needed, std::uint64_t room, const std::string &driveName)
 {
     if (needed <= room)

@@ -12,6 +12,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <utility>
 
 namespace burn {
 struct burn_source;
@@ -41,6 +42,9 @@ struct Control {
 
 /// The error of an operation that `signal` (SIGINT, SIGTERM) ended; `message` is taken as it is.
 Error stoppedBy(int signal, std::string message);
+
+/// The error of an operation on a disc that `signal` ended before the disc was changed.
+Error stoppedUntouched(int signal);
 
 /// Whether `needed` blocks fit into `room` blocks; the error has both figures.
 Result<void> checkRoom(std::uint64_t needed, std::uint64_t room, const std::string &driveName);
@@ -118,6 +122,10 @@ public:
     const std::string &name() const { return m_name; }
     void setNumber(char number) { m_name = std::string("drive ") + number; }
 
+    /// What a wait of acquire(), of the lease or of a movement of the tray asks whether it shall end
+    /// (Control::stopSignal); it has to be callable as long as the drive is used.
+    void setStopSignal(std::function<int()> stopSignal) { m_control.stopSignal = std::move(stopSignal); }
+
     /// Opens the drive. Errors: busy, no permission, gone, mounted and in use.
     virtual Result<std::unique_ptr<Lease>> acquire(Purpose purpose) = 0;
 
@@ -133,8 +141,13 @@ public:
     /// The folder in which the discs of a virtual recorder lie; virtual recorders only.
     virtual Result<std::string> folder() const = 0;
 
+protected:
+    /// Without progress.
+    const Control &waitControl() const { return m_control; }
+
 private:
     std::string m_name = "the drive";
+    Control m_control;
 };
 
 } // namespace engine::drive

@@ -28,14 +28,15 @@ constexpr std::uint64_t headBlocks =
 
 class PhysicalLease final : public Lease {
 public:
-    PhysicalLease(std::unique_ptr<LibburnDrive> drive, std::string device)
+    PhysicalLease(std::unique_ptr<LibburnDrive> drive, std::string device, Control waitControl)
         : m_drive(std::move(drive))
         , m_device(std::move(device))
+        , m_waitControl(std::move(waitControl))
         , m_name(m_drive->name())
     {
     }
 
-    Result<report::Medium> medium() override { return readMedium(*m_drive, m_device); }
+    Result<report::Medium> medium() override { return readMedium(*m_drive, m_device, m_waitControl); }
     Result<void> erase(EraseMode mode, const Control &control) override;
     Result<void> writeData(DiscData &data, BlockDigests &sent, const Control &control) override;
     Result<void> writeAudio(const audio::AudioDisc &disc, const Control &control) override;
@@ -56,6 +57,7 @@ private:
 
     std::unique_ptr<LibburnDrive> m_drive;
     std::string m_device;
+    Control m_waitControl;
     std::string m_name;
 };
 
@@ -200,9 +202,6 @@ Result<void> PhysicalLease::blank(bool fast, const Control &control)
         return Error{ Exit::failed,
             "The disc in " + m_name + " cannot be erased (" + outcome.message.text
                 + "): try a full erase, or another disc." };
-    if (outcome.signal != 0)
-        return stoppedBy(
-            outcome.signal, "Stopped after the erase had ended: the disc in " + m_name + " is blank.");
     return reload();
 }
 
@@ -262,13 +261,16 @@ Result<std::unique_ptr<Lease>> PhysicalDrive::acquire(Purpose purpose)
     if (exclusive)
         if (auto free = checkFree(device, name()); !free)
             return free.error();
+    if (const int signal = waitControl().stopped())
+        return stoppedUntouched(signal);
     auto drive = LibburnDrive::grab(device, name(), exclusive, false);
     if (!drive)
         return drive.error();
     // The kernel or udev has locked the tray over a mounted disc.
     if (!exclusive)
         (*drive)->leave(LibburnDrive::Leave::locked);
-    return std::unique_ptr<Lease>(std::make_unique<PhysicalLease>(std::move(drive).value(), device));
+    return std::unique_ptr<Lease>(
+        std::make_unique<PhysicalLease>(std::move(drive).value(), device, waitControl()));
 }
 
 Result<void> PhysicalDrive::eject()

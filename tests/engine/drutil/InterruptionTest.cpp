@@ -3,10 +3,43 @@
 #include "Drutil.h"
 
 #include <csignal>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/types.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A WAVE file of four seconds of silence.
+QByteArray silence()
+{
+    constexpr quint32 bytes = 4 * 176400;
+    QByteArray wave;
+    QDataStream out(&wave, QIODevice::WriteOnly);
+    out.setByteOrder(QDataStream::LittleEndian);
+    out.writeRawData("RIFF", 4);
+    out << quint32(36 + bytes);
+    out.writeRawData("WAVEfmt ", 8);
+    out << quint32(16) << quint16(1) << quint16(2) << quint32(44100) << quint32(176400) << quint16(4)
+        << quint16(16);
+    out.writeRawData("data", 4);
+    out << bytes;
+    return wave + QByteArray(bytes, '\0');
+}
+
+/// Whether the process notes a SIGTERM instead of dying of it.
+bool catchesStops(qint64 process)
+{
+    const QList<QByteArray> lines = readFile(u"/proc/%1/status"_s.arg(process)).split('\n');
+    for (const QByteArray &line : lines)
+        if (line.startsWith("SigCgt:"))
+            return (line.mid(7).trimmed().toULongLong(nullptr, 16) >> (SIGTERM - 1) & 1) != 0;
+    return false;
+}
+
+} // namespace
 
 class InterruptionTest : public QObject {
     Q_OBJECT
@@ -51,6 +84,30 @@ class InterruptionTest : public QObject {
     {
         const QString used = m_drutil->fact(u"Space Used:"_s).section(u"blocks:"_s, 1).trimmed();
         return used.section(u' ', 0, 0).toLongLong();
+    }
+
+    /// Runs a program that has to wait for the recorder, and stops it in the wait.
+    Ran stoppedInTheWait(const QString &program, const QStringList &arguments)
+    {
+        // Others may look at the recorder, and nobody may change it.
+        const int held = ::open(QFile::encodeName(m_drutil->recorder()).constData(), O_RDONLY | O_CLOEXEC);
+        ::flock(held, LOCK_SH);
+        QProcess process;
+        process.setProcessEnvironment(m_drutil->environment());
+        process.start(program, arguments);
+        process.waitForStarted();
+        while (process.state() == QProcess::Running && !catchesStops(process.processId()))
+            process.waitForFinished(1);
+        if (process.state() == QProcess::Running)
+            ::kill(pid_t(process.processId()), SIGTERM);
+        ::close(held);
+        process.waitForFinished(60000);
+        Ran ran;
+        if (process.exitStatus() == QProcess::NormalExit)
+            ran.exit = process.exitCode();
+        ran.out = QString::fromUtf8(process.readAllStandardOutput());
+        ran.err = QString::fromUtf8(process.readAllStandardError());
+        return ran;
     }
 
 private Q_SLOTS:
@@ -107,6 +164,45 @@ private Q_SLOTS:
         QCOMPARE((*m_drutil)({ u"erase"_s, u"quick"_s }).exit, 0);
         QCOMPARE(m_drutil->fact(u"Writability:"_s), u"appendable, blank, erasable, overwritable"_s);
         QCOMPARE(m_drutil->fact(u"State:"_s), QString());
+    }
+
+    void aStopBeforeAnythingIsWritten_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("program");
+        QTest::addColumn<QStringList>("words");
+        for (const char *kind : { "cd-r", "cd-rw" }) {
+            const QString name = QString::fromLatin1(kind);
+            QTest::addRow("%s, folder", kind) << name << u"drutil"_s << QStringList{ u"burn"_s, u"source"_s };
+            QTest::addRow("%s, audio", kind)
+                << name << u"drutil"_s << QStringList{ u"burn"_s, u"-audio"_s, u"audio"_s };
+            QTest::addRow("%s, image", kind)
+                << name << u"hdiutil"_s << QStringList{ u"burn"_s, u"source/large"_s };
+        }
+        QTest::newRow("erase") << u"cd-rw"_s << u"drutil"_s << QStringList{ u"erase"_s, u"quick"_s };
+    }
+
+    void aStopBeforeAnythingIsWritten()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, program);
+        QFETCH(QStringList, words);
+        QVERIFY(QDir().mkpath(m_drutil->path(u"audio"_s)));
+        QVERIFY(writeFile(m_drutil->path(u"audio/one.wav"_s), silence()));
+        QVERIFY(QFile::resize(source() + u"/large"_s, 100 * 1000));
+        m_drutil->environment().insert(u"CORVALIS_VIRTUAL"_s, u"only"_s);
+        QVERIFY(m_drutil->insert(kind));
+        if (kind == u"cd-rw"_s)
+            QCOMPARE((*m_drutil)({ u"burn"_s, source() }).exit, 0);
+        const QByteArray before = m_drutil->state();
+        const QByteArray disc = readFile(this->disc());
+        if (QFile::exists(m_drutil->path(words.last())))
+            words.last() = m_drutil->path(words.last());
+        const Ran ran = stoppedInTheWait(Drutil::program().replace(u"drutil"_s, program), words);
+        QCOMPARE(ran.err, program + u": Stopped before anything was written: the disc is as it was.\n"_s);
+        QCOMPARE(ran.exit, 143);
+        QCOMPARE(m_drutil->state(), before);
+        QCOMPARE(readFile(this->disc()), disc);
     }
 
     void aKilledWrite_data()

@@ -167,6 +167,21 @@ private Q_SLOTS:
         QVERIFY(!session.drive.trayLocked);
     }
 
+    void aStopEndsTheWaitForADiscThatDoesNotGetReady()
+    {
+        Session session({ dvdPlusR });
+        session.drive.refuse = [](const Command &command) -> std::optional<Sense> {
+            return command.opcode() == readDiscInformation ? std::optional(writeError) : std::nullopt;
+        };
+        int asked = 0;
+        session.options.control.stopSignal = [&asked] { return ++asked > 2 ? SIGINT : 0; };
+        const auto done = session.burn();
+        QCOMPARE(sentence(done), u"Stopped before anything was written: the disc is as it was."_s);
+        QCOMPARE(int(done.error().exit), 130);
+        QVERIFY(!session.lines.contains(u"Preparing"_s)); // the wait comes before that
+        QVERIFY(!session.drive.trayLocked);
+    }
+
     void theCableIsPulled()
     {
         Session session({ dvdPlusR });

@@ -1,6 +1,7 @@
 // Erasing and formatting rewritable media, against a drive that keeps to MMC-5.
 #include "Session.h"
 
+#include <atomic>
 #include <chrono>
 #include <semaphore>
 
@@ -262,14 +263,17 @@ private Q_SLOTS:
     {
         Session session(written(cdRw));
         std::binary_semaphore asked(0);
+        std::atomic<bool> begun = false; // set by the thread that blanks
         session.stopAt = [&, first = true]() mutable {
-            if (std::exchange(first, false))
+            if (begun && std::exchange(first, false))
                 asked.release();
-            return true;
+            return begun.load();
         };
         session.drive.refuse = [&](const Command &command) -> std::optional<Sense> {
-            if (command.opcode() == blankDisc)
+            if (command.opcode() == blankDisc) {
+                begun = true;
                 (void)asked.try_acquire_for(std::chrono::seconds(30));
+            }
             return {};
         };
         const auto done = session.erase(EraseMode::quick);

@@ -17,7 +17,6 @@ using namespace engine;
 using drive::Drive;
 using program::Arguments;
 using program::Option;
-using program::print;
 using program::printReport;
 using program::Session;
 using program::usageError;
@@ -92,8 +91,8 @@ Result<void> burnDisc(const Arguments &arguments)
     const auto operation = audio ? drive::burnAudioFolder : drive::burnFolder;
     auto done = operation(**drive, arguments.operands.front(), session.burnOptions(verify));
     if (done)
-        print("Done: the disc in " + (*drive)->name() + " is written"
-            + (verify ? " and was compared.\n" : ".\n"));
+        session.say(
+            "Done: the disc in " + (*drive)->name() + " is written" + (verify ? " and was compared." : "."));
     return done;
 }
 
@@ -109,7 +108,7 @@ Result<void> erase(const Arguments &arguments)
     auto done = drive::eraseMedium(
         **drive, mode == "full" ? drive::EraseMode::full : drive::EraseMode::quick, session.control());
     if (done)
-        print("Done: the disc in " + (*drive)->name() + " is erased.\n");
+        session.say("Done: the disc in " + (*drive)->name() + " is erased.");
     return done;
 }
 

@@ -17,7 +17,6 @@ namespace {
 using namespace engine;
 using program::Arguments;
 using program::Option;
-using program::print;
 using program::Session;
 using program::usageError;
 using program::Verb;
@@ -60,7 +59,7 @@ Result<void> makeImage(const std::string &folder, const std::string &path, Sessi
     if (!image)
         return image.error();
     for (const std::string &note : image->notes())
-        print(note + '\n');
+        session.say(note);
     size = std::uint64_t{ image->blockCount() } * image::blockSize;
     auto file = image::NewFile::create(path, size);
     if (!file)
@@ -69,8 +68,8 @@ Result<void> makeImage(const std::string &folder, const std::string &path, Sessi
         return written;
     if (auto kept = file->keep(); !kept)
         return kept;
-    print("Done: " + quoted(path) + " holds " + std::to_string(image->fileCount())
-        + (image->fileCount() == 1 ? " file in " : " files in ") + sizeText(size) + ".\n");
+    session.say("Done: " + quoted(path) + " holds " + std::to_string(image->fileCount())
+        + (image->fileCount() == 1 ? " file in " : " files in ") + sizeText(size) + ".");
     return {};
 }
 
@@ -101,7 +100,7 @@ Result<void> burnImage(const Arguments &arguments)
     Session session;
     auto done = drive::burnImageFile(**burner, path, session.burnOptions(true));
     if (done)
-        print("Done: the disc in " + (*burner)->name() + " is written and was compared.\n");
+        session.say("Done: the disc in " + (*burner)->name() + " is written and was compared.");
     return done;
 }
 

@@ -1,6 +1,7 @@
 #include "program/Program.h"
 
 #include "base/Words.h"
+#include "program/Output.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -8,6 +9,7 @@
 #include <cstdio>
 #include <exception>
 #include <fcntl.h>
+#include <unistd.h>
 
 namespace engine::program {
 
@@ -65,8 +67,11 @@ int end(const Program &program, const Result<void> &done, const char *usage)
     std::string text = name + ": " + done.error().message + '\n';
     if (done.error().exit == Exit::usage)
         text += "Usage: " + name + ' ' + usage + '\n';
-    std::fwrite(text.data(), 1, text.size(), stderr);
-    return static_cast<int>(done.error().exit);
+    // Whoever was told to stop does not wait long for somebody who may not read any more.
+    const Exit exit = done.error().exit;
+    const bool stopped = exit == Exit::interrupted || exit == Exit::terminated;
+    Output(STDERR_FILENO, [stopped] { return stopped; }).tell(text);
+    return static_cast<int>(exit);
 }
 
 Result<void> runVerb(const Verb &verb, const Arguments &arguments)
@@ -122,15 +127,10 @@ Error usageError(std::string message)
     return { Exit::usage, std::move(message) };
 }
 
-void print(const std::string &text)
+Result<void> printReport(const std::string &text)
 {
     std::fwrite(text.data(), 1, text.size(), stdout);
     std::fflush(stdout);
-}
-
-Result<void> printReport(const std::string &text)
-{
-    print(text);
     if (std::ferror(stdout))
         return Error{ Exit::failed, "The report cannot be written to the output: " + reason(errno) + "." };
     return {};

@@ -53,9 +53,6 @@ int run(const Program &program, std::span<const char *const> words);
 /// An error in the arguments; `message` is a sentence.
 Error usageError(std::string message);
 
-/// Writes to standard output at once. Somebody who does not listen any more is no error.
-void print(const std::string &text);
-
 /// Writes what the whole run is for: an output that does not take it is an error.
 Result<void> printReport(const std::string &text);
 

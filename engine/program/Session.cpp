@@ -1,21 +1,26 @@
 #include "program/Session.h"
 
-#include "program/Program.h"
+#include <unistd.h>
 
 namespace engine::program {
+
+Session::Session()
+    : m_output(STDOUT_FILENO, [this] { return caught() != 0; })
+{
+}
 
 drive::Control Session::control()
 {
     return { [this](const report::Progress &progress, unsigned unitBytes) {
                 if (const auto line = m_pacer.next(progress, unitBytes, report::ProgressPacer::Clock::now()))
-                    print(*line + '\n');
+                    m_output.offer(*line + '\n');
             },
         [this] { return caught(); } };
 }
 
 drive::BurnOptions Session::burnOptions(bool verify)
 {
-    return { verify, control(), [](const std::string &line) { print(line + '\n'); } };
+    return { verify, control(), [this](const std::string &line) { say(line); } };
 }
 
 } // namespace engine::program

@@ -2,24 +2,34 @@
 #pragma once
 
 #include "drive/Burn.h"
+#include "program/Output.h"
 #include "report/ProgressText.h"
+
+#include <string>
 
 namespace engine::program {
 
-/// Progress lines on standard output and the stop signals, for the time of one operation. One at a time.
+/// Progress lines on standard output and the stop signals, for the time of one operation. A reader who reads no
+/// more holds up its end only, and that until a stop signal. One at a time.
 class Session {
 public:
+    Session();
+
     /// Valid as long as the session lives.
     drive::Control control();
 
     /// What a burn is done with; notes are lines on standard output.
     drive::BurnOptions burnOptions(bool verify);
 
+    /// One sentence on standard output.
+    void say(const std::string &line) { m_output.tell(line + '\n'); }
+
     /// The first stop signal that came, or 0.
     int caught() const { return m_signals.caught(); }
 
 private:
     drive::StopSignals m_signals;
+    Output m_output;
     report::ProgressPacer m_pacer;
 };
 

@@ -2,6 +2,7 @@
 #include "../audio/Waves.h"
 #include "Drutil.h"
 
+#include <array>
 #include <csignal>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -38,6 +39,45 @@ bool catchesStops(qint64 process)
             return (line.mid(7).trimmed().toULongLong(nullptr, 16) >> (SIGTERM - 1) & 1) != 0;
     return false;
 }
+
+/// A pipe that is full, and ends with a line break.
+class FullPipe {
+public:
+    FullPipe()
+    {
+        if (::pipe2(m_ends.data(), O_CLOEXEC | O_NONBLOCK) != 0)
+            qFatal("no pipe");
+        while (::write(m_ends[1], "\n", 1) == 1)
+            continue;
+        // Whoever gets it writes as to any other pipe.
+        ::fcntl(m_ends[1], F_SETFL, 0);
+    }
+    ~FullPipe()
+    {
+        ::close(m_ends[0]);
+        ::close(m_ends[1]);
+    }
+
+    int writing() const { return m_ends[1]; }
+
+    /// Reads until `text` has come, a minute at most.
+    bool readUntil(const QByteArray &text) const
+    {
+        QByteArray all;
+        const QDeadlineTimer deadline(60000);
+        while (!all.contains(text) && !deadline.hasExpired()) {
+            char byte = 0;
+            if (::read(m_ends[0], &byte, 1) == 1)
+                all += byte;
+            else
+                QTest::qWait(10);
+        }
+        return all.contains(text);
+    }
+
+private:
+    std::array<int, 2> m_ends{ -1, -1 };
+};
 
 } // namespace
 
@@ -315,6 +355,55 @@ private Q_SLOTS:
         }
         QCOMPARE(QDir(m_drutil->recorders()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
             QStringList(u"1"_s));
+    }
+
+    void aReaderWhoReadsNoMoreDoesNotKeepTheProgramFromEnding_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::addColumn<int>("exit");
+        QTest::addColumn<bool>("both");
+        QTest::newRow("SIGINT") << SIGINT << 130 << false;
+        QTest::newRow("SIGTERM") << SIGTERM << 143 << false;
+        QTest::newRow("SIGTERM, errors in the same pipe") << SIGTERM << 143 << true;
+    }
+
+    void aReaderWhoReadsNoMoreDoesNotKeepTheProgramFromEnding()
+    {
+        QFETCH(int, signal);
+        QFETCH(int, exit);
+        QFETCH(bool, both);
+        const FullPipe pipe;
+        QVERIFY(m_drutil->insert(u"dvd-r"_s));
+        QProcess burn;
+        burn.setProcessEnvironment(m_drutil->environment());
+        burn.setChildProcessModifier([&] {
+            ::dup2(pipe.writing(), 1);
+            if (both)
+                ::dup2(pipe.writing(), 2);
+        });
+        burn.start(Drutil::program(), { u"burn"_s, source() });
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(disc()).size() > 0, 60000);
+        end(burn, signal);
+        QCOMPARE(burn.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(burn.exitCode(), exit);
+        QVERIFY(m_drutil->state().contains("state=spoilt"));
+        if (!both)
+            QVERIFY(burn.readAllStandardError().contains("is spoilt"));
+    }
+
+    void aSlowReaderGetsTheEnd()
+    {
+        const FullPipe pipe;
+        QVERIFY(QFile::resize(source() + u"/large"_s, 10));
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        QProcess burn;
+        burn.setProcessEnvironment(m_drutil->environment());
+        burn.setChildProcessModifier([&] { ::dup2(pipe.writing(), 1); });
+        burn.start(Drutil::program(), { u"burn"_s, source() });
+        QTRY_VERIFY_WITH_TIMEOUT(m_drutil->state().contains("state=written"), 60000);
+        QVERIFY(pipe.readUntil(" is written and was compared.\n"));
+        QVERIFY(burn.waitForFinished(60000));
+        QCOMPARE(burn.exitCode(), 0);
     }
 
     void aWriteOutlivesItsReader()

@@ -111,6 +111,11 @@ Result<std::size_t> BlockDigests::matching(std::uint64_t first, std::span<const 
     return good;
 }
 
+Error stoppedUncompared(int signal, const std::string &driveName)
+{
+    return stoppedBy(signal, "Stopped: the disc in " + driveName + " is written, but was not compared.");
+}
+
 Result<void> verify(
     Lease &lease, const BlockDigests &sent, const std::string &driveName, const Control &control)
 {
@@ -120,8 +125,7 @@ Result<void> verify(
     progress.total = sent.blocks();
     for (std::uint64_t block = 0; block < sent.blocks();) {
         if (const int signal = control.stopped())
-            return stoppedBy(
-                signal, "Stopped: the disc in " + driveName + " is written, but was not compared.");
+            return stoppedUncompared(signal, driveName);
         progress.done = block;
         control.report(progress, blockBytes);
         const auto count = std::min<std::uint64_t>(readBlocks, sent.blocks() - block);

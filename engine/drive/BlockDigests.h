@@ -45,6 +45,9 @@ private:
     int m_failure = 0; ///< errno of the first one that could not be saved
 };
 
+/// The error of a comparison that `signal` ended.
+Error stoppedUncompared(int signal, const std::string &driveName);
+
 /// Reads the disc back and compares it with what was sent. The error names the first block that differs or
 /// cannot be read; a stop signal ends it.
 Result<void> verify(

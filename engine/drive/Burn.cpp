@@ -109,6 +109,15 @@ Result<std::unique_ptr<Lease>> openForWriting(Drive &drive, Medium &medium, cons
     return lease;
 }
 
+/// A stop that came too late to spare the disc is told all the same.
+Result<void> toldIfStopped(const std::string &driveName, const Control &control)
+{
+    const int signal = control.stopped();
+    return signal == 0
+        ? Result<void>()
+        : stoppedBy(signal, "Stopped after the disc in " + driveName + " was written and closed.");
+}
+
 using Content = std::unique_ptr<DiscData>;
 
 Result<void> writeAndVerify(
@@ -118,7 +127,9 @@ Result<void> writeAndVerify(
     if (auto written = lease.writeData(data, sent, options.control); !written)
         return written;
     if (!options.verify)
-        return {};
+        return toldIfStopped(driveName, options.control);
+    if (const int signal = options.control.stopped())
+        return stoppedUncompared(signal, driveName);
     if (auto loaded = lease.reload(); !loaded)
         return loaded;
     return verify(lease, sent, driveName, options.control);
@@ -180,8 +191,10 @@ Result<void> burnAudioFolder(Drive &drive, const std::string &folder, const Burn
         say(options, line);
     if (auto fits = checkAudioMedium(medium, *disc, drive.name()); !fits)
         return fits;
-    return eraseAndWrite(
-        **lease, medium, drive.name(), options, [&] { return (*lease)->writeAudio(*disc, options.control); });
+    return eraseAndWrite(**lease, medium, drive.name(), options, [&] {
+        auto written = (*lease)->writeAudio(*disc, options.control);
+        return written ? toldIfStopped(drive.name(), options.control) : written;
+    });
 }
 
 Result<void> eraseMedium(Drive &drive, EraseMode mode, const Control &control)

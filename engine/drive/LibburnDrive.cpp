@@ -277,7 +277,10 @@ LibburnDrive::Outcome LibburnDrive::wait(Stop stop, const Task &task, const Cont
         if (outcome.signal == 0)
             outcome.signal = control.stopped();
         outcome.sourceFailed = outcome.sourceFailed || (task.sourceFailed && task.sourceFailed());
-        if (stop == Stop::cancels && !cancelled && (outcome.signal != 0 || outcome.sourceFailed)) {
+        // Everything is with the drive while it closes the disc: libburn does not break that off, and calls a
+        // write that was cancelled then a failure all the same.
+        const bool breakable = stop == Stop::cancels && phase != report::Phase::closing;
+        if (breakable && !cancelled && (outcome.signal != 0 || outcome.sourceFailed)) {
             burn_drive_cancel(handle());
             cancelled = true;
         }

@@ -66,7 +66,7 @@ public:
     /// How far a write has come when it ends.
     struct Outcome {
         bool well = false;
-        int signal = 0; ///< the stop signal that ended it
+        int signal = 0; ///< the stop signal that came; it has ended the write unless that is well
         bool sourceFailed = false;
         bool gone = false; ///< the drive has left the machine; set by whoever knows its device
         std::uint64_t sectors = 0; ///< how far the drive was seen
@@ -74,7 +74,7 @@ public:
     };
 
     /// Writes one session of `tracks` and closes the disc. Progress is told as `phase`. `sourceFailed` is
-    /// asked during the write and ends it; may be empty.
+    /// asked during the write and ends it; may be empty. A stop signal ends it until the disc is being closed.
     Outcome write(const std::vector<Track> &tracks, WriteMode mode, report::Phase phase,
         report::Family family, const std::function<bool()> &sourceFailed, const Control &control);
 
@@ -90,7 +90,7 @@ public:
 
 private:
     LibburnDrive(burn::burn_drive_info *infos, std::string name);
-    /// What a stop signal does: ends the operation, or is only noted.
+    /// What a stop signal does: ends the operation up to the closing of the disc, or is only noted.
     enum class Stop { cancels, waits };
 
     /// What is waited for.

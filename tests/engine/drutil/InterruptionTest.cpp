@@ -192,6 +192,24 @@ private Q_SLOTS:
         QVERIFY(kept.first().endsWith(u"-dvd-r-spoilt.iso"_s));
     }
 
+    // The disc is complete by then, whatever the file system still does.
+    void aStopWhileTheDiscIsClosed()
+    {
+        QVERIFY(QFile::resize(source() + u"/large"_s, 600LL * 1000 * 1000));
+        QVERIFY(m_drutil->insert(u"dvd-r"_s));
+        auto burn = startBurn();
+        QByteArray out;
+        while (!out.contains("Closing the disc") && !out.contains("Verifying")) {
+            QVERIFY(burn->waitForReadyRead(60000));
+            out += burn->readAllStandardOutput();
+        }
+        end(*burn, SIGTERM);
+        QCOMPARE(burn->exitCode(), 143);
+        const QString said = QString::fromUtf8(burn->readAllStandardError());
+        QVERIFY2(said.contains(u"is written, but was not compared."_s), qPrintable(said));
+        QVERIFY(m_drutil->state().contains("state=written"));
+    }
+
     void aStoppedWriteToARewritableDisc()
     {
         QVERIFY(m_drutil->insert(u"dvd-rw"_s));

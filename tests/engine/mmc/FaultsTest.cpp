@@ -167,6 +167,49 @@ private Q_SLOTS:
         QVERIFY(!session.drive.trayLocked);
     }
 
+    void aStopWhileTheDiscIsClosedIsOnlyNoted_data()
+    {
+        QTest::addColumn<int>("profile");
+        QTest::addColumn<bool>("verify");
+        QTest::addColumn<QString>("said");
+        const QString uncompared = u"Stopped: the disc in drive 1 is written, but was not compared."_s;
+        const QString closed = u"Stopped after the disc in drive 1 was written and closed."_s;
+        QTest::newRow("CD-R, compared") << int(cdR) << true << uncompared;
+        QTest::newRow("DVD+R, compared") << int(dvdPlusR) << true << uncompared;
+        QTest::newRow("DVD+R") << int(dvdPlusR) << false << closed;
+        QTest::newRow("BD-R") << int(bdR) << false << closed;
+    }
+
+    void aStopWhileTheDiscIsClosedIsOnlyNoted()
+    {
+        QFETCH(int, profile);
+        QFETCH(bool, verify);
+        Session session({ profile });
+        session.options.verify = verify;
+        std::binary_semaphore asked(0);
+        std::atomic<bool> closing = false; // set by the thread that tells of progress
+        session.options.control.progress = [&](const engine::report::Progress &progress, unsigned) {
+            closing = closing || progress.phase == engine::report::Phase::closing;
+        };
+        session.stopAt = [&, first = true]() mutable {
+            if (closing && std::exchange(first, false))
+                asked.release();
+            return closing.load();
+        };
+        // The drive empties its buffer until the stop has come.
+        session.drive.refuse = [&, held = false](const Command &command) mutable -> std::optional<Sense> {
+            if (command.opcode() == synchronizeCache && !std::exchange(held, true))
+                (void)asked.try_acquire_for(std::chrono::seconds(30));
+            return {};
+        };
+        const auto done = session.burn(700);
+        QTEST(sentence(done), "said");
+        QCOMPARE(int(done.error().exit), 143);
+        QCOMPARE(session.drive.disc.state, State::complete);
+        QVERIFY(session.drive.content(0).contains(session.bigFile()));
+        QVERIFY(!session.drive.trayLocked);
+    }
+
     void aStopEndsTheWaitForADiscThatDoesNotGetReady()
     {
         Session session({ dvdPlusR });

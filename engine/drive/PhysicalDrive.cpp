@@ -183,12 +183,12 @@ Result<void> PhysicalLease::formatIfNeeded(const Control &control)
     constexpr int noCertification = 1 << 6;
     burn_disc_format(m_drive->handle(), 0, defaultSize | noCertification);
     const LibburnDrive::Outcome outcome = m_drive->waitForErase(control);
-    if (outcome.signal != 0)
-        return stoppedBy(outcome.signal, "Stopped after the disc in " + m_name + " was formatted.");
     if (!outcome.well)
         return Error{ Exit::failed,
-            "The disc in " + m_name + " cannot be formatted (" + outcome.message.text
-                + "): try another disc." };
+            "The disc in " + m_name + " cannot be formatted" + inBrackets(outcome.message)
+                + ": try another disc." };
+    if (outcome.signal != 0)
+        return stoppedBy(outcome.signal, "Stopped after the disc in " + m_name + " was formatted.");
     return reload();
 }
 
@@ -200,8 +200,8 @@ Result<void> PhysicalLease::blank(bool fast, const Control &control)
     const LibburnDrive::Outcome outcome = m_drive->waitForErase(control);
     if (!outcome.well)
         return Error{ Exit::failed,
-            "The disc in " + m_name + " cannot be erased (" + outcome.message.text
-                + "): try a full erase, or another disc." };
+            "The disc in " + m_name + " cannot be erased" + inBrackets(outcome.message)
+                + ": try a full erase, or another disc." };
     return reload();
 }
 

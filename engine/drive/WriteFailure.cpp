@@ -43,6 +43,12 @@ Left leftOf(const report::Medium &before, bool touched)
     return report::canErase(before) ? Left::erasable : Left::spoilt;
 }
 
+std::string inBrackets(const LibburnMessage &message)
+{
+    const std::string text = withoutFullStop(message.text);
+    return text.empty() ? text : " (" + text + ")";
+}
+
 Error writeFailure(
     const LibburnDrive::Outcome &outcome, const Result<void> &source, const std::string &driveName, Left left)
 {
@@ -61,10 +67,8 @@ Error writeFailure(
         return { Exit::failed,
             "The file system that holds " + driveName + " takes no more: " + reasonAndAdvice(failure) + "."
                 + state };
-    if (outcome.message.text.empty())
-        return { Exit::failed, "The write to " + driveName + " failed." + state };
     return { Exit::failed,
-        "The write to " + driveName + " failed (" + withoutFullStop(outcome.message.text) + ")." + state };
+        "The write to " + driveName + " failed" + inBrackets(outcome.message) + "." + state };
 }
 
 } // namespace engine::drive

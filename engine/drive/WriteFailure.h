@@ -18,6 +18,9 @@ enum class Left {
 /// What is left of a medium when a write to it broke off. `touched` tells whether anything reached it.
 Left leftOf(const report::Medium &before, bool touched);
 
+/// What libburn said, as it stands behind a sentence: " (Medium error)"; nothing when it said nothing.
+std::string inBrackets(const LibburnMessage &message);
+
 /// The error for `outcome`, which is not well. `source` is how the source of the data went.
 Error writeFailure(const LibburnDrive::Outcome &outcome, const Result<void> &source,
     const std::string &driveName, Left left);

@@ -66,6 +66,13 @@ private Q_SLOTS:
                                  << u"The write to drive 1 failed. The disc in drive 1 is still blank."_s;
     }
 
+    void whatLibburnSaidStandsInBrackets()
+    {
+        QCOMPARE(inBrackets({ 1, 0, "Medium error. " }), std::string(" (Medium error)"));
+        for (const char *nothing : { "", ". ", "\n" })
+            QCOMPARE(inBrackets({ 1, 0, nothing }), std::string());
+    }
+
     void sentences()
     {
         QFETCH(LibburnDrive::Outcome, how);

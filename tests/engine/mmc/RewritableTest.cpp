@@ -247,6 +247,40 @@ private Q_SLOTS:
         QVERIFY(!session.drive.trayLocked);
     }
 
+    void aFormatThatFailsIsNotToldAsDoneAfterAStop_data()
+    {
+        QTest::addColumn<bool>("refused");
+        QTest::addColumn<QString>("start");
+        QTest::newRow("refused") << true << u"The disc in drive 1 cannot be formatted ("_s;
+        QTest::newRow("well") << false << u"Stopped after the disc in drive 1 was formatted."_s;
+    }
+
+    void aFormatThatFailsIsNotToldAsDoneAfterAStop()
+    {
+        QFETCH(bool, refused);
+        QFETCH(QString, start);
+        Session session(unformatted(bdRe));
+        std::binary_semaphore asked(0);
+        std::atomic<bool> begun = false; // set by the thread that formats
+        session.stopAt = [&, first = true]() mutable {
+            if (begun && std::exchange(first, false))
+                asked.release();
+            return begun.load();
+        };
+        session.drive.refuse = [&](const Command &command) -> std::optional<Sense> {
+            if (command.opcode() != formatUnit)
+                return {};
+            begun = true;
+            (void)asked.try_acquire_for(std::chrono::seconds(30));
+            return refused ? std::optional(Sense{ 3, 0x31, 0x01 }) : std::nullopt;
+        };
+        const auto done = session.burn();
+        QVERIFY2(sentence(done).startsWith(start), qPrintable(sentence(done)));
+        QCOMPARE(int(done.error().exit), refused ? 1 : 143);
+        QVERIFY(session.drive.commandsOf(write10).isEmpty());
+        QVERIFY(!session.drive.trayLocked);
+    }
+
     void whatIsWrittenOnceIsNotErased()
     {
         for (const int profile : { cdR, dvdR, dvdPlusR, bdR }) {

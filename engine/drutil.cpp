@@ -7,6 +7,7 @@
 #include "report/StatusText.h"
 
 #include <array>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,6 +16,7 @@ namespace {
 
 using namespace engine;
 using drive::Drive;
+using drive::StopSignals;
 using program::Arguments;
 using program::Option;
 using program::printReport;
@@ -66,15 +68,40 @@ Result<void> list(const Arguments &)
     return printReport(report::driveListText(records));
 }
 
-Result<void> status(const Arguments &arguments)
+/// The medium in the chosen drive. A stop signal ends it with the drive given back: one that is left in mid-question
+/// keeps its tray locked.
+Result<report::Medium> mediumInDrive(const Arguments &arguments)
 {
+    const StopSignals signals;
     const auto drive = chosenDrive(arguments);
     if (!drive)
         return drive.error();
+    (*drive)->setStopSignal([&signals] { return signals.caught(); });
     const auto lease = (*drive)->acquire(drive::Purpose::look);
-    if (!lease)
-        return lease.error();
-    const Result<report::Medium> medium = (*lease)->medium();
+    const Result<report::Medium> medium = lease ? (*lease)->medium() : lease.error();
+    if (const int signal = signals.caught())
+        return drive::stoppedBy(signal, "Stopped before " + (*drive)->name() + " had told about its disc.");
+    return medium;
+}
+
+/// Does `change` to the chosen drive without leaving it half done: a stop signal only ends the waits before.
+Result<void> changeDrive(const Arguments &arguments, const std::function<Result<void>(Drive &)> &change)
+{
+    const StopSignals signals;
+    const auto drive = chosenDrive(arguments);
+    if (!drive)
+        return drive.error();
+    (*drive)->setStopSignal([&signals] { return signals.caught(); });
+    const Result<void> done = change(**drive);
+    const int signal = signals.caught();
+    if (!done || signal == 0)
+        return done;
+    return drive::stoppedBy(signal, "Stopped after " + (*drive)->name() + " had done what it was told.");
+}
+
+Result<void> status(const Arguments &arguments)
+{
+    const Result<report::Medium> medium = mediumInDrive(arguments);
     if (!medium)
         return medium.error();
     return printReport(report::statusText(*medium));
@@ -82,10 +109,10 @@ Result<void> status(const Arguments &arguments)
 
 Result<void> burnDisc(const Arguments &arguments)
 {
+    Session session;
     const auto drive = chosenDrive(arguments);
     if (!drive)
         return drive.error();
-    Session session;
     const bool audio = arguments.has("-audio");
     const bool verify = !audio && !arguments.has("-noverify");
     const auto operation = audio ? drive::burnAudioFolder : drive::burnFolder;
@@ -101,10 +128,10 @@ Result<void> erase(const Arguments &arguments)
     const std::string &mode = arguments.operands.front();
     if (mode != "full" && mode != "quick")
         return usageError("An erase is either 'full' or 'quick'.");
+    Session session;
     const auto drive = chosenDrive(arguments);
     if (!drive)
         return drive.error();
-    Session session;
     auto done = drive::eraseMedium(
         **drive, mode == "full" ? drive::EraseMode::full : drive::EraseMode::quick, session.control());
     if (done)
@@ -117,10 +144,8 @@ Result<void> tray(const Arguments &arguments)
     const std::string &motion = arguments.operands.front();
     if (motion != "eject" && motion != "close")
         return usageError("A tray is told to 'eject' or to 'close'.");
-    const auto drive = chosenDrive(arguments);
-    if (!drive)
-        return drive.error();
-    return motion == "eject" ? (*drive)->eject() : (*drive)->close();
+    return changeDrive(
+        arguments, [&](Drive &drive) { return motion == "eject" ? drive.eject() : drive.close(); });
 }
 
 Result<void> folder(const Arguments &arguments)
@@ -140,10 +165,8 @@ Result<void> insert(const Arguments &arguments)
     const auto kind = report::kindOfInsertName(name);
     if (!kind && name != "none")
         return usageError("The kind of a blank is one of " + report::insertNames() + ", none.");
-    const auto drive = chosenDrive(arguments);
-    if (!drive)
-        return drive.error();
-    return (*drive)->insert(kind.value_or(report::MediumKind::none));
+    return changeDrive(
+        arguments, [&](Drive &drive) { return drive.insert(kind.value_or(report::MediumKind::none)); });
 }
 
 bool isDriveNumber(std::string_view value)

@@ -94,10 +94,10 @@ Result<void> burnImage(const Arguments &arguments)
     const std::string &path = arguments.operands.front();
     if (auto plain = image::checkDiskImage(path); !plain)
         return plain;
-    const auto burner = drive::defaultBurner();
+    Session session;
+    const auto burner = drive::defaultBurner(session.control());
     if (!burner)
         return burner.error();
-    Session session;
     auto done = drive::burnImageFile(**burner, path, session.burnOptions(true));
     if (done)
         session.say("Done: the disc in " + (*burner)->name() + " is written and was compared.");

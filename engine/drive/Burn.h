@@ -33,7 +33,7 @@ Result<void> burnImageFile(Drive &drive, const std::string &image, const BurnOpt
 Result<void> eraseMedium(Drive &drive, EraseMode mode, const Control &control);
 
 /// Catches SIGINT and SIGTERM as long as it lives, and ignores SIGHUP, SIGPIPE and SIGXFSZ from then on: a signal
-/// is noted, no system call is broken off, and the operation ends in its own way. One at a time.
+/// is noted, no system call that moves data is broken off, and the operation ends in its own way. One at a time.
 class StopSignals {
 public:
     StopSignals();

@@ -100,14 +100,17 @@ Result<std::unique_ptr<Drive>> driveNumbered(std::string_view number)
     return std::move((*drives)[index]);
 }
 
-Result<std::unique_ptr<Drive>> defaultBurner()
+Result<std::unique_ptr<Drive>> defaultBurner(const Control &control)
 {
     Result<DriveList> drives = allDrives();
     if (!drives)
         return drives.error();
     std::string silent;
     for (std::unique_ptr<Drive> &drive : *drives) {
+        drive->setStopSignal(control.stopSignal);
         const Result<report::Medium> medium = mediumIn(*drive);
+        if (const int signal = control.stopped())
+            return stoppedUntouched(signal);
         if (medium && (report::canWriteNow(*medium) || report::canErase(*medium)))
             return std::move(drive);
         // A drive that is busy or damaged is no reason not to take the next one.

@@ -273,12 +273,21 @@ Result<std::unique_ptr<Lease>> PhysicalDrive::acquire(Purpose purpose)
         std::make_unique<PhysicalLease>(std::move(drive).value(), device, waitControl()));
 }
 
+Result<void> PhysicalDrive::checkMayMove() const
+{
+    const int signal = waitControl().stopped();
+    return signal == 0 ? Result<void>()
+                       : stoppedBy(signal, "Stopped before the tray of " + name() + " was moved.");
+}
+
 Result<void> PhysicalDrive::eject()
 {
     if (auto gone = unmount(m_record.device, name()); !gone)
         return gone;
     if (auto free = checkFree(m_record.device, name()); !free)
         return free;
+    if (auto goesOn = checkMayMove(); !goesOn)
+        return goesOn;
     auto drive = LibburnDrive::grab(m_record.device, name(), true, false);
     if (!drive)
         return drive.error();
@@ -294,6 +303,8 @@ Result<void> PhysicalDrive::close()
 {
     if (auto free = checkFree(m_record.device, name()); !free)
         return mountPoints(m_record.device).empty() ? free : Result<void>();
+    if (auto goesOn = checkMayMove(); !goesOn)
+        return goesOn;
     auto drive = LibburnDrive::grab(m_record.device, name(), true, true);
     if (!drive)
         return drive.error();

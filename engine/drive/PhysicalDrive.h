@@ -21,6 +21,9 @@ public:
     Result<std::string> folder() const override;
 
 private:
+    /// An error when a stop signal has come.
+    Result<void> checkMayMove() const;
+
     PhysicalRecord m_record;
 };
 

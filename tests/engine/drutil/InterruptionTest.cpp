@@ -126,12 +126,12 @@ class InterruptionTest : public QObject {
         return used.section(u' ', 0, 0).toLongLong();
     }
 
-    /// Runs a program that has to wait for the recorder, and stops it in the wait.
-    Ran stoppedInTheWait(const QString &program, const QStringList &arguments)
+    /// Runs a program that has to wait for the recorder, because it is held in the way of flock(2), and stops it
+    /// in the wait.
+    Ran stoppedInTheWait(const QString &program, const QStringList &arguments, int hold)
     {
-        // Others may look at the recorder, and nobody may change it.
         const int held = ::open(QFile::encodeName(m_drutil->recorder()).constData(), O_RDONLY | O_CLOEXEC);
-        ::flock(held, LOCK_SH);
+        ::flock(held, hold);
         QProcess process;
         process.setProcessEnvironment(m_drutil->environment());
         process.start(program, arguments);
@@ -256,11 +256,39 @@ private Q_SLOTS:
         const QByteArray disc = readFile(this->disc());
         if (QFile::exists(m_drutil->path(words.last())))
             words.last() = m_drutil->path(words.last());
-        const Ran ran = stoppedInTheWait(Drutil::program().replace(u"drutil"_s, program), words);
+        const Ran ran = stoppedInTheWait(Drutil::program().replace(u"drutil"_s, program), words, LOCK_SH);
         QCOMPARE(ran.err, program + u": Stopped before anything was written: the disc is as it was.\n"_s);
         QCOMPARE(ran.exit, 143);
         QCOMPARE(m_drutil->state(), before);
         QCOMPARE(readFile(this->disc()), disc);
+    }
+
+    void aStopIsHeededByEveryVerbThatOpensADrive_data()
+    {
+        QTest::addColumn<QString>("program");
+        QTest::addColumn<QStringList>("words");
+        QTest::newRow("status") << u"drutil"_s << QStringList{ u"status"_s };
+        QTest::newRow("eject") << u"drutil"_s << QStringList{ u"tray"_s, u"eject"_s };
+        QTest::newRow("close") << u"drutil"_s << QStringList{ u"tray"_s, u"close"_s };
+        QTest::newRow("insert") << u"drutil"_s << QStringList{ u"insert"_s, u"bd-r"_s };
+        QTest::newRow("choice of a drive") << u"hdiutil"_s << QStringList{ u"burn"_s, u"image"_s };
+    }
+
+    void aStopIsHeededByEveryVerbThatOpensADrive()
+    {
+        QFETCH(QString, program);
+        QFETCH(QStringList, words);
+        QVERIFY(QFile::resize(m_drutil->path(u"source/large"_s), 100 * 1000));
+        m_drutil->environment().insert(u"CORVALIS_VIRTUAL"_s, u"only"_s);
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        if (program == u"hdiutil"_s)
+            words.last() = source() + u"/large"_s;
+        const Ran ran = stoppedInTheWait(Drutil::program().replace(u"drutil"_s, program), words, LOCK_EX);
+        QCOMPARE(ran.exit, 143);
+        QVERIFY2(
+            ran.err.startsWith(program + u": Stopped "_s) && ran.err.count(u'\n') == 1, qPrintable(ran.err));
+        QCOMPARE(ran.out, QString());
+        QCOMPARE((*m_drutil)({ u"status"_s }).exit, 0);
     }
 
     void aKilledWrite_data()

@@ -322,6 +322,17 @@ private Q_SLOTS:
         QVERIFY(!session.drive.trayLocked);
     }
 
+    void aStopBeforeTheTrayMovesLeavesIt()
+    {
+        Session session({ cdR });
+        session.physical.setStopSignal([] { return SIGTERM; });
+        for (const auto &done : { session.physical.eject(), session.physical.close() }) {
+            QCOMPARE(sentence(done), u"Stopped before the tray of drive 1 was moved."_s);
+            QCOMPARE(int(done.error().exit), 143);
+        }
+        QVERIFY(session.drive.commandsOf(startStop).isEmpty());
+    }
+
     void theTrayOfAMountedDiscStaysLocked()
     {
         using engine::drive::LibburnDrive;

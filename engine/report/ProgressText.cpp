@@ -10,6 +10,8 @@ namespace engine::report {
 
 namespace {
 
+constexpr unsigned cdSectorBytes = 2352;
+
 const char *phaseWord(Phase phase)
 {
     switch (phase) {
@@ -58,7 +60,9 @@ std::optional<std::string> ProgressPacer::next(Progress progress, unsigned block
         return std::nullopt;
     if (!changed && blockBytes > 0 && progress.done > m_done) {
         const double seconds = std::chrono::duration<double>(now - m_printed).count();
-        progress.speed = static_cast<double>(progress.done - m_done) * blockBytes / 1000.0 / seconds;
+        // 1x of a CD is 75 sectors a second (IEC 60908), however many of their bytes are ours.
+        const unsigned unitBytes = progress.family == Family::cd ? cdSectorBytes : blockBytes;
+        progress.speed = static_cast<double>(progress.done - m_done) * unitBytes / 1000.0 / seconds;
     }
     m_phase = progress.phase;
     m_printed = now;

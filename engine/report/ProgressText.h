@@ -17,7 +17,7 @@ struct Progress {
     Phase phase = Phase::preparing;
     uint64_t done = 0; ///< in units of `total`
     uint64_t total = 0; ///< 0: not known
-    double speed = 0.0; ///< 1000 bytes a second, 0 not known
+    double speed = 0.0; ///< 1000 bytes a second, of a CD those of whole sectors (2352 bytes); 0 not known
     Family family = Family::none; ///< what the speed factor refers to
     std::optional<int> bufferPercent; ///< fill of the drive's buffer, 0..100
 };

@@ -157,6 +157,34 @@ private Q_SLOTS:
         QCOMPARE(QString::fromStdString(progressText(p)), u"Erasing: 100.0 %"_s);
     }
 
+    void theSpeedIsThatOfTheDrive_data()
+    {
+        QTest::addColumn<int>("family");
+        QTest::addColumn<quint32>("unitBytes");
+        QTest::addColumn<quint64>("units"); // in a second
+        QTest::addColumn<QString>("factor");
+        QTest::newRow("data CD") << int(Family::cd) << 2048U << quint64(16 * 75) << u"16x"_s;
+        QTest::newRow("full data CD") << int(Family::cd) << 2048U << quint64(52 * 75) << u"52x"_s;
+        QTest::newRow("audio CD") << int(Family::cd) << 2352U << quint64(16 * 75) << u"16x"_s;
+        QTest::newRow("DVD") << int(Family::dvd) << 2048U << quint64(8 * 1385000 / 2048) << u"8x"_s;
+        QTest::newRow("BD") << int(Family::bluray) << 2048U << quint64(4 * 4496000 / 2048) << u"4x"_s;
+    }
+
+    void theSpeedIsThatOfTheDrive()
+    {
+        QFETCH(int, family);
+        QFETCH(quint32, unitBytes);
+        QFETCH(quint64, units);
+        QFETCH(QString, factor);
+        ProgressPacer pacer;
+        Progress progress{ Phase::writing, 0, 10 * units, 0, Family(family), std::nullopt };
+        const ProgressPacer::Clock::time_point start{};
+        QVERIFY(pacer.next(progress, unitBytes, start));
+        progress.done = units;
+        QCOMPARE(QString::fromStdString(pacer.next(progress, unitBytes, start + 1s).value_or("")),
+            u"Writing: 10.0 %, "_s + factor);
+    }
+
     void progressComesTwiceASecond()
     {
         ProgressPacer pacer;
@@ -169,8 +197,9 @@ private Q_SLOTS:
         QCOMPARE(at(0ms, Phase::writing, 0), u"Writing: 0.0 %"_s);
         QCOMPARE(at(1ms, Phase::writing, 100), QString());
         QCOMPARE(at(499ms, Phase::writing, 900), QString());
-        // 1000 blocks in half a second are 4096 kB/s.
-        QCOMPARE(at(500ms, Phase::writing, 1000), u"Writing: 10.0 %, 23x"_s);
+        // 2000 sectors a second of 75.
+        QCOMPARE(at(500ms, Phase::writing, 1000), u"Writing: 10.0 %, 27x"_s);
+        // A change of phase is told at once.
         QCOMPARE(at(501ms, Phase::closing, 0), u"Closing the disc: 0.0 %"_s);
         QCOMPARE(at(502ms, Phase::closing, 0), QString());
         QCOMPARE(at(1001ms, Phase::closing, 0), u"Closing the disc: 0.0 %"_s);

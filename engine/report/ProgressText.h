@@ -25,7 +25,8 @@ struct Progress {
 /// One line without its break: "Writing: 42.3 %, 16x, buffer 98 %". Parts that are not known are left out.
 std::string progressText(const Progress &progress);
 
-/// Lets lines through at most twice a second, and each change of phase at once. Keeps the speed by
+/// Lets lines through at most twice a second, and each change of phase at once: the phase that comes may be silent
+/// for minutes. Keeps the speed by
 /// comparing with the line before.
 class ProgressPacer {
 public:

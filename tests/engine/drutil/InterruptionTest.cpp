@@ -115,6 +115,7 @@ class InterruptionTest : public QObject {
 
     static void end(QProcess &process, int signal)
     {
+        QVERIFY(process.processId() > 0); // none is the whole group of this test
         ::kill(pid_t(process.processId()), signal);
         QVERIFY(process.waitForFinished(120000));
     }

@@ -145,7 +145,7 @@ void AppDelegate::dataReady(const QByteArray &data)
 
 void AppDelegate::dataAvailable(const QByteArray &data)
 {
-    qCInfo(tools).noquote() << u"Data Available : %1"_s.arg(QString::fromUtf8(data.left(mostLogged)));
+    qCInfo(tools).noquote() << u"Data Available : %1 bytes"_s.arg(data.size());
 }
 
 void AppDelegate::taskTerminated()

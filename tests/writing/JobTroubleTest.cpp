@@ -64,8 +64,8 @@ private Q_SLOTS:
         JobApplication app;
         app.burnWith("echo Writing\n" + app.waitFor("more") + "echo Done\n");
         ready(app);
-        QTest::ignoreMessage(QtInfoMsg, "Data Available : Writing\n");
-        QTest::ignoreMessage(QtInfoMsg, "Data Available : Done\n");
+        QTest::ignoreMessage(QtInfoMsg, "Data Available : 8 bytes");
+        QTest::ignoreMessage(QtInfoMsg, "Data Available : 5 bytes");
         QTest::ignoreMessage(QtInfoMsg, "Data Ready : Writing\nDone\n");
         app.press("btnBurn");
         QTRY_VERIFY(app.controller->windowPerformingOperation);

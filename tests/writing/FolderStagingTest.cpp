@@ -1,5 +1,6 @@
 #include "writing/FolderStaging.h"
 
+#include "support/OwnMounts.h"
 #include "support/ScratchFolder.h"
 
 #include <QTest>
@@ -537,6 +538,8 @@ void FolderStagingTest::leavesNoHalfFileWhenOneGetsTooLarge()
 /// A file system of 1 MiB of its own, seen by this process alone.
 void FolderStagingTest::endsWhenTheDiskIsFull()
 {
+    if (support::ownMounts().isEmpty())
+        QSKIP(support::noOwnMounts);
     const ScratchFolder scratch;
     makeFolder(scratch / "source");
     makeFolder(scratch / "disc");
@@ -562,7 +565,6 @@ void FolderStagingTest::endsWhenTheDiskIsFull()
     }
     int status = 0;
     check(::waitpid(child, &status, 0), "waitpid");
-    QVERIFY2(WEXITSTATUS(status) != 2, "mounting needs root or user namespaces");
     QCOMPARE(WEXITSTATUS(status), 0);
 }
 

@@ -1,6 +1,7 @@
 // hdiutil makehybrid as a person or a program runs it.
 #include "../drutil/Drutil.h"
 #include "../image/Trees.h"
+#include "support/OwnMounts.h"
 
 #include <csignal>
 
@@ -271,14 +272,17 @@ private Q_SLOTS:
     {
         QFETCH(QString, limit);
         QFETCH(int, exit);
+        if (support::ownMounts().isEmpty())
+            QSKIP(support::noOwnMounts);
         Scratch scratch;
         QVERIFY(makeFile(scratch.path("t/file"), std::string(5000000, 'x')));
         // Where its descriptors cannot be seen as files, a file cannot get its name later.
         const QString script = u"mount -t tmpfs none /proc/$$/fd && ulimit -f $4 && "
                                "exec \"$1\" makehybrid -o \"$2\" \"$3\" -iso -joliet"_s;
-        const Ran ran = runProgram(u"unshare"_s,
-            { u"--map-root-user"_s, u"--mount"_s, u"sh"_s, u"-c"_s, script, u"sh"_s, program(),
-                text(scratch.path("i.iso")), text(scratch.path("t")), limit });
+        const QStringList command = support::ownMounts()
+            + QStringList{ u"sh"_s, u"-c"_s, script, u"sh"_s, program(), text(scratch.path("i.iso")),
+                  text(scratch.path("t")), limit };
+        const Ran ran = runProgram(command.first(), command.mid(1));
         QVERIFY2(ran.exit == exit, qPrintable(ran.err));
         QCOMPARE(access(scratch.path("i.iso").c_str(), F_OK) == 0, exit == 0);
         if (exit == 0)

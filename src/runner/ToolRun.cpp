@@ -17,8 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace runner {
 
-namespace {
-
 /// What a child prints on both channels, in the order of writing.
 class OutputPipe {
 public:
@@ -60,8 +58,6 @@ public:
 private:
     std::array<int, 2> m_ends;
 };
-
-} // namespace
 
 QString ToolEnd::text() const
 {
@@ -111,9 +107,44 @@ void ToolRun::launch()
     start(ReadOnly);
 }
 
-QByteArray ToolRun::capture(int limit)
+/// Adds what comes within `patience` milliseconds to `printed`, and nothing more once that is very long.
+ToolRun::Piece ToolRun::collect(const OutputPipe &pipe, int patience, QByteArray &printed)
 {
     constexpr qsizetype most = 64 * 1024 * 1024;
+    const auto piece = pipe.read(patience);
+    if (!piece)
+        return Piece::End;
+    if (piece->isEmpty())
+        return Piece::None;
+    m_log->append(m_position, *piece);
+    printed.append(piece->constData(), qMin(piece->size(), most - printed.size()));
+    return Piece::Some;
+}
+
+bool ToolRun::collectToEnd(const OutputPipe &pipe, int limit, QByteArray &printed)
+{
+    const QDeadlineTimer deadline(limit);
+    while (!deadline.hasExpired()) {
+        const int patience = static_cast<int>(qMin<qint64>(deadline.remainingTime(), 100));
+        const Piece piece = collect(pipe, patience, printed);
+        // A child of the child may keep the pipe open.
+        if (piece == Piece::End || (piece == Piece::None && (waitForFinished(0) || state() == NotRunning)))
+            return true;
+    }
+    return false;
+}
+
+void ToolRun::endChild()
+{
+    terminate();
+    if (!waitForFinished(500)) {
+        kill();
+        waitForFinished(1000);
+    }
+}
+
+QByteArray ToolRun::capture(int limit)
+{
     m_position = m_log->begin(program(), arguments(), m_subject);
     OutputPipe pipe;
     setProcessChannelMode(ForwardedChannels); // the pipe is our own: QProcess does not tell when it is closed
@@ -124,39 +155,20 @@ QByteArray ToolRun::capture(int limit)
     start(ReadOnly);
     pipe.closeChildsEnd();
     QByteArray printed;
-    const auto collect = [&](int patience) {
-        const auto piece = pipe.read(patience);
-        if (piece && !piece->isEmpty()) {
-            m_log->append(m_position, *piece);
-            printed.append(piece->constData(), qMin(piece->size(), most - printed.size()));
-        }
-        return piece;
-    };
-    const QDeadlineTimer deadline(limit);
-    bool closed = false;
-    while (!closed && !deadline.hasExpired()) {
-        const auto piece = collect(static_cast<int>(qMin<qint64>(deadline.remainingTime(), 100)));
-        // A child of the child may keep the pipe open.
-        closed = !piece || (piece->isEmpty() && (waitForFinished(0) || state() == NotRunning));
-    }
+    const bool closed = collectToEnd(pipe, limit, printed);
     // Most end at once after that, and how they do belongs into the log.
     constexpr int moment = 100;
-    if (state() != NotRunning && closed && !waitForFinished(moment) && state() != NotRunning) {
+    if (closed && state() != NotRunning && !waitForFinished(moment) && state() != NotRunning) {
         connect(this, &QProcess::finished, this, [this] { finish(endOfChild()); });
         return printed;
     }
-    ToolEnd end = endOfChild();
-    if (state() != NotRunning) {
-        end = { ToolEnd::How::EndedByUs, 0, {} };
-        terminate();
-        if (!waitForFinished(500)) {
-            kill();
-            waitForFinished(1000);
-        }
-        for (auto last = collect(0); last && !last->isEmpty();)
-            last = collect(0);
+    if (state() == NotRunning) {
+        finish(endOfChild());
+        return printed;
     }
-    finish(end);
+    endChild();
+    while (collect(pipe, 0, printed) == Piece::Some) { }
+    finish({ ToolEnd::How::EndedByUs, 0, {} });
     return printed;
 }
 

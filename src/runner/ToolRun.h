@@ -11,6 +11,8 @@ class ActivityLog;
 
 namespace runner {
 
+class OutputPipe;
+
 /// How a child process came to its end.
 struct ToolEnd {
     enum class How {
@@ -68,6 +70,11 @@ Q_SIGNALS:
     void ended(const runner::ToolEnd &end);
 
 private:
+    enum class Piece { Some, None, End };
+    Piece collect(const OutputPipe &pipe, int patience, QByteArray &printed);
+    /// Until the child has closed its output or ended; false when `limit` milliseconds have passed.
+    bool collectToEnd(const OutputPipe &pipe, int limit, QByteArray &printed);
+    void endChild(); ///< asks it to end, and ends it half a second later
     void finish(const ToolEnd &end);
     ToolEnd endOfChild() const;
 

@@ -316,7 +316,10 @@ LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, Writ
     // From the start of the write on the sources belong to libburn's thread, which may change their sizes.
     const Task task{ phase, family, unitBytes, sectorsOf(tracks, unitBytes), sourceFailed };
     burn_disc_write(options.get(), layout.disc());
-    return wait(Stop::cancels, task, control);
+    Outcome outcome = wait(Stop::cancels, task, control);
+    for (const Track &track : tracks)
+        awaitUser(track.source.get());
+    return outcome;
 }
 
 LibburnDrive::Outcome LibburnDrive::waitForErase(const Control &control)

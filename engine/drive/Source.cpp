@@ -3,11 +3,15 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <chrono>
+#include <csignal>
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <new>
 #include <sys/types.h>
+#include <thread>
+#include <unistd.h>
 // libburn.h needs off_t and the fixed-width integers to be known.
 #include <libburn/libburn.h>
 
@@ -23,6 +27,15 @@ struct SourceData {
     /// libburn says that its writing thread has ended without anything that orders memory between the
     /// threads, so each use is released here, and acquired before what was used goes away.
     std::atomic<std::uint64_t> uses = 0;
+    const pid_t maker = ::gettid();
+    std::atomic<pid_t> user = 0; ///< libburn's writing thread
+
+    void used()
+    {
+        if (const pid_t thread = ::gettid(); thread != maker)
+            user = thread;
+        uses.fetch_add(1, std::memory_order_release);
+    }
 };
 
 SourceData &dataOf(burn_source *source)
@@ -33,15 +46,16 @@ SourceData &dataOf(burn_source *source)
 int readData(burn_source *source, unsigned char *buffer, int size)
 {
     const std::span<std::byte> bytes(reinterpret_cast<std::byte *>(buffer), static_cast<std::size_t>(size));
+    dataOf(source).used(); // reading may last, and a drive be lost meanwhile
     const auto filled = static_cast<int>(dataOf(source).fill(bytes));
-    dataOf(source).uses.fetch_add(1, std::memory_order_release);
+    dataOf(source).used();
     return filled;
 }
 
 off_t sizeOf(burn_source *source)
 {
     const off_t size = dataOf(source).size;
-    dataOf(source).uses.fetch_add(1, std::memory_order_release);
+    dataOf(source).used();
     return size;
 }
 
@@ -119,6 +133,16 @@ private:
 void SourceRelease::operator()(burn_source *source) const
 {
     burn_source_free(source);
+}
+
+void awaitUser(burn_source *source)
+{
+    using namespace std::chrono_literals;
+    constexpr auto patience = 30s;
+    const auto end = std::chrono::steady_clock::now() + patience;
+    const pid_t user = dataOf(source).user;
+    while (user != 0 && ::tgkill(::getpid(), user, 0) == 0 && std::chrono::steady_clock::now() < end)
+        std::this_thread::sleep_for(1ms);
 }
 
 Source newSource(std::uint64_t bytes, Fill fill)

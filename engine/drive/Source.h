@@ -31,6 +31,10 @@ using Fill = std::function<std::ptrdiff_t(std::span<std::byte>)>;
 /// A source of `bytes` bytes that `fill` gives. `fill` lives as long as the source.
 Source newSource(std::uint64_t bytes, Fill fill);
 
+/// Waits until the other thread that has used `source`, one of newSource(), is gone; half a minute at most. libburn
+/// calls a drive that it has lost idle while its writing thread still reads on.
+void awaitUser(burn::burn_source *source);
+
 /// Reads from `source` until `buffer` is full or the source ends; -1 when it fails.
 std::ptrdiff_t readSource(burn::burn_source *source, std::span<std::byte> buffer);
 

@@ -4,7 +4,10 @@
 #include <cerrno>
 #include <chrono>
 #include <climits>
+#include <fcntl.h>
 #include <poll.h>
+#include <string>
+#include <thread>
 #include <unistd.h>
 #include <utility>
 
@@ -14,11 +17,11 @@ namespace {
 
 using namespace std::chrono_literals;
 
-bool hasRoom(int fd, std::chrono::milliseconds patience)
+bool hasRoom(int fd)
 {
     pollfd wanted{ fd, POLLOUT, 0 };
     // An error is no reason to wait: the write tells of it.
-    return ::poll(&wanted, 1, static_cast<int>(patience.count())) > 0;
+    return ::poll(&wanted, 1, 0) > 0;
 }
 
 } // namespace
@@ -27,6 +30,13 @@ Output::Output(int fd, std::function<bool()> stopped)
     : m_fd(fd)
     , m_stopped(std::move(stopped))
 {
+    // A terminal that has room at all may take less than a pipe would. Opened anew it waits for nobody, and others
+    // who have it open notice nothing.
+    if (::isatty(fd) == 1)
+        m_terminal = drive::Fd(::open(
+            ("/proc/self/fd/" + std::to_string(fd)).c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (m_terminal)
+        m_fd = m_terminal.get();
 }
 
 Output::~Output()
@@ -37,7 +47,7 @@ Output::~Output()
 void Output::flush()
 {
     // A pipe that has room at all takes PIPE_BUF bytes (pipe(7)).
-    while (m_out < m_waiting.size() && hasRoom(m_fd, 0ms)) {
+    while (m_out < m_waiting.size() && hasRoom(m_fd)) {
         const auto count = std::min<std::size_t>(m_waiting.size() - m_out, PIPE_BUF);
         const ssize_t n = ::write(m_fd, m_waiting.data() + m_out, count);
         if (n < 0 && (errno == EINTR || errno == EAGAIN))
@@ -54,7 +64,7 @@ void Output::flush()
 void Output::offer(const std::string &line)
 {
     flush();
-    if (m_waiting.empty() && hasRoom(m_fd, 0ms))
+    if (m_waiting.empty() && hasRoom(m_fd))
         tell(line);
 }
 
@@ -70,7 +80,7 @@ void Output::finish()
     constexpr auto patience = 2s;
     auto end = Clock::time_point::max();
     for (flush(); !m_waiting.empty() && Clock::now() < end; flush()) {
-        hasRoom(m_fd, 100ms);
+        std::this_thread::sleep_for(10ms);
         if (m_stopped())
             end = std::min(end, Clock::now() + patience);
     }

@@ -46,8 +46,10 @@ QByteArray AppDelegate::captureTool(
     auto *run = new ToolRun(program, arguments, activityLog, this);
     // No answer is longer; a flood would be taken for a million drives.
     const QByteArray printed = run->capture(around.probeLimit).left(ActivityLog::keptOutput);
-    if (end)
+    if (end) {
+        run->waitForFinished(around.probeLimit);
         *end = run->end();
+    }
     forgetAtEnd(run);
     return printed;
 }

@@ -45,7 +45,8 @@ public:
     std::optional<QByteArray> read(int patience) const
     {
         pollfd arrival{ m_ends[0], POLLIN, 0 };
-        if (m_ends[0] >= 0 && ::poll(&arrival, 1, patience) <= 0)
+        const int ready = m_ends[0] < 0 ? 1 : ::poll(&arrival, 1, patience);
+        if (ready <= 0)
             return QByteArray();
         QByteArray piece(64 * 1024, Qt::Uninitialized);
         const ssize_t count = ::read(m_ends[0], piece.data(), static_cast<std::size_t>(piece.size()));
@@ -91,7 +92,7 @@ ToolRun::~ToolRun()
         kill();
         waitForFinished(1000);
         if (m_log && m_position >= 0)
-            finish({ ToolEnd::How::EndedByUs, 0, {} });
+            finish({ m_answered ? ToolEnd::How::Ended : ToolEnd::How::EndedByUs, 0, {} });
     }
 }
 
@@ -159,16 +160,16 @@ QByteArray ToolRun::capture(int limit)
     // Most end at once after that, and how they do belongs into the log.
     constexpr int moment = 100;
     if (closed && state() != NotRunning && !waitForFinished(moment) && state() != NotRunning) {
+        m_answered = true;
         connect(this, &QProcess::finished, this, [this] { finish(endOfChild()); });
         return printed;
     }
-    if (state() == NotRunning) {
-        finish(endOfChild());
-        return printed;
-    }
-    endChild();
+    const bool ended = state() == NotRunning;
+    if (!ended)
+        endChild();
+    // What it printed just before its end.
     while (collect(pipe, 0, printed) == Piece::Some) { }
-    finish({ ToolEnd::How::EndedByUs, 0, {} });
+    finish(ended ? endOfChild() : ToolEnd{ ToolEnd::How::EndedByUs, 0, {} });
     return printed;
 }
 

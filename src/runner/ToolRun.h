@@ -54,7 +54,7 @@ public:
     /// Answers all that it prints, both channels in the order of writing. Blocks the calling thread until
     /// the child closes its output, at most `limit` milliseconds: then the child is ended, and what it printed
     /// so far is the answer. Of more than 64 MiB the rest is dropped. A child that closes its output and
-    /// goes on is left to itself: hasEnded() is false then, and ended() follows.
+    /// goes on is left to itself: hasEnded() is false then, and ended() follows, unless this is destroyed before.
     QByteArray capture(int limit);
 
     /// How the child ended; meaningful after ended() or capture().
@@ -84,6 +84,7 @@ private:
     QString m_subject;
     int m_expectedStatus = 0;
     bool m_finished = false;
+    bool m_answered = false; ///< it has closed its output and goes on
 };
 
 } // namespace runner

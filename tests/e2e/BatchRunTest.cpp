@@ -62,7 +62,6 @@ private Q_SLOTS:
         QCOMPARE(printed.errors, QByteArray());
         const QList<QByteArray> lines = printed.output.trimmed().split('\n');
         QCOMPARE(lines.last(), QByteArray("Operation complete"));
-        QVERIFY(lines.size() > 1);
         if (code == 1) {
             QVERIFY(contentOf(recorder.path(u"disc.bin"_s)).size() > 2 * 4 * 176400);
             return;

@@ -146,6 +146,25 @@ private Q_SLOTS:
         QCOMPARE(pipe.read(), QByteArray(pipeBytes, '#'));
     }
 
+    void aTerminalThatNobodyReadsHoldsUpNothing()
+    {
+        const int screen = ::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
+        QVERIFY(screen >= 0 && ::grantpt(screen) == 0 && ::unlockpt(screen) == 0);
+        const int terminal = ::open(::ptsname(screen), O_WRONLY | O_NOCTTY | O_CLOEXEC);
+        QVERIFY(terminal >= 0);
+        {
+            Output output(terminal, stop);
+            for (int i = 0; i < 5000; ++i)
+                output.tell("a note that is worth keeping\n");
+        }
+        QCOMPARE(::fcntl(terminal, F_GETFL) & O_NONBLOCK, 0); // others write to it as before
+        char shown[7] = {};
+        QCOMPARE(::read(screen, shown, 6), ssize_t(6));
+        QCOMPARE(shown, "a note");
+        ::close(terminal);
+        ::close(screen);
+    }
+
     void aReaderWhoHasGoneIsNoReasonToWait()
     {
         Pipe pipe;

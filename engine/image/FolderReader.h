@@ -69,7 +69,7 @@ private:
     bool fail(std::uint32_t content, int error);
     Slot &filling() { return m_slots[m_published % slotCount]; }
 
-    static constexpr std::size_t slotCount = 4;
+    static constexpr std::size_t slotCount = 3;
     static constexpr std::size_t slotSize = 128 * 1024;
     // Below this, copying through the slots beside the writing is faster than the kernel's way.
     static constexpr std::uint64_t largeSize = 1024 * 1024;

@@ -23,7 +23,7 @@ foreach(program drutil hdiutil)
 endforeach()
 install(PROGRAMS ${CMAKE_BINARY_DIR}/libexec/corvalis/ffmpeg DESTINATION ${CORVALIS_LIBEXEC})
 
-install(FILES src/ui/icons/corvalis.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+install(FILES src/kit/icons/corvalis.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES ${packaging}/corvalis.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${packaging}/org.corvalis.Corvalis.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES ${packaging}/copyright README.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/corvalis)

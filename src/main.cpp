@@ -2,8 +2,9 @@
 #include "app/AppDelegate.h"
 #include "app/BatchRun.h"
 #include "app/MainWindow.h"
+#include "app/StopOnSignals.h"
 #include "app/Surface.h"
-#include "ui/SymbolIcon.h"
+#include "kit/SymbolIcon.h"
 
 #include <QApplication>
 #include <QByteArrayView>
@@ -21,6 +22,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int notWritten = 1;
 constexpr int wrongArguments = 2;
 
 [[noreturn]] void refuse(const QString &sentence)
@@ -77,9 +79,11 @@ std::optional<BatchJob> readCommandLine(const QCoreApplication &application)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        u"Prepares and writes optical discs.\n\nExit status with --burn: 0 the job came to its end, 1 an "
-        u"alert ended it, "
-        "2 wrong arguments.\nA file whose name begins with a dash goes behind \"--\"."_s);
+        u"Prepares and writes optical discs.\n\nExit status with --burn: 0 the disc was written and "
+        u"everything is on "
+        "it, 1 it was not written, 2 wrong arguments, 3 it was written but something is not on it; stopped "
+        "by a signal, "
+        "it ends by that signal.\nA file whose name begins with a dash goes behind \"--\"."_s);
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption burn(u"burn"_s,
@@ -129,14 +133,21 @@ int runBatch(const BatchJob &job)
     BatchQuestions questions(job.show);
     MainWindow window;
     Surroundings around = Surroundings::ofThisMachine(&questions);
+    around.stagingUntilCopied = true;
     const auto exitProcess = around.exitProcess;
-    bool completed = false;
+    int status = notWritten;
     // However it ends, only a job that came to its end is a success.
-    around.exitProcess = [exitProcess, &completed](int) { exitProcess(completed ? 0 : 1); };
+    around.exitProcess = [exitProcess, &status](int) { exitProcess(status); };
     AppDelegate controller(&window, around);
-    QObject::connect(
-        &controller, &AppDelegate::operationCompleted, &window, [&completed] { completed = true; });
-    BatchRun batch(job, &controller, &questions, exitProcess);
+    QObject::connect(&controller, &AppDelegate::jobBegan, &window, [&status](writing::Job *begun) {
+        QObject::connect(begun, &writing::Job::ended, begun,
+            [&status](const writing::Outcome &outcome) { status = outcome.exitStatus(); });
+    });
+    BatchRun batch(job, &controller, &questions, [exitProcess](int end) {
+        StopOnSignals::endByCaughtOne();
+        exitProcess(end);
+    });
+    const StopOnSignals signals([&batch] { return batch.stop(); });
     controller.awakeFromNib();
     controller.applicationDidFinishLaunching();
     QTimer::singleShot(0, &batch, &BatchRun::start);

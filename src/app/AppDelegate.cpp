@@ -1,13 +1,14 @@
 #include "app/AppDelegate.h"
 
-#include "app/FolderClaim.h"
 #include "app/MainWindow.h"
 #include "app/Preferences.h"
 #include "compilation/FolderTree.h"
 #include "compilation/ListTableView.h"
 #include "runner/ActivityLog.h"
 #include "ui_MainWindow.h"
-#include "writing/FolderStaging.h"
+#include "writing/FolderClaim.h"
+#include "writing/FolderGathering.h"
+#include "writing/Job.h"
 
 #include <QApplication>
 #include <QDir>
@@ -69,7 +70,9 @@ AppDelegate::~AppDelegate()
 {
     // Files being measured and folders being copied report back to this object.
     QThreadPool::globalInstance()->waitForDone();
-    endStagingCopies();
+    if (m_gathering)
+        m_gathering->endCopies();
+    removeObservers();
     // The window may live on; its tables must not ask this object for their rows then.
     for (ListTableView *table :
         { ui->tableviewAudioFiles, ui->tableviewVideoFiles, ui->tableviewDataFolders })

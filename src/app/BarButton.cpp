@@ -1,7 +1,7 @@
 #include "app/BarButton.h"
 
+#include "kit/SymbolIcon.h"
 #include "ui/PaintedViews.h"
-#include "ui/SymbolIcon.h"
 
 #include <QEvent>
 #include <QKeyEvent>

@@ -4,17 +4,14 @@
 #include "app/MainWindow.h"
 #include "app/Surface.h"
 #include "app/Window_New_Disc.h"
-#include "runner/ActivityLog.h"
-#include "runner/StatusSheets.h"
 #include "ui_MainWindow.h"
-#include "writing/Window_Data_Copy_Folders.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QProgressBar>
 #include <QRadioButton>
 
 #include <cstdio>
+#include <limits>
 #include <sys/ioctl.h>
 #include <unistd.h>
 #include <utility>
@@ -58,8 +55,6 @@ BatchRun::BatchRun(
     , m_finish(std::move(finish))
 {
     m_questions->setBeforeAlert([this] { endLine(); });
-    m_progress.setInterval(200);
-    connect(&m_progress, &QTimer::timeout, this, &BatchRun::showProgress);
 }
 
 QString BatchRun::meantPath(const QString &argument)
@@ -99,7 +94,12 @@ void BatchRun::start()
 {
     connect(m_controller, &AppDelegate::operationCompleted, this, &BatchRun::completed, Qt::QueuedConnection);
     connect(m_controller, &AppDelegate::addingEnded, this, &BatchRun::burn, Qt::QueuedConnection);
-    m_progress.start();
+    connect(m_controller, &AppDelegate::addingProgressed, this, &BatchRun::showAdding);
+    connect(m_controller, &AppDelegate::jobBegan, this, [this](writing::Job *job) {
+        connect(job, &writing::Job::progressed, this, &BatchRun::showProgress);
+        connect(job, &writing::Job::ended, this,
+            [this](const writing::Outcome &outcome) { m_outcome = outcome; });
+    });
     chooseType();
     add();
 }
@@ -138,47 +138,62 @@ void BatchRun::burn()
         end(1);
 }
 
+bool BatchRun::stop()
+{
+    if (!m_controller->job)
+        return false;
+    m_controller->job->stop();
+    return true;
+}
+
 void BatchRun::completed()
 {
-    const QStringList troubles = m_controller->activityLog->troublesSince(m_controller->jobStart);
-    printLine(Stage::Done,
-        troubles.isEmpty() ? tr("Operation complete")
-                           : tr("The operation has ended, but not everything went well"));
-    end(0);
-    for (const QString &trouble : troubles)
-        std::fprintf(stderr, "%s\n", surface::printable(trouble).constData());
+    printLine(Stage::Done, m_outcome.heading);
+    endLine();
+    constexpr qsizetype all = std::numeric_limits<qsizetype>::max();
+    writing::Outcome trouble = m_outcome;
+    trouble.made.clear();
+    for (const QString &line : trouble.lines(all))
+        std::fprintf(stderr, "%s\n", surface::printable(line).constData());
     if (m_job.show)
         return;
     m_controller->Close_Window_Operation_Complete();
-    m_finish(0);
+    m_finish(m_outcome.exitStatus());
 }
 
 void BatchRun::end(int status)
 {
-    m_progress.stop();
     endLine();
     if (status != 0 && !m_job.show)
         m_finish(status);
 }
 
-void BatchRun::showProgress()
+void BatchRun::showAdding(qsizetype done, qsizetype count)
 {
-    if (const Window_Unique_Progress *adding = m_controller->windowUniqueProgress) {
-        printLine(Stage::Adding,
-            tr("Adding files: %1 of %2")
-                .arg(adding->progressBar()->value())
-                .arg(adding->progressBar()->maximum()));
-    } else if (const Window_Progress *converting = m_controller->windowProgress) {
-        printLine(Stage::Converting,
+    printLine(Stage::Adding, tr("Adding files: %1 of %2").arg(done).arg(count));
+}
+
+void BatchRun::showProgress(const writing::Progress &progress)
+{
+    using writing::Stage;
+    switch (progress.stage) {
+    case Stage::Converting:
+        if (progress.count == 0)
+            return;
+        return printLine(BatchRun::Stage::Converting,
             tr("Converting: file %1 of %2, %3 %")
-                .arg(qMin(
-                    converting->progressOverall()->value() + 1, converting->progressOverall()->maximum()))
-                .arg(converting->progressOverall()->maximum())
-                .arg(static_cast<int>(m_controller->percentTranscoded)));
-    } else if (m_controller->windowDataCopyFolders) {
-        printLine(Stage::Gathering, tr("Gathering the folders"));
-    } else if (const Window_Performing_Operation *working = m_controller->windowPerformingOperation) {
-        printLine(Stage::Writing, working->newestLine());
+                .arg(progress.number)
+                .arg(progress.count)
+                .arg(static_cast<int>(qMax(0.0, progress.itemPercent))));
+    case Stage::Gathering:
+        return printLine(BatchRun::Stage::Gathering, tr("Gathering the folders"));
+    default:
+        m_newTenth = progress.percent >= 0 && static_cast<int>(progress.percent / 10) != m_tenth;
+        if (!progress.words.isEmpty())
+            printLine(BatchRun::Stage::Writing, progress.words);
+        if (m_newTenth)
+            m_tenth = static_cast<int>(progress.percent / 10);
+        m_newTenth = false;
     }
 }
 
@@ -186,10 +201,10 @@ void BatchRun::printLine(Stage stage, const QString &line)
 {
     if (line == m_lastLine)
         return;
-    // In a file each is a line of its own: one for each stage, and a sign of life now and then.
+    // In a file each is a line of its own: one for each stage and each tenth of the writing, and a sign of life.
     constexpr qint64 sign = 5000;
     const bool newStage = std::exchange(m_stage, stage) != stage;
-    if (terminalWidth() == 0 && !newStage && m_sinceLine.elapsed() < sign)
+    if (terminalWidth() == 0 && !newStage && !m_newTenth && m_sinceLine.elapsed() < sign)
         return;
     m_sinceLine.start();
     m_lastLine = line;

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "app/Questions.h"
+#include "writing/Job.h"
 
 #include <QElapsedTimer>
 #include <QObject>
-#include <QTimer>
 
 #include <functional>
 
@@ -49,12 +49,15 @@ private:
 class BatchRun : public QObject {
     Q_OBJECT
 public:
-    /// `finish` is called once with the exit status: 0 the operation-complete sheet was reached, 1 an
-    /// alert ended the job.
+    /// `finish` is called once with the exit status: 0 the disc was written and everything is on it, 1 it was not
+    /// written, 3 it was written but something is not on it.
     BatchRun(const BatchJob &job, AppDelegate *controller, BatchQuestions *questions,
         std::function<void(int)> finish);
 
     void start();
+
+    /// Stops the job as a person would. False: there is none to be stopped.
+    bool stop();
 
     /// The full path of what an argument names, from the working folder on.
     static QString meantPath(const QString &argument);
@@ -67,7 +70,8 @@ private:
     void add();
     void burn();
     void completed();
-    void showProgress();
+    void showAdding(qsizetype done, qsizetype count);
+    void showProgress(const writing::Progress &progress);
     enum class Stage { None, Adding, Converting, Gathering, Writing, Done };
     void printLine(Stage stage, const QString &line);
     void endLine();
@@ -77,8 +81,10 @@ private:
     AppDelegate *const m_controller;
     BatchQuestions *const m_questions;
     const std::function<void(int)> m_finish;
-    QTimer m_progress;
+    writing::Outcome m_outcome;
     Stage m_stage = Stage::None;
     QString m_lastLine;
+    bool m_newTenth = false; ///< the line at hand tells of another tenth of the writing than the last one
+    int m_tenth = -1; ///< of the writing, of which the last line told
     QElapsedTimer m_sinceLine; ///< since one was printed where there is no terminal
 };

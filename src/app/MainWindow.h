@@ -5,7 +5,7 @@
 
 #include <memory>
 
-class AppDelegate;
+class SheetStage;
 namespace Ui {
 class MainWindow;
 }
@@ -18,6 +18,7 @@ public:
     ~MainWindow() override;
 
     Ui::MainWindow *ui() const { return m_ui.get(); }
+    SheetStage *stage() const { return m_stage; }
 
 Q_SIGNALS:
     /// The window is closing, whatever the cause.
@@ -26,7 +27,9 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     std::unique_ptr<Ui::MainWindow> m_ui;
+    SheetStage *m_stage; ///< where its sheets stand
 };

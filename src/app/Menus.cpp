@@ -69,9 +69,16 @@ void AppDelegate::OnMenuHelpAbout()
 
 void AppDelegate::OnMenuActivityLog()
 {
+    showActivityLog(-1);
+}
+
+void AppDelegate::showActivityLog(qsizetype run)
+{
     if (!windowActivityLog)
         windowActivityLog = new Window_Activity_Log(activityLog, window);
     windowActivityLog->show();
     windowActivityLog->raise();
     windowActivityLog->activateWindow();
+    if (run >= 0)
+        windowActivityLog->select(run);
 }

@@ -59,7 +59,14 @@ void AppDelegate::ShowNewDiscWindow()
 void AppDelegate::Show_Window_New_Disc()
 {
     delete windowNewDisc;
-    windowNewDisc = new Window_New_Disc(this, window);
+    windowNewDisc = new Window_New_Disc(window->stage(), i_Type_of_New_Disc);
+    const auto closeWith = [this](std::optional<int> code) {
+        i_Type_of_New_Disc = code.value_or(i_Type_of_New_Disc);
+        Close_Window_New_Disc();
+    };
+    connect(windowNewDisc, &Window_New_Disc::confirmed, this, closeWith);
+    connect(
+        windowNewDisc, &Window_New_Disc::dismissed, this, [closeWith] { closeWith(projects::cancelled); });
     windowNewDisc->beginSheet();
 }
 

@@ -3,6 +3,7 @@
 #include "app/Window_Alert.h"
 #include "app/Window_Open_Panel.h"
 #include "compilation/FolderNames.h"
+#include "kit/SheetStage.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -27,7 +28,8 @@ QString Questions::unreadableNamesText()
 int WindowQuestions::ask(const Alert &alert, QWidget *over)
 {
     Window_Alert window(alert, over && over->isVisible() ? over : nullptr);
-    return window.exec();
+    SheetStage *const stage = SheetStage::of(over && over->isVisible() ? over : nullptr);
+    return stage ? window.askOver(stage) : window.exec();
 }
 
 /// `path`, or what is left of the way to it: nothing can be chosen where a dialog stands in no folder.

@@ -15,6 +15,7 @@ struct Alert {
     QString informative;
     QStringList buttons;
     bool fixedWidth = false; ///< the text below is a report whose columns matter
+    int dismissed = -1; ///< position of the button that closing stands for; below 0: the last
 };
 
 /// A panel in which existing files or folders are chosen.
@@ -33,7 +34,7 @@ public:
     virtual ~Questions() = default;
 
     /// Shows the alert over `over` and answers the position of the button pressed; closing it
-    /// without a button counts as the last one.
+    /// without a button counts as the alert says.
     virtual int ask(const Alert &alert, QWidget *over) = 0;
 
     /// The chosen files or folder; none when the person did not confirm. All have names that are text, and

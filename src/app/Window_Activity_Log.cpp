@@ -87,6 +87,15 @@ void Window_Activity_Log::showOutput()
     m_shown = text;
 }
 
+void Window_Activity_Log::select(qsizetype run)
+{
+    refresh();
+    QTreeWidgetItem *item = m_ui->listRuns->topLevelItem(static_cast<int>(run));
+    m_ui->listRuns->setCurrentItem(item);
+    m_ui->listRuns->scrollToItem(item);
+    m_ui->listRuns->setFocus();
+}
+
 QString Window_Activity_Log::selectedText() const
 {
     QList<int> positions;

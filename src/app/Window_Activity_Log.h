@@ -20,6 +20,8 @@ public:
     Window_Activity_Log(ActivityLog *log, QWidget *parent);
     ~Window_Activity_Log() override;
 
+    /// Selects a run and brings it into view.
+    void select(qsizetype run);
     /// The log as text, for the clipboard: the selected runs, or all without a selection.
     QString selectedText() const;
     /// Writes the whole log; answers an empty text, or why it could not be written.

@@ -1,9 +1,11 @@
 #include "app/Window_Alert.h"
 
-#include "ui/SymbolIcon.h"
+#include "kit/SheetStage.h"
+#include "kit/SymbolIcon.h"
 #include "ui_Window_Alert.h"
 
 #include <QClipboard>
+#include <QEventLoop>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QPushButton>
@@ -26,7 +28,7 @@ bool isLong(const QString &text)
 Window_Alert::Window_Alert(const Alert &alert, QWidget *over)
     : QDialog(over)
     , m_ui(std::make_unique<Ui::Window_Alert>())
-    , m_last(static_cast<int>(alert.buttons.size()) - 1)
+    , m_dismissed(alert.dismissed >= 0 ? alert.dismissed : static_cast<int>(alert.buttons.size()) - 1)
 {
     m_ui->setupUi(this);
     setWindowTitle(over ? over->window()->windowTitle() : QString());
@@ -100,7 +102,25 @@ void Window_Alert::addButtons(const QStringList &titles)
     }
 }
 
+int Window_Alert::askOver(SheetStage *stage)
+{
+    setWindowModality(Qt::NonModal);
+    addActions(stage->window()->actions());
+    QWidget *const before = stage->front();
+    stage->hold();
+    stage->setFront(this);
+    QEventLoop answered;
+    connect(this, &QDialog::finished, &answered, &QEventLoop::quit);
+    show();
+    raise();
+    activateWindow();
+    answered.exec();
+    stage->setFront(qobject_cast<Window_Alert *>(before));
+    stage->release();
+    return result();
+}
+
 void Window_Alert::reject()
 {
-    done(m_last);
+    done(m_dismissed);
 }

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class SheetStage;
 namespace Ui {
 class Window_Alert;
 }
@@ -19,6 +20,10 @@ public:
     Window_Alert(const Alert &alert, QWidget *over);
     ~Window_Alert() override;
 
+    /// Asks over the window of this stage, which takes no input meanwhile but can be closed and quit from its menu, as a
+    /// window behind a modal dialog cannot. Answers the button's position.
+    int askOver(SheetStage *stage);
+
     void reject() override;
 
 private:
@@ -27,5 +32,5 @@ private:
     void addButtons(const QStringList &titles);
 
     std::unique_ptr<Ui::Window_Alert> m_ui;
-    int m_last = 0;
+    int m_dismissed = 0;
 };

@@ -1,27 +1,24 @@
 #include "app/Window_New_Disc.h"
 
-#include "app/AppDelegate.h"
 #include "ui_Window_New_Disc.h"
 
 #include <QPushButton>
 
-Window_New_Disc::Window_New_Disc(AppDelegate *controller, QWidget *parent)
-    : Sheet(parent, Dismiss::ByPerson)
-    , m_controller(controller)
+Window_New_Disc::Window_New_Disc(SheetStage *stage, qint64 code)
+    : Sheet(stage, Dismiss::ByPerson)
     , m_ui(std::make_unique<Ui::Window_New_Disc>())
 {
     m_ui->setupUi(this);
     m_radios = { m_ui->radio1, m_ui->radio2, m_ui->radio3, m_ui->radio4, m_ui->radio5, m_ui->radio6,
         m_ui->radio7, m_ui->radio8 };
-    connect(this, &Sheet::quitRequested, controller, &AppDelegate::OnMenuQuit);
     connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &Window_New_Disc::OnOK);
     connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &Window_New_Disc::OnCancel);
-    windowDidLoad();
+    windowDidLoad(code);
 }
 
 Window_New_Disc::~Window_New_Disc() = default;
 
-void Window_New_Disc::windowDidLoad()
+void Window_New_Disc::windowDidLoad(qint64 code)
 {
     // The buttons stand in three groups but exclude each other over all of them, so this class
     // switches the others off, not the toolkit.
@@ -32,7 +29,7 @@ void Window_New_Disc::windowDidLoad()
         const auto position = static_cast<std::size_t>(number - 1);
         QRadioButton *radio = m_radios.at(position);
         radio->setAutoExclusive(false);
-        radio->setChecked(number == m_controller->i_Type_of_New_Disc);
+        radio->setChecked(number == code);
         connect(radio, &QRadioButton::clicked, radio, [radio] { radio->setChecked(true); });
         connect(radio, &QRadioButton::clicked, this, actions.at(position));
         if (radio->isChecked())
@@ -54,15 +51,15 @@ void Window_New_Disc::chosen(int number)
 
 void Window_New_Disc::OnOK()
 {
+    std::optional<int> code;
     for (int number = 1; number <= 8; ++number) {
         if (m_radios.at(static_cast<std::size_t>(number - 1))->isChecked())
-            m_controller->i_Type_of_New_Disc = number;
+            code = number;
     }
-    m_controller->Close_Window_New_Disc();
+    Q_EMIT confirmed(code);
 }
 
 void Window_New_Disc::OnCancel()
 {
-    m_controller->i_Type_of_New_Disc = projects::cancelled;
-    m_controller->Close_Window_New_Disc();
+    Q_EMIT dismissed();
 }

@@ -1,23 +1,23 @@
 // The sheet in which the kind of disc is chosen.
 #pragma once
 
-#include "app/Sheet.h"
+#include "kit/Sheet.h"
 
 #include <array>
 #include <memory>
+#include <optional>
 
-class AppDelegate;
 class QRadioButton;
 namespace Ui {
 class Window_New_Disc;
 }
 
-/// Eight radio buttons, one a project type, in the order of their codes. The chosen code goes into
-/// the controller's i_Type_of_New_Disc, which then closes the sheet.
+/// Eight radio buttons, one a project type, in the order of their codes.
 class Window_New_Disc : public Sheet {
     Q_OBJECT
 public:
-    Window_New_Disc(AppDelegate *controller, QWidget *parent);
+    /// `code` is chosen at first; none where there is no such project type.
+    Window_New_Disc(SheetStage *stage, qint64 code);
     ~Window_New_Disc() override;
 
     void OnRadio1() { chosen(1); }
@@ -31,14 +31,18 @@ public:
     void OnOK();
     void OnCancel();
 
+Q_SIGNALS:
+    /// OK; the code of the chosen project type, nothing where none was chosen.
+    void confirmed(std::optional<int> code);
+    void dismissed();
+
 protected:
     void cancelled() override { OnCancel(); }
 
 private:
-    void windowDidLoad();
+    void windowDidLoad(qint64 code);
     void chosen(int number); ///< what the eight actions have in common
 
-    AppDelegate *const m_controller;
     std::unique_ptr<Ui::Window_New_Disc> m_ui;
     std::array<QRadioButton *, 8> m_radios;
 };

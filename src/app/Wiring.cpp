@@ -3,8 +3,10 @@
 #include "app/MainWindow.h"
 #include "compilation/ListTableModel.h"
 #include "compilation/SpaceOccupiedView.h"
+#include "kit/SheetStage.h"
 #include "ui_MainWindow.h"
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QHeaderView>
 
@@ -145,6 +147,7 @@ void AppDelegate::awakeFromNib()
     connectMenus();
     connectLists();
     connectTools();
+    blockWhileOccupied();
     offerListActions(0);
     ui->submenuItemTabAudio->setChecked(true);
 }
@@ -173,6 +176,26 @@ void AppDelegate::connectMenus()
     }
     connect(ui->tabviewMain, &QTabWidget::currentChanged, this,
         [this] { tabView_didSelectTabViewItem(selectedPage()); });
+}
+
+void AppDelegate::blockWhileOccupied()
+{
+    // A group, since an action that is disabled for a reason of its own stays so when the group is enabled again.
+    auto *blocked = new QActionGroup(this);
+    blocked->setExclusionPolicy(QActionGroup::ExclusionPolicy::None);
+    const QList<QAction *> always{ ui->menuitemQuit, ui->menuitemActivityLog };
+    const QList<QMenu *> alwaysOpen{ ui->menuDisc, ui->menuTools, ui->menuHelp };
+    for (const QMenu *menu : window->findChildren<QMenu *>()) {
+        if (menu == ui->menuHelp)
+            continue;
+        if (!alwaysOpen.contains(menu))
+            blocked->addAction(menu->menuAction());
+        for (QAction *action : menu->actions()) {
+            if (!action->menu() && !always.contains(action))
+                blocked->addAction(action);
+        }
+    }
+    connect(window->stage(), &SheetStage::occupiedChanged, blocked, &QActionGroup::setDisabled);
 }
 
 void AppDelegate::connectLists()

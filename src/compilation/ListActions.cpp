@@ -5,16 +5,19 @@
 #include "compilation/FolderTree.h"
 #include "compilation/ListTableView.h"
 #include "compilation/Measuring.h"
-#include "runner/StatusSheets.h"
 #include "runner/ToolRun.h"
 #include "ui/PreviewPlayer.h"
 #include "ui_MainWindow.h"
+#include "writing/StatusSheets.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProgressBar>
 #include <QThreadPool>
+
+#include <atomic>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -41,6 +44,17 @@ QString namesOf(const QList<QUrl> &urls)
 }
 
 } // namespace
+
+struct AppDelegate::Measuring {
+    explicit Measuring(const QList<QUrl> &files)
+        : urls(files)
+    {
+    }
+
+    const QList<QUrl> urls;
+    QList<NodeMediaFile> records; ///< of the first of them; touched on the GUI thread only
+    std::atomic<bool> stop = false;
+};
 
 QString AppDelegate::GetMediaFileDuration(const QString &path)
 {
@@ -122,36 +136,48 @@ void AppDelegate::addMediaFiles(ListKind kind, const QList<QUrl> &urls)
     if (urls.isEmpty())
         return;
     delete windowUniqueProgress;
-    windowUniqueProgress = new Window_Unique_Progress(this, window);
-    windowUniqueProgress->beginSheet();
+    windowUniqueProgress = new Window_Unique_Progress(window->stage());
     windowUniqueProgress->progressBar()->setRange(0, static_cast<int>(urls.size()));
     windowUniqueProgress->progressBar()->setValue(0);
+    windowUniqueProgress->showItem(urls.first().fileName(), 1, urls.size());
+    const auto measuring = std::make_shared<Measuring>(urls);
+    connect(windowUniqueProgress, &WorkSheet::stopRequested, this, [measuring] { measuring->stop = true; });
+    windowUniqueProgress->beginSheet();
     // The task only measures. The records travel to the GUI thread one by one and go onto the list
     // together, so the list is never touched from two threads.
-    auto records = std::make_shared<QList<NodeMediaFile>>();
-    QThreadPool::globalInstance()->start([this, kind, urls, records] {
-        for (const QUrl &url : urls) {
+    QThreadPool::globalInstance()->start([this, kind, measuring] {
+        for (const QUrl &url : measuring->urls) {
+            if (measuring->stop)
+                break;
             const QString path = url.toLocalFile();
             NodeMediaFile record = compilation::mediaRecord(url, path);
             record.s_Duration = GetMediaFileDuration(path);
             record.i_Duration_in_Seconds = Return_Seconds_From_Duration_Str(record.s_Duration);
             QMetaObject::invokeMethod(
-                this,
-                [this, kind, records, record, count = urls.size()] {
-                    records->append(record);
-                    mediaFileMeasured(kind, *records, count);
-                },
+                this, [this, measuring, record] { mediaFileMeasured(*measuring, record); },
                 Qt::QueuedConnection);
         }
+        QMetaObject::invokeMethod(
+            this, [this, kind, measuring] { mediaFilesAdded(kind, measuring->records); },
+            Qt::QueuedConnection);
     });
 }
 
-void AppDelegate::mediaFileMeasured(ListKind kind, const QList<NodeMediaFile> &records, qsizetype count)
+void AppDelegate::mediaFileMeasured(Measuring &measuring, const NodeMediaFile &record)
 {
-    if (windowUniqueProgress)
-        windowUniqueProgress->progressBar()->setValue(static_cast<int>(records.size()));
-    if (records.size() < count)
-        return;
+    measuring.records.append(record);
+    const qsizetype done = measuring.records.size();
+    const qsizetype count = measuring.urls.size();
+    if (windowUniqueProgress) {
+        windowUniqueProgress->progressBar()->setValue(static_cast<int>(done));
+        if (done < count)
+            windowUniqueProgress->showItem(measuring.urls.at(done).fileName(), done + 1, count);
+    }
+    Q_EMIT addingProgressed(done, count);
+}
+
+void AppDelegate::mediaFilesAdded(ListKind kind, const QList<NodeMediaFile> &records)
+{
     arrayMediaFiles.append(records);
     forgetSorting();
     if (windowUniqueProgress)

@@ -95,6 +95,15 @@ void AppDelegate::OnMenuDriveSlot6()
     chooseDrive(5);
 }
 
+QString AppDelegate::driveTitle() const
+{
+    for (const Object_Optical_Drive &drive : array_Optical_Media_Drives) {
+        if (drive.s_Drive_Number == s_Current_Drive_Number)
+            return drives::title(drive);
+    }
+    return {};
+}
+
 bool AppDelegate::isVirtualRecorderSelected() const
 {
     return std::ranges::any_of(array_Optical_Media_Drives, [this](const Object_Optical_Drive &drive) {

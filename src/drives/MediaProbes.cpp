@@ -6,12 +6,17 @@ using namespace Qt::StringLiterals;
 
 QString AppDelegate::driveStatus()
 {
-    return QString::fromUtf8(
-        captureTool(around.drutil, { u"status"_s, u"-drive"_s, s_Current_Drive_Number }));
+    // A drive that has not answered will not answer the next question of the same press either.
+    if (m_probeHung)
+        return {};
+    m_lastStatus =
+        QString::fromUtf8(captureTool(around.drutil, { u"status"_s, u"-drive"_s, s_Current_Drive_Number }));
+    return m_lastStatus;
 }
 
 bool AppDelegate::IsDriveEmpty()
 {
+    m_probeHung = false; // always the first question
     return drives::saysEmpty(driveStatus());
 }
 

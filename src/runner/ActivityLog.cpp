@@ -1,5 +1,7 @@
 #include "runner/ActivityLog.h"
 
+#include "runner/ToolProgress.h"
+
 #include <QFileInfo>
 #include <QMutexLocker>
 #include <QRegularExpression>
@@ -27,7 +29,7 @@ QString lastReason(const QByteArray &output)
     for (QByteArrayView rest = QByteArrayView(output).trimmed(); !rest.isEmpty();) {
         const qsizetype start = qMax(rest.lastIndexOf('\n'), rest.lastIndexOf('\r')) + 1;
         const QString line = QString::fromUtf8(rest.sliced(start)).trimmed();
-        if (!summary.match(line).hasMatch())
+        if (!summary.match(line).hasMatch() && !runner::readProgress(line))
             return line.left(most);
         rest = rest.first(start).trimmed();
     }
@@ -50,8 +52,8 @@ qsizetype ActivityLog::begin(const QString &program, const QStringList &argument
     {
         const QMutexLocker lock(&m_mutex);
         position = m_activities.size();
-        m_activities.append(
-            { QDateTime::currentDateTime(), QStringList(program) + arguments, subject, {}, false, {}, 0 });
+        m_activities.append({ QDateTime::currentDateTime(), QStringList(program) + arguments, subject, {},
+            true, false, {}, 0 });
     }
     Q_EMIT changed();
     return position;
@@ -69,12 +71,13 @@ void ActivityLog::append(qsizetype position, const QByteArray &output)
     Q_EMIT changed();
 }
 
-void ActivityLog::end(qsizetype position, const QString &outcome, bool troubled)
+void ActivityLog::end(qsizetype position, const QString &outcome, bool troubled, bool spoke)
 {
     {
         const QMutexLocker lock(&m_mutex);
         m_activities[position].outcome = outcome;
         m_activities[position].troubled = troubled;
+        m_activities[position].spoke = spoke;
     }
     Q_EMIT changed();
 }
@@ -83,7 +86,7 @@ void ActivityLog::note(const QString &text, const QString &detail)
 {
     {
         const QMutexLocker lock(&m_mutex);
-        m_activities.append({ QDateTime::currentDateTime(), {}, {}, text, true, detail.toUtf8(), 0 });
+        m_activities.append({ QDateTime::currentDateTime(), {}, {}, text, true, true, detail.toUtf8(), 0 });
     }
     Q_EMIT changed();
 }
@@ -100,25 +103,17 @@ Activity ActivityLog::at(qsizetype position) const
     return m_activities.at(position);
 }
 
-QStringList ActivityLog::troublesSince(qsizetype position) const
+QString ActivityLog::trouble(qsizetype position) const
 {
-    QStringList troubles;
-    const QMutexLocker lock(&m_mutex);
-    for (const Activity &activity : m_activities.mid(position)) {
-        if (!activity.troubled)
-            continue;
-        const QString said = lastReason(activity.output);
-        if (activity.command.isEmpty()) {
-            troubles.append(activity.outcome + u": "_s + said);
-            continue;
-        }
-        const QString what =
-            activity.subject.isEmpty() ? QFileInfo(activity.command.first()).fileName() : activity.subject;
-        const bool named = said.startsWith(what + u": "_s)
-            || (!activity.subject.isEmpty() && said.contains(activity.subject));
-        troubles.append((named ? QString() : what + u": "_s) + (said.isEmpty() ? activity.outcome : said));
-    }
-    return troubles;
+    const Activity activity = at(position);
+    const QString said = activity.spoke ? lastReason(activity.output) : QString();
+    if (activity.command.isEmpty())
+        return activity.outcome + u": "_s + said;
+    const QString what =
+        activity.subject.isEmpty() ? QFileInfo(activity.command.first()).fileName() : activity.subject;
+    const bool named =
+        said.startsWith(what + u": "_s) || (!activity.subject.isEmpty() && said.contains(activity.subject));
+    return (named ? QString() : what + u": "_s) + (said.isEmpty() ? activity.outcome : said);
 }
 
 QString ActivityLog::text(const Activity &activity)

@@ -14,6 +14,7 @@ struct Activity {
     QStringList command; ///< program and arguments; empty for a note
     QString subject; ///< what the run works on, as a person knows it; empty: nothing but the tool is known
     QString outcome; ///< how it ended, in words; empty while it runs
+    bool spoke = true; ///< it ended by itself
     bool troubled = false; ///< it did not start, crashed, was ended, or ended with another status than 0
     QByteArray output; ///< standard output and standard error as they came
     qint64 leftOut = 0; ///< bytes of output beyond what is kept
@@ -35,7 +36,8 @@ public:
     /// Adds a run that has begun and answers its position in the log.
     qsizetype begin(const QString &program, const QStringList &arguments, const QString &subject = {});
     void append(qsizetype position, const QByteArray &output);
-    void end(qsizetype position, const QString &outcome, bool troubled);
+    /// `spoke`: it ended by itself, so that its last line is its reason.
+    void end(qsizetype position, const QString &outcome, bool troubled, bool spoke = true);
 
     /// Adds something that went wrong without a tool, for example a file that could not be copied.
     void note(const QString &text, const QString &detail);
@@ -43,9 +45,9 @@ public:
     qsizetype size() const;
     Activity at(qsizetype position) const;
 
-    /// One line for each run from `position` on that did not end well: its subject or the tool, and the
-    /// last reason that it gave, or how it ended.
-    QStringList troublesSince(qsizetype position) const;
+    /// Why a run did not end well, on one line: its subject or the tool, and the last reason that it gave; how it ended
+    /// where it gave none, or where it did not end by itself.
+    QString trouble(qsizetype position) const;
 
     /// The whole log, or one run, as text to copy or save.
     QString text() const;

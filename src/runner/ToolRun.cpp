@@ -4,6 +4,7 @@
 
 #include <QDeadlineTimer>
 #include <QMetaObject>
+#include <QTimer>
 
 #include <array>
 #include <cerrno>
@@ -72,6 +73,8 @@ QString ToolEnd::text() const
         return QObject::tr("crashed (signal %1)").arg(code);
     case How::EndedByUs:
         return QObject::tr("was ended because it gave no answer in time");
+    case How::Stopped:
+        return QObject::tr("was stopped");
     }
     Q_UNREACHABLE();
 }
@@ -108,6 +111,35 @@ void ToolRun::launch()
     start(ReadOnly);
 }
 
+void ToolRun::stop(int patience)
+{
+    if (m_stopped || m_finished)
+        return;
+    m_stopped = true;
+    terminate();
+    QTimer::singleShot(patience, this, [this] { kill(); });
+    // A child that waits for a dead device cannot be ended by anybody.
+    constexpr int afterKill = 5000;
+    QTimer::singleShot(patience + afterKill, this, [this] { finish({ ToolEnd::How::Stopped, 0, {} }); });
+}
+
+void ToolRun::leaveToItself()
+{
+    disconnect(this, &ToolRun::ended, nullptr, nullptr);
+    disconnect(this, &ToolRun::printed, nullptr, nullptr);
+    for (const auto channel : { &QProcess::readyReadStandardOutput, &QProcess::readyReadStandardError })
+        disconnect(this, channel, nullptr, nullptr);
+    if (state() == NotRunning && hasEnded())
+        return deleteLater();
+    connect(this, &QProcess::readyReadStandardOutput, this, [this] { take(StandardOutput); });
+    connect(this, &QProcess::readyReadStandardError, this, [this] { take(StandardError); });
+    connect(this, &QProcess::finished, this, &QObject::deleteLater);
+    connect(this, &ToolRun::ended, this, [this] {
+        if (state() == NotRunning)
+            deleteLater();
+    });
+}
+
 /// Adds what comes within `patience` milliseconds to `printed`, and nothing more once that is very long.
 ToolRun::Piece ToolRun::collect(const OutputPipe &pipe, int patience, QByteArray &printed)
 {
@@ -122,11 +154,15 @@ ToolRun::Piece ToolRun::collect(const OutputPipe &pipe, int patience, QByteArray
     return Piece::Some;
 }
 
-bool ToolRun::collectToEnd(const OutputPipe &pipe, int limit, QByteArray &printed)
+bool ToolRun::collectToEnd(
+    const OutputPipe &pipe, int limit, const std::function<void()> &meanwhile, QByteArray &printed)
 {
+    constexpr qint64 moment = 40;
     const QDeadlineTimer deadline(limit);
     while (!deadline.hasExpired()) {
-        const int patience = static_cast<int>(qMin<qint64>(deadline.remainingTime(), 100));
+        if (meanwhile)
+            meanwhile();
+        const int patience = static_cast<int>(qMin(deadline.remainingTime(), moment));
         const Piece piece = collect(pipe, patience, printed);
         // A child of the child may keep the pipe open.
         if (piece == Piece::End || (piece == Piece::None && (waitForFinished(0) || state() == NotRunning)))
@@ -144,7 +180,7 @@ void ToolRun::endChild()
     }
 }
 
-QByteArray ToolRun::capture(int limit)
+QByteArray ToolRun::capture(int limit, const std::function<void()> &meanwhile)
 {
     m_position = m_log->begin(program(), arguments(), m_subject);
     OutputPipe pipe;
@@ -156,7 +192,7 @@ QByteArray ToolRun::capture(int limit)
     start(ReadOnly);
     pipe.closeChildsEnd();
     QByteArray printed;
-    const bool closed = collectToEnd(pipe, limit, printed);
+    const bool closed = collectToEnd(pipe, limit, meanwhile, printed);
     // Most end at once after that, and how they do belongs into the log.
     constexpr int moment = 100;
     if (closed && state() != NotRunning && !waitForFinished(moment) && state() != NotRunning) {
@@ -178,8 +214,10 @@ QByteArray ToolRun::take(ProcessChannel channel)
     if (!isOpen())
         return {}; // it could not be started
     const QByteArray piece = channel == StandardOutput ? readAllStandardOutput() : readAllStandardError();
-    if (!piece.isEmpty())
+    if (!piece.isEmpty()) {
         m_log->append(m_position, piece);
+        Q_EMIT printed(piece);
+    }
     return piece;
 }
 
@@ -190,6 +228,9 @@ QByteArray ToolRun::output() const
 
 ToolEnd ToolRun::endOfChild() const
 {
+    const bool asItShould = exitStatus() == NormalExit && exitCode() == m_expectedStatus;
+    if (m_stopped && !asItShould)
+        return { ToolEnd::How::Stopped, exitCode(), {} };
     if (error() == FailedToStart)
         return { ToolEnd::How::CouldNotStart, 0, errorString() };
     if (exitStatus() == CrashExit)
@@ -206,9 +247,9 @@ void ToolRun::finish(const ToolEnd &end)
     take(StandardOutput);
     if (processChannelMode() == SeparateChannels)
         take(StandardError);
-    const bool troubled = end.troubled(m_expectedStatus);
+    const bool troubled = end.troubled(m_expectedStatus) && end.how != ToolEnd::How::Stopped;
     m_log->end(m_position, !troubled && end.code != 0 ? tr("%1, as expected").arg(end.text()) : end.text(),
-        troubled);
+        troubled, end.how == ToolEnd::How::Ended);
     Q_EMIT ended(end);
 }
 

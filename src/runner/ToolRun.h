@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class ActivityLog;
 
 namespace runner {
@@ -20,6 +22,7 @@ struct ToolEnd {
         CouldNotStart,
         Crashed, ///< by a signal that we did not send
         EndedByUs, ///< because its time was up
+        Stopped, ///< because a person wanted it
     };
     How how = How::Ended;
     int code = 0;
@@ -51,15 +54,26 @@ public:
     /// before control is back in the event loop.
     void launch();
 
+    /// Asks the child to end, and ends it where it has not done so after `patience` milliseconds. Returns at once; ended()
+    /// follows also when the child cannot be ended, which is then left to itself. A child that ends as it should in spite
+    /// of it has ended by itself.
+    void stop(int patience);
+
+    /// Drops all who listen to this run. It goes on by itself where it has not ended, and is destroyed at its end.
+    void leaveToItself();
+
     /// Answers all that it prints, both channels in the order of writing. Blocks the calling thread until
     /// the child closes its output, at most `limit` milliseconds: then the child is ended, and what it printed
     /// so far is the answer. Of more than 64 MiB the rest is dropped. A child that closes its output and
     /// goes on is left to itself: hasEnded() is false then, and ended() follows, unless this is destroyed before.
-    QByteArray capture(int limit);
+    /// `meanwhile` is called many times a second until then.
+    QByteArray capture(int limit, const std::function<void()> &meanwhile = {});
 
     /// How the child ended; meaningful after ended() or capture().
     const ToolEnd &end() const { return m_end; }
     bool hasEnded() const { return m_finished; }
+    /// Where the run stands in the activity log.
+    qsizetype position() const { return m_position; }
     /// All output so far, as far as the log keeps it.
     QByteArray output() const;
 
@@ -67,13 +81,16 @@ public:
     QByteArray take(ProcessChannel channel);
 
 Q_SIGNALS:
+    /// What has just been taken from a channel.
+    void printed(const QByteArray &piece);
     void ended(const runner::ToolEnd &end);
 
 private:
     enum class Piece { Some, None, End };
     Piece collect(const OutputPipe &pipe, int patience, QByteArray &printed);
     /// Until the child has closed its output or ended; false when `limit` milliseconds have passed.
-    bool collectToEnd(const OutputPipe &pipe, int limit, QByteArray &printed);
+    bool collectToEnd(
+        const OutputPipe &pipe, int limit, const std::function<void()> &meanwhile, QByteArray &printed);
     void endChild(); ///< asks it to end, and ends it half a second later
     void finish(const ToolEnd &end);
     ToolEnd endOfChild() const;
@@ -85,6 +102,7 @@ private:
     int m_expectedStatus = 0;
     bool m_finished = false;
     bool m_answered = false; ///< it has closed its output and goes on
+    bool m_stopped = false; ///< it was asked to end
 };
 
 } // namespace runner

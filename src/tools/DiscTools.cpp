@@ -2,6 +2,7 @@
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
 #include "ui_MainWindow.h"
+#include "writing/Job.h"
 
 #include <QCursor>
 
@@ -34,9 +35,12 @@ void AppDelegate::eraseDisc(const QString &extent)
         return alert(u"Media not rewritable"_s,
             u"The media on the drive is not rewritable. insert a rewritable media on the drive and try again."_s);
     }
-    beginJob();
+    writing::Work work = workOn(0, {});
+    work.result = writing::Work::Result::BlankDisc;
+    work.name = extent == "full"_L1 ? tr("Full erase") : tr("Quick erase");
+    beginJob(work);
     runInBackground(around.drutil, { u"erase"_s, extent, u"-drive"_s, s_Current_Drive_Number },
-        &AppDelegate::taskTerminated, Output::Observed);
+        writing::Stage::Erasing, &AppDelegate::taskTerminated, Output::Observed);
     Show_Window_Performing_Operation();
 }
 

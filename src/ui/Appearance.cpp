@@ -34,7 +34,29 @@ void AppDelegate::paintTableBackgrounds(bool alternating)
 void AppDelegate::OnToolsColors()
 {
     delete windowColors;
-    windowColors = new Window_Colors(this, window);
+    const auto scheme = [this] {
+        QList<QColor> colours;
+        for (const ColourField &row : colourFields)
+            colours.append(this->*row.field);
+        return colours;
+    };
+    windowColors = new Window_Colors(window->stage(), scheme(), b_List_Alternating_Rows == 1);
+    connect(windowColors, &Window_Colors::confirmed, this,
+        [this](const QList<QColor> &colours, bool alternatingRows) {
+            b_List_Alternating_Rows = alternatingRows ? 1 : 0;
+            for (std::size_t i = 0; i < colourFields.size(); ++i)
+                this->*colourFields[i].field = colours.at(static_cast<qsizetype>(i));
+            OK_Window_Colors();
+        });
+    connect(windowColors, &Window_Colors::dismissed, this, &AppDelegate::Cancel_Window_Colors);
+    // The shipped scheme goes into the fields and the preferences at once; the window shows it after OK.
+    connect(windowColors, &Window_Colors::originalWanted, this, [this, scheme] {
+        for (const auto &[role, field] : colourFields)
+            this->*field = ColourScheme::storeShippedColour(*preferences, role);
+        ColourScheme::storeAlternatingRows(*preferences, 1);
+        savePreferences();
+        windowColors->showScheme(scheme(), true);
+    });
     windowColors->beginSheet();
 }
 

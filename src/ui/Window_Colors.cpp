@@ -1,11 +1,9 @@
 #include "ui/Window_Colors.h"
 
-#include "app/AppDelegate.h"
-#include "ui/ColourFields.h"
+#include "ui/ColourWell.h"
 #include "ui_Window_Colors.h"
 
 #include <QPushButton>
-#include <QSettings>
 
 #include <array>
 
@@ -14,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The wells in the order of the fields.
-std::array<ColourWell *, colourFields.size()> wells(const Ui::Window_Colors &sheet)
+std::array<ColourWell *, 5> wells(const Ui::Window_Colors &sheet)
 {
     return { sheet.colorListBackground, sheet.colorListForeground, sheet.colorToolbar, sheet.colorBottomBar,
         sheet.colorSpaceOccupied };
@@ -22,15 +20,13 @@ std::array<ColourWell *, colourFields.size()> wells(const Ui::Window_Colors &she
 
 } // namespace
 
-Window_Colors::Window_Colors(AppDelegate *controller, QWidget *parent)
-    : Sheet(parent, Dismiss::ByPerson)
-    , m_controller(controller)
+Window_Colors::Window_Colors(SheetStage *stage, const QList<QColor> &colours, bool alternatingRows)
+    : Sheet(stage, Dismiss::ByPerson)
     , m_ui(std::make_unique<Ui::Window_Colors>())
 {
     m_ui->setupUi(this);
-    connect(this, &Sheet::quitRequested, controller, &AppDelegate::OnMenuQuit);
     makeButtons();
-    windowDidLoad();
+    showScheme(colours, alternatingRows);
 }
 
 Window_Colors::~Window_Colors() = default;
@@ -62,40 +58,28 @@ void Window_Colors::makeButtons()
     ok->setFocus();
 }
 
-void Window_Colors::windowDidLoad()
-{
-    m_ui->check_Alternating_Rows->setChecked(m_controller->b_List_Alternating_Rows == 1);
-    showColours();
-}
-
-void Window_Colors::showColours()
+void Window_Colors::showScheme(const QList<QColor> &colours, bool alternatingRows)
 {
     const auto all = wells(*m_ui);
     for (std::size_t i = 0; i < all.size(); ++i)
-        all[i]->setColour(m_controller->*colourFields[i].field);
+        all[i]->setColour(colours.at(static_cast<qsizetype>(i)));
+    m_ui->check_Alternating_Rows->setChecked(alternatingRows);
 }
 
 void Window_Colors::OnOK()
 {
-    m_controller->b_List_Alternating_Rows = m_ui->check_Alternating_Rows->isChecked() ? 1 : 0;
-    const auto all = wells(*m_ui);
-    for (std::size_t i = 0; i < all.size(); ++i)
-        m_controller->*colourFields[i].field = all[i]->colour();
-    m_controller->OK_Window_Colors();
+    QList<QColor> colours;
+    for (const ColourWell *well : wells(*m_ui))
+        colours.append(well->colour());
+    Q_EMIT confirmed(colours, m_ui->check_Alternating_Rows->isChecked());
 }
 
 void Window_Colors::OnCancel()
 {
-    m_controller->Cancel_Window_Colors();
+    Q_EMIT dismissed();
 }
 
 void Window_Colors::OnOriginal()
 {
-    QSettings &preferences = *m_controller->preferences;
-    for (const auto &[role, field] : colourFields)
-        m_controller->*field = ColourScheme::storeShippedColour(preferences, role);
-    ColourScheme::storeAlternatingRows(preferences, 1);
-    m_controller->savePreferences();
-    showColours();
-    m_ui->check_Alternating_Rows->setChecked(true);
+    Q_EMIT originalWanted();
 }

@@ -1,5 +1,7 @@
 // Audio CDs, MP3 CDs and MP3 DVDs: checks, conversion, and 0.1 seconds later the disc.
 #include "writing/DiscForms.h"
+#include "writing/Job.h"
+#include "writing/Names.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,28 +15,28 @@ constexpr QLatin1StringView noAudioText(
 
 void AppDelegate::Burn_Audio_CD()
 {
-    burnAudio({ { noAudio, noAudioText, "CD"_L1, writing::notCD, writing::notCDText, "Warning 0060."_L1 }, 1,
-        writing::wavArguments, "wav"_L1, &AppDelegate::timerBurnAudioCD, &AppDelegate::TimerBurnAudioCD });
+    burnAudio({ { 1, noAudio, noAudioText, "CD"_L1, writing::notCD, writing::notCDText, "Warning 0060."_L1 },
+        1, writing::wavArguments, "wav"_L1, &AppDelegate::timerBurnAudioCD, &AppDelegate::TimerBurnAudioCD });
 }
 
 void AppDelegate::Burn_Audio_MP3_CD()
 {
-    burnAudio({ { noAudio, noAudioText, "CD"_L1, writing::notCD, writing::notCDText, "Warning 0050."_L1 }, 2,
-        writing::mp3Arguments, "mp3"_L1, &AppDelegate::timerBurnMP3, &AppDelegate::TimerBurnMP3 });
+    burnAudio({ { 2, noAudio, noAudioText, "CD"_L1, writing::notCD, writing::notCDText, "Warning 0050."_L1 },
+        2, writing::mp3Arguments, "mp3"_L1, &AppDelegate::timerBurnMP3, &AppDelegate::TimerBurnMP3 });
 }
 
 void AppDelegate::Burn_Audio_MP3_DVD()
 {
-    burnAudio({ { noAudio, noAudioText, "DVD"_L1, writing::notDVD, writing::notDVDText, "Warning 0010."_L1 },
-        2, writing::mp3Arguments, "mp3"_L1, &AppDelegate::timerBurnMP3, &AppDelegate::TimerBurnMP3 });
+    burnAudio(
+        { { 3, noAudio, noAudioText, "DVD"_L1, writing::notDVD, writing::notDVDText, "Warning 0010."_L1 }, 2,
+            writing::mp3Arguments, "mp3"_L1, &AppDelegate::timerBurnMP3, &AppDelegate::TimerBurnMP3 });
 }
 
 void AppDelegate::burnAudio(const AudioForm &form)
 {
     if (!mayWrite(form.checks, arrayMediaFiles.isEmpty()))
         return;
-    beginJob();
-    if (!claimFolder(s_Audio_Folder))
+    if (!beginJob(workOn(form.checks.code, s_Audio_Folder)))
         return;
     convertList(1, [this, &form](const NodeMediaFile &file) {
         i_Burn_Audio_Type = form.burnAudioType;
@@ -46,15 +48,21 @@ void AppDelegate::burnAudio(const AudioForm &form)
 
 void AppDelegate::TimerBurnAudioCD()
 {
+    if (endStopped(&AppDelegate::AudioBurnTerminated))
+        return;
+    describeConverted(s_Audio_Folder);
     runInBackground(around.drutil,
         { u"burn"_s, u"-audio"_s, s_Audio_Folder, u"-drive"_s, s_Current_Drive_Number },
-        &AppDelegate::AudioBurnTerminated, Output::Observed);
+        writing::Stage::Writing, &AppDelegate::AudioBurnTerminated, Output::Observed);
     Show_Window_Performing_Operation();
 }
 
 void AppDelegate::TimerBurnMP3()
 {
+    if (endStopped(&AppDelegate::AudioBurnTerminated))
+        return;
+    describeConverted(s_Audio_Folder);
     runInBackground(around.drutil, { u"burn"_s, s_Audio_Folder, u"-drive"_s, s_Current_Drive_Number },
-        &AppDelegate::AudioBurnTerminated, Output::Observed);
+        writing::Stage::Writing, &AppDelegate::AudioBurnTerminated, Output::Observed);
     Show_Window_Performing_Operation();
 }

@@ -1,16 +1,14 @@
 // Data CDs, DVDs and Blu-rays: checks, gathering the folders, and the disc.
 #include "app/MainWindow.h"
+#include "compilation/Measuring.h"
 #include "runner/ActivityLog.h"
-#include "runner/StatusSheets.h"
 #include "writing/DiscForms.h"
-#include "writing/FolderStaging.h"
-#include "writing/Window_Data_Copy_Folders.h"
+#include "writing/FolderGathering.h"
+#include "writing/Job.h"
 
-#include <QDeadlineTimer>
+#include <QCursor>
 #include <QGuiApplication>
 #include <QThreadPool>
-
-#include <chrono>
 
 using namespace Qt::StringLiterals;
 
@@ -24,89 +22,85 @@ constexpr QLatin1StringView noFoldersText(
 
 void AppDelegate::Burn_Data_CD()
 {
-    burnData({ noFolders, noFoldersText, "CD"_L1, writing::notCD, writing::notCDText, "Warning 0070."_L1 });
+    burnData(
+        { 6, noFolders, noFoldersText, "CD"_L1, writing::notCD, writing::notCDText, "Warning 0070."_L1 });
 }
 
 void AppDelegate::Burn_Data_DVD()
 {
     burnData(
-        { noFolders, noFoldersText, "DVD"_L1, writing::notDVD, writing::notDVDText, "Warning 0020."_L1 });
+        { 7, noFolders, noFoldersText, "DVD"_L1, writing::notDVD, writing::notDVDText, "Warning 0020."_L1 });
 }
 
 void AppDelegate::Burn_Data_Bluray()
 {
-    burnData({ noFolders, noFoldersText, "BD"_L1, writing::notBluray, writing::notBlurayText,
+    burnData({ 8, noFolders, noFoldersText, "BD"_L1, writing::notBluray, writing::notBlurayText,
         "Warning 0090."_L1 });
 }
 
 void AppDelegate::burnData(const DiscForm &form)
 {
-    if (!mayWrite(form, arrayDataFolders.isEmpty()))
+    if (!mayWrite(form, arrayDataFolders.isEmpty()) || !hasRoomFor(arrayDataFolders))
         return;
-    beginJob();
-    if (!claimFolder(s_Data_Folder))
-        return;
-    Show_Window_Data_Copy_Folders();
+    if (beginJob(workOn(form.code, s_Data_Folder)))
+        Show_Window_Data_Copy_Folders();
 }
 
-void AppDelegate::Show_Window_Data_Copy_Folders()
+bool AppDelegate::hasRoomFor(const QList<NodeDataFolder> &folders)
 {
-    delete windowDataCopyFolders;
-    windowDataCopyFolders = new Window_Data_Copy_Folders(this, window);
-    connect(windowDataCopyFolders, &Window_Data_Copy_Folders::stagingEnded, this,
-        [this] { schedule(timerBurnDataFolder, &AppDelegate::TimerBurnDataFolder); });
-    windowDataCopyFolders->beginSheet();
-}
-
-void AppDelegate::Close_Window_Data_Copy_Folders()
-{
-    if (windowDataCopyFolders)
-        windowDataCopyFolders->endSheet();
-    windowDataCopyFolders = nullptr;
+    const qint64 missing = writing::FolderGathering::bytesMissing(folders, s_Data_Folder);
+    if (missing == 0)
+        return true;
+    Alert question{ tr("There is not enough room to gather the folders"),
+        tr("A disc is prepared in the folder %1, and its file system has %2 too little for that. Free some "
+           "room and "
+           "try again, or go on: what does not fit will not be on the disc.")
+            .arg(s_Data_Folder, compilation::sizeText(static_cast<quint64>(missing))),
+        { u"Close"_s, tr("Go On") } };
+    question.dismissed = 0;
+    return around.questions->ask(question, window) == 1;
 }
 
 void AppDelegate::TimerBurnDataFolder()
 {
-    for (const auto &copy : std::as_const(stagingCopies)) {
-        if (!copy->ended && !copy->stop)
-            activityLog->note(
-                tr("The disc is written before the copying of a folder has ended"), s_Data_Folder);
+    if (endStopped(&AppDelegate::dataBurnTerminated))
+        return;
+    if (m_gathering->isStillCopying()) {
+        const QString what = tr("The disc is written before the copying of a folder has ended.");
+        activityLog->note(what, s_Data_Folder);
+        job->remark(what);
     }
+    const writing::Progress gathered = job->progress();
+    job->describe(counted(gathered.files, tr("1 file"), tr("%1 files")), gathered.bytes);
     runInBackground(around.drutil, { u"burn"_s, s_Data_Folder, u"-drive"_s, s_Current_Drive_Number },
-        &AppDelegate::dataBurnTerminated, Output::Observed);
+        writing::Stage::Writing, &AppDelegate::dataBurnTerminated, Output::Observed);
     Close_Window_Data_Copy_Folders();
     Show_Window_Performing_Operation();
 }
 
 void AppDelegate::dataBurnTerminated()
 {
+    Close_Window_Data_Copy_Folders();
     Close_Window_Performing_Operation();
-    b_Emptying_Data_Folder = true;
+    job->watch(nullptr, writing::Stage::Emptying, false);
     QGuiApplication::setOverrideCursor(Qt::BusyCursor);
     // Not on this thread: what still copies has to end, or it would fill the folder again after it was emptied, and
     // emptying it of very many files takes seconds.
     QThreadPool::globalInstance()->start([this] {
-        if (!endStagingCopies())
-            activityLog->note(tr("The copying of a folder does not end"), s_Data_Folder);
+        const bool ended = m_gathering->endCopies();
         RemoveAllContentInFolder(s_Data_Folder);
-        QMetaObject::invokeMethod(this, &AppDelegate::dataFolderEmptied, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this, ended] { dataFolderEmptied(ended); }, Qt::QueuedConnection);
     });
 }
 
-void AppDelegate::dataFolderEmptied()
+void AppDelegate::dataFolderEmptied(bool copiesEnded)
 {
     QGuiApplication::restoreOverrideCursor();
-    b_Emptying_Data_Folder = false;
+    if (!copiesEnded) {
+        const QString what = tr("The copying of a folder does not end.");
+        activityLog->note(what, s_Data_Folder);
+        job->remark(what);
+    }
     Show_Window_Operation_Complete();
-}
-
-bool AppDelegate::endStagingCopies()
-{
-    for (const auto &copy : std::as_const(stagingCopies))
-        copy->stop = true;
-    const QDeadlineTimer deadline(around.copyEndLimit);
-    stagingCopies.removeIf([&deadline](const auto &copy) {
-        return copy->waitForEnd(std::chrono::milliseconds(deadline.remainingTime()));
-    });
-    return stagingCopies.isEmpty();
 }

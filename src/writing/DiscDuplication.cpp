@@ -1,7 +1,10 @@
 // Copying a disc with one drive: an image of the mounted disc, the eject, a blank, the image onto it.
-#include "app/FolderClaim.h"
 #include "app/MainWindow.h"
+#include "drives/MediaStatus.h"
 #include "writing/DiscForms.h"
+#include "writing/Job.h"
+
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -19,13 +22,14 @@ void AppDelegate::DuplicateMedia()
     const QList<QUrl> chosen = around.questions->choose(panel, window);
     if (chosen.isEmpty())
         return;
-    beginJob();
-    if (!claimFolder(s_Data_Folder))
+    writing::Work work = workOn(0, s_Data_Folder);
+    work.name = tr("Copy of %1").arg(chosen.first().fileName().simplified());
+    if (!beginJob(work))
         return;
     runInBackground(around.hdiutil,
         { u"makehybrid"_s, u"-o"_s, duplicationImage(), chosen.first().toLocalFile(), u"-iso"_s,
             u"-joliet"_s },
-        &AppDelegate::CreateISOfromDriveTerminated, Output::Ignored);
+        writing::Stage::Imaging, &AppDelegate::CreateISOfromDriveTerminated, Output::Ignored);
     Show_Window_Performing_Operation();
 }
 
@@ -36,7 +40,10 @@ QString AppDelegate::duplicationImage() const
 
 void AppDelegate::CreateISOfromDriveTerminated()
 {
+    if (endStopped(&AppDelegate::MediaDuplicationTerminated))
+        return;
     Close_Window_Performing_Operation();
+    job->enter(writing::Stage::Exchanging);
     OnToolsEjectDisc();
     schedule(timerDuplicateMediaCopy, &AppDelegate::TimerDuplicateMediaCopy);
 }
@@ -59,12 +66,15 @@ bool AppDelegate::promptForBlank()
 
 void AppDelegate::TimerDuplicateMediaCopy()
 {
+    if (endStopped(&AppDelegate::MediaDuplicationTerminated))
+        return;
     if (!promptForBlank()) {
         RemoveAllContentInFolder(s_Data_Folder);
-        folderClaim.reset();
-        return;
+        return dropJob();
     }
-    runInBackground(around.hdiutil, { u"burn"_s, duplicationImage() },
+    job->setRewritable(drives::saysErasable(m_lastStatus));
+    job->describe({}, QFileInfo(duplicationImage()).size());
+    runInBackground(around.hdiutil, { u"burn"_s, duplicationImage() }, writing::Stage::Writing,
         &AppDelegate::MediaDuplicationTerminated, Output::Observed);
     Show_Window_Performing_Operation();
 }

@@ -5,6 +5,7 @@
 
 /// The checks before a disc is written, in their order, and what each failure says.
 struct AppDelegate::DiscForm {
+    int code; ///< of the project type
     QLatin1StringView nothingListed; ///< message when the list is empty
     QLatin1StringView nothingListedText;
     QLatin1StringView mediaType; ///< what the probe must answer
@@ -49,13 +50,5 @@ QStringList mp3Arguments(const QString &source, const QString &output);
 /// code is "0", PAL and MPEG audio for anything else.
 QStringList mpegArguments(
     const QString &source, const QString &output, const QString &videoFormat, const QString &audioFormat);
-
-/// `name` with its end cut off where name and `suffix` together would pass the 255 bytes that a file system
-/// takes, and `suffix` behind it. No character is cut in two.
-QString suffixedName(QString name, const QString &suffix);
-
-/// folder/base.extension, base being the source's name without its extension, shortened where the
-/// new name would pass the 255 bytes that a file system takes.
-QString convertedPath(const QString &folder, const QString &source, QLatin1StringView extension);
 
 } // namespace writing

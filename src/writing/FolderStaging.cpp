@@ -13,6 +13,7 @@
 #include <system_error>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace writing {
@@ -69,7 +70,7 @@ public:
         if (m_state.stop)
             return false;
         if ((::mkdirat(m_to.fd(), name.c_str(), S_IRWXU) != 0 && errno != EEXIST) || !m_to.enter(name))
-            return fail(m_destination + at.path(), errno), false;
+            return fail(here(), errno), false;
         m_folders.push_back(info);
         return true;
     }
@@ -99,7 +100,7 @@ public:
     /// Gives the folder of the copy the mode and the times of its source, and goes up from it.
     void finishFolder()
     {
-        keepModeAndTimes(m_to.fd(), m_folders.back());
+        keepModeAndTimes(m_to.fd(), m_folders.back(), S_IRWXU);
         m_folders.pop_back();
         if (m_to.leave())
             return;
@@ -117,9 +118,9 @@ private:
 
     void fail(const std::string &path, int error)
     {
-        fail(path, std::generic_category().message(error));
         if (error == ENOSPC || error == EDQUOT)
-            m_state.stop = true;
+            ++m_state.didNotFit;
+        fail(path, std::generic_category().message(error));
     }
 
     bool enterFolder(const std::string &name)
@@ -137,7 +138,11 @@ private:
     {
         const auto [first, isNew] =
             m_linked.try_emplace({ info.st_dev, info.st_ino }, m_destination + at.path() + '/' + name);
-        return !isNew && ::linkat(AT_FDCWD, first->second.c_str(), m_to.fd(), name.c_str(), 0) == 0;
+        if (isNew || ::linkat(AT_FDCWD, first->second.c_str(), m_to.fd(), name.c_str(), 0) != 0)
+            return false;
+        ++m_state.files;
+        m_state.bytes += info.st_size;
+        return true;
     }
 
     void copyLink(const std::string &name, const struct stat &info)
@@ -148,6 +153,7 @@ private:
             return;
         if (length < 0 || ::symlinkat(target.data(), m_to.fd(), name.c_str()) != 0)
             return fail(here(name), errno);
+        ++m_state.files;
         const timespec times[] = { info.st_atim, info.st_mtim };
         ::utimensat(m_to.fd(), name.c_str(), times, AT_SYMLINK_NOFOLLOW);
     }
@@ -169,8 +175,10 @@ private:
             return fail(here(name), errno);
         const bool copied = copyContent(from, to, info);
         const int error = errno;
-        if (copied && !m_state.stop)
-            return keepModeAndTimes(to, info);
+        if (copied && !m_state.stop) {
+            ++m_state.files;
+            return keepModeAndTimes(to, info, S_IRUSR);
+        }
         // Half a file would look like a whole one on the disc.
         ::unlinkat(m_to.fd(), name.c_str(), 0);
         if (!copied)
@@ -183,8 +191,10 @@ private:
         if (size == 0)
             return true;
         if (m_canClone) {
-            if (::ioctl(to, FICLONE, from) == 0)
+            if (::ioctl(to, FICLONE, from) == 0) {
+                m_state.bytes += size;
                 return true;
+            }
             m_canClone = false;
         }
         // Looking for holes and setting the length are a sixth of the work on a small file, so they are
@@ -225,8 +235,10 @@ private:
             const ssize_t moved = m_canOffload ? ::copy_file_range(from, &in, to, &out,
                                       static_cast<std::size_t>(std::min(end - in, mostAtOnce)), 0)
                                                : copyBuffer(from, to, in, out, end);
-            if (moved > 0)
+            if (moved > 0) {
+                m_state.bytes += moved;
                 continue;
+            }
             if (!m_canOffload) {
                 size = in;
                 return moved == 0;
@@ -259,9 +271,10 @@ private:
         return got;
     }
 
-    static void keepModeAndTimes(int fd, const struct stat &info)
+    /// `needed` is what the owner has to be able to do with the copy.
+    static void keepModeAndTimes(int fd, const struct stat &info, mode_t needed)
     {
-        ::fchmod(fd, info.st_mode & 07777);
+        ::fchmod(fd, (info.st_mode & 07777) | needed);
         const timespec times[] = { info.st_atim, info.st_mtim };
         ::futimens(fd, times);
     }
@@ -287,6 +300,18 @@ bool CopyState::waitForEnd(std::chrono::milliseconds limit) const
     while (!ended && std::chrono::steady_clock::now() < deadline)
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     return ended;
+}
+
+void CopyState::tell(const std::string &failure)
+{
+    const std::lock_guard lock(m_mutex);
+    m_failures.push_back(failure);
+}
+
+std::vector<std::string> CopyState::takeFailures()
+{
+    const std::lock_guard lock(m_mutex);
+    return std::exchange(m_failures, {});
 }
 
 void copyFolder(const std::string &source, const std::string &destination, const std::string &never,

@@ -2,8 +2,10 @@
 // the next thing shows; and writing an image to the disc in the drive.
 #include "app/MainWindow.h"
 #include "writing/DiscForms.h"
+#include "writing/Job.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -20,6 +22,10 @@ void AppDelegate::OnActionISOCreate()
     if (chosen.isEmpty())
         return;
     SourcePath = chosen.first().toLocalFile();
+    writing::Work work;
+    work.result = writing::Work::Result::Image;
+    work.name = tr("Disc image");
+    beginJob(work);
     schedule(timerCreateISOStep1, &AppDelegate::TimerCreateISOStep1Routine);
 }
 
@@ -31,7 +37,7 @@ void AppDelegate::TimerCreateISOStep1Routine()
     panel.startFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QList<QUrl> chosen = around.questions->choose(panel, window);
     if (chosen.isEmpty())
-        return;
+        return dropJob();
     DestPath = chosen.first().toLocalFile();
     DestPathISO = DestPath + u"/image.iso"_s;
     QFile::remove(DestPathISO);
@@ -40,10 +46,12 @@ void AppDelegate::TimerCreateISOStep1Routine()
 
 void AppDelegate::TimerCreateISOStep2Routine()
 {
-    beginJob();
+    if (endStopped(&AppDelegate::taskTerminated))
+        return;
+    job->setImage(DestPathISO);
     runInBackground(around.hdiutil,
         { u"makehybrid"_s, u"-o"_s, DestPathISO, SourcePath, u"-iso"_s, u"-joliet"_s },
-        &AppDelegate::isoMakingTerminated, Output::Ignored);
+        writing::Stage::Imaging, &AppDelegate::isoMakingTerminated, Output::Ignored);
     schedule(timerCreateISOStep3, &AppDelegate::TimerCreateISOStep3Routine);
 }
 
@@ -51,6 +59,7 @@ void AppDelegate::isoMakingTerminated()
 {
     // A tool that ended before its working sheet was up must not leave that sheet behind.
     delete timerCreateISOStep3;
+    job->describe({}, QFileInfo(DestPathISO).size());
     taskTerminated();
 }
 
@@ -73,8 +82,12 @@ void AppDelegate::OnActionISOBurn()
         return alert(writing::noDisc, writing::noDiscText);
     if (!IsMediaOneTimeWritable() && !IsMediaReWritable())
         return alert(writing::notWritable, writing::notWritableText);
-    beginJob();
-    runInBackground(around.hdiutil, { u"burn"_s, chosen.first().toLocalFile() }, &AppDelegate::taskTerminated,
-        Output::Ignored);
+    const QFileInfo image(chosen.first().toLocalFile());
+    writing::Work work = workOn(0, {});
+    work.name = tr("Image %1").arg(image.fileName().simplified());
+    beginJob(work);
+    job->describe({}, image.size());
+    runInBackground(around.hdiutil, { u"burn"_s, chosen.first().toLocalFile() }, writing::Stage::Writing,
+        &AppDelegate::taskTerminated, Output::Ignored);
     Show_Window_Performing_Operation();
 }

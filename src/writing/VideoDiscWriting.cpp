@@ -1,5 +1,7 @@
 // Video DVDs and Blu-rays: discs of MPEG-2 program streams. Both are converted with the DVD presets.
 #include "writing/DiscForms.h"
+#include "writing/Job.h"
+#include "writing/Names.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,21 +15,21 @@ constexpr QLatin1StringView noVideoText(
 
 void AppDelegate::Burn_Video_DVD()
 {
-    burnVideo({ noVideo, noVideoText, "DVD"_L1, writing::notDVD, writing::notDVDText, "Warning 0000."_L1 });
+    burnVideo(
+        { 4, noVideo, noVideoText, "DVD"_L1, writing::notDVD, writing::notDVDText, "Warning 0000."_L1 });
 }
 
 void AppDelegate::Burn_Video_Bluray()
 {
     burnVideo(
-        { noVideo, noVideoText, "BD"_L1, writing::notBluray, writing::notBlurayText, "Warning 0090."_L1 });
+        { 5, noVideo, noVideoText, "BD"_L1, writing::notBluray, writing::notBlurayText, "Warning 0090."_L1 });
 }
 
 void AppDelegate::burnVideo(const DiscForm &form)
 {
     if (!mayWrite(form, arrayMediaFiles.isEmpty()))
         return;
-    beginJob();
-    if (!claimFolder(s_Video_Folder))
+    if (!beginJob(workOn(form.code, s_Video_Folder)))
         return;
     convertList(0, [this](const NodeMediaFile &file) {
         return writing::mpegArguments(file.s_File_Path,
@@ -39,7 +41,10 @@ void AppDelegate::burnVideo(const DiscForm &form)
 
 void AppDelegate::TimerBurnVideoRoutine()
 {
+    if (endStopped(&AppDelegate::VideoBurnTerminated))
+        return;
+    describeConverted(s_Video_Folder);
     runInBackground(around.drutil, { u"burn"_s, s_Video_Folder, u"-drive"_s, s_Current_Drive_Number },
-        &AppDelegate::VideoBurnTerminated, Output::Observed);
+        writing::Stage::Writing, &AppDelegate::VideoBurnTerminated, Output::Observed);
     Show_Window_Performing_Operation();
 }

@@ -1,54 +1,40 @@
 // The sheet behind which the listed folders are gathered in the data working folder.
 #pragma once
 
-#include "app/Sheet.h"
+#include "kit/WorkSheet.h"
 
 #include <QTimer>
 
 #include <memory>
 
-class AppDelegate;
 class Spinner;
 namespace Ui {
 class Window_Data_Copy_Folders;
 }
 namespace writing {
-struct CopyState;
+struct Progress;
 }
 
-/// Copies folder after folder. A folder counts as copied when, looked at once a poll interval, it has
-/// reached the size that was measured when it was listed, or has not grown since the last look. Then
-/// the next one follows, and after the last one stagingEnded() is emitted once.
-class Window_Data_Copy_Folders : public Sheet {
+/// Tells which folder is copied, and how much of all is there. It gives the sign to begin when it has been seen.
+class Window_Data_Copy_Folders : public WorkSheet {
     Q_OBJECT
 public:
-    Window_Data_Copy_Folders(AppDelegate *controller, QWidget *parent);
+    explicit Window_Data_Copy_Folders(SheetStage *stage);
     ~Window_Data_Copy_Folders() override;
 
     Spinner *pgAnimation() const;
+    void showProgress(const writing::Progress &progress);
     /// Bytes below a folder, as the data list measures it. Any thread.
     static quint64 folderSize(const QString &path);
-    /// Where the folder `name` is copied to when `dataFolder` may hold one of that name already: the
-    /// data folder itself, else the first free "NAME n" in it, with NAME cut where that is too long for a file system.
-    static QString copyDestination(const QString &dataFolder, const QString &name);
 
 Q_SIGNALS:
-    void stagingEnded();
+    /// Once, 0.1 seconds after the sheet was made.
+    void shown();
 
 private:
     void windowDidLoad();
     void TimerCloseWindow();
-    void copyNextFolder();
-    void showFolder(const QString &name);
-    void startCopy(const QString &source, const QString &destination);
-    void poll();
-    void measured(double copied);
 
-    AppDelegate *const m_controller;
     std::unique_ptr<Ui::Window_Data_Copy_Folders> m_ui;
     QTimer timerCloseWindow;
-    double i_Last_Size = 0;
-    qsizetype m_index = -1;
-    QString m_target;
-    std::shared_ptr<writing::CopyState> m_copy;
 };

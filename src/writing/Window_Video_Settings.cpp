@@ -1,7 +1,5 @@
 #include "writing/Window_Video_Settings.h"
 
-#include "app/AppDelegate.h"
-#include "app/Preferences.h"
 #include "ui_Window_Video_Settings.h"
 
 #include <QPushButton>
@@ -18,13 +16,12 @@ void switchOffIfOn(const QRadioButton *pressed, QRadioButton *other)
 
 } // namespace
 
-Window_Video_Settings::Window_Video_Settings(AppDelegate *controller, QWidget *parent)
-    : Sheet(parent, Dismiss::ByPerson)
-    , m_controller(controller)
+Window_Video_Settings::Window_Video_Settings(
+    SheetStage *stage, const QString &videoFormat, const QString &audioFormat)
+    : Sheet(stage, Dismiss::ByPerson)
     , m_ui(std::make_unique<Ui::Window_Video_Settings>())
 {
     m_ui->setupUi(this);
-    connect(this, &Sheet::quitRequested, controller, &AppDelegate::OnMenuQuit);
     using Handler = void (Window_Video_Settings::*)();
     const std::pair<QRadioButton *, Handler> radios[] = {
         { m_ui->radioVideoNTSC, &Window_Video_Settings::OnVideoNTSC },
@@ -40,17 +37,17 @@ Window_Video_Settings::Window_Video_Settings(AppDelegate *controller, QWidget *p
     connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &Window_Video_Settings::OnOK);
     connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &Window_Video_Settings::OnCancel);
     m_ui->buttonBox->button(QDialogButtonBox::Ok)->setDefault(true);
-    windowDidLoad();
+    windowDidLoad(videoFormat, audioFormat);
 }
 
 Window_Video_Settings::~Window_Video_Settings() = default;
 
-void Window_Video_Settings::windowDidLoad()
+void Window_Video_Settings::windowDidLoad(const QString &videoFormat, const QString &audioFormat)
 {
-    const bool ntsc = m_controller->s_Video_Output_Format == u"0";
+    const bool ntsc = videoFormat == u"0";
     m_ui->radioVideoNTSC->setChecked(ntsc);
     m_ui->radioVideoPal->setChecked(!ntsc);
-    const bool dolby = m_controller->s_Audio_Output_Format == u"0";
+    const bool dolby = audioFormat == u"0";
     m_ui->radioAudioDolbyDigital->setChecked(dolby);
     m_ui->radioAudioMPEG2->setChecked(!dolby);
 }
@@ -77,14 +74,11 @@ void Window_Video_Settings::OnAudioMPEG2()
 
 void Window_Video_Settings::OnOK()
 {
-    m_controller->s_Video_Output_Format = m_ui->radioVideoNTSC->isChecked() ? u"0"_s : u"1"_s;
-    m_controller->s_Audio_Output_Format = m_ui->radioAudioDolbyDigital->isChecked() ? u"0"_s : u"1"_s;
-    m_controller->setPreference(preferences::videoFormat, m_controller->s_Video_Output_Format);
-    m_controller->setPreference(preferences::audioFormat, m_controller->s_Audio_Output_Format);
-    m_controller->Close_Window_Video_Settings();
+    Q_EMIT confirmed(m_ui->radioVideoNTSC->isChecked() ? u"0"_s : u"1"_s,
+        m_ui->radioAudioDolbyDigital->isChecked() ? u"0"_s : u"1"_s);
 }
 
 void Window_Video_Settings::OnCancel()
 {
-    m_controller->Close_Window_Video_Settings();
+    Q_EMIT dismissed();
 }

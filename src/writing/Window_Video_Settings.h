@@ -1,11 +1,10 @@
 // The sheet of the video output settings.
 #pragma once
 
-#include "app/Sheet.h"
+#include "kit/Sheet.h"
 
 #include <memory>
 
-class AppDelegate;
 class QRadioButton;
 namespace Ui {
 class Window_Video_Settings;
@@ -16,7 +15,8 @@ class Window_Video_Settings;
 class Window_Video_Settings : public Sheet {
     Q_OBJECT
 public:
-    Window_Video_Settings(AppDelegate *controller, QWidget *parent);
+    /// The format codes that hold now; "0" is NTSC, and Dolby Digital.
+    Window_Video_Settings(SheetStage *stage, const QString &videoFormat, const QString &audioFormat);
     ~Window_Video_Settings() override;
 
     void OnVideoNTSC();
@@ -26,12 +26,16 @@ public:
     void OnOK();
     void OnCancel();
 
+Q_SIGNALS:
+    /// OK, with the chosen codes: "0" or "1".
+    void confirmed(const QString &videoFormat, const QString &audioFormat);
+    void dismissed();
+
 protected:
     void cancelled() override { OnCancel(); }
 
 private:
-    void windowDidLoad();
+    void windowDidLoad(const QString &videoFormat, const QString &audioFormat);
 
-    AppDelegate *const m_controller;
     std::unique_ptr<Ui::Window_Video_Settings> m_ui;
 };

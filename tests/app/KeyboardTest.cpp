@@ -4,10 +4,10 @@
 #include "app/Window_Alert.h"
 #include "app/Window_New_Disc.h"
 #include "compilation/ListTableView.h"
-#include "runner/StatusSheets.h"
 #include "support/Person.h"
 #include "support/TestApplication.h"
 #include "ui_MainWindow.h"
+#include "writing/StatusSheets.h"
 #include "writing/Window_Video_Settings.h"
 
 #include <QAccessible>

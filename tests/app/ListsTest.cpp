@@ -5,10 +5,10 @@
 #include "compilation/ListTableView.h"
 #include "compilation/SpaceOccupiedView.h"
 #include "runner/ActivityLog.h"
-#include "runner/StatusSheets.h"
 #include "support/Person.h"
 #include "support/TestApplication.h"
 #include "ui_MainWindow.h"
+#include "writing/StatusSheets.h"
 
 #include <QAbstractItemModelTester>
 #include <QMimeData>

@@ -1,11 +1,11 @@
 // The program as a process: how it ends, and what it answers on the command line.
 #include "app/BatchRun.h"
-#include "app/FolderClaim.h"
 #include "app/Surface.h"
-#include "runner/StatusSheets.h"
 #include "support/Person.h"
 #include "support/ProgramFolder.h"
 #include "support/TestApplication.h"
+#include "writing/FolderClaim.h"
+#include "writing/StatusSheets.h"
 
 #include <QDialog>
 #include <QLabel>

@@ -3,11 +3,12 @@
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
 #include "app/Window_Activity_Log.h"
-#include "runner/StatusSheets.h"
+#include "support/Person.h"
 #include "ui/ColourWell.h"
 #include "ui/PreviewPlayer.h"
 #include "ui/Window_Colors.h"
 #include "ui_MainWindow.h"
+#include "writing/StatusSheets.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -234,7 +235,7 @@ private:
         for (const auto &[name, open] : alerts) {
             QTimer::singleShot(500, qApp, [this, picture = name] {
                 shoot(picture);
-                QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+                QTest::keyClick(person::waitingDialog(), Qt::Key_Escape);
             });
             (m_controller.*open)();
         }

@@ -2,11 +2,11 @@
 // files to list, and the sheets noted as they come and go.
 #pragma once
 
-#include "app/Sheet.h"
 #include "app/Window_New_Disc.h"
+#include "kit/Sheet.h"
 #include "runner/ActivityLog.h"
-#include "runner/StatusSheets.h"
 #include "support/TestApplication.h"
+#include "writing/StatusSheets.h"
 #include "writing/Window_Data_Copy_Folders.h"
 
 #include <QDialogButtonBox>

@@ -1,6 +1,8 @@
 // What a person does with the window: presses, types, chooses from menus and answers dialogs.
 #pragma once
 
+#include "app/Window_Alert.h"
+
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
@@ -120,6 +122,16 @@ inline void press(const QKeySequence &keys)
         QTest::keySequence(QGuiApplication::focusWindow(), keys);
 }
 
+/// The dialog that waits for an answer; null when none does.
+inline QWidget *waitingDialog()
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && qobject_cast<Window_Alert *>(window))
+            return window;
+    }
+    return QApplication::activeModalWidget();
+}
+
 /// A dialog that is expected, and what is done with it. It is waited for from now on; `happened()` tells
 /// whether it came. A dialog of another kind is refused after a while, so that the test goes on and fails.
 template <class Dialog>
@@ -140,7 +152,7 @@ public:
 private:
     void look()
     {
-        QWidget *modal = QApplication::activeModalWidget();
+        QWidget *modal = waitingDialog();
         if (!modal || !modal->isVisible())
             return;
         if (auto *dialog = dynamic_cast<Dialog *>(modal)) {
@@ -148,7 +160,7 @@ private:
             m_happened = true;
             const QPointer<QWidget> up(modal);
             m_act(dialog);
-            if (up && QApplication::activeModalWidget() == up) {
+            if (up && waitingDialog() == up) {
                 qWarning() << "the dialog was not answered:" << modal;
                 modal->close();
             }

@@ -4,6 +4,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
+#include "app/Window_Alert.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -215,7 +216,9 @@ inline QByteArray contentOf(const QString &path)
 inline void pressInAlert(const QString &title)
 {
     QTimer::singleShot(50, qApp, [title] {
-        if (QWidget *alert = QApplication::activeModalWidget()) {
+        for (const QWidget *alert : QApplication::topLevelWidgets()) {
+            if (!alert->isVisible() || !qobject_cast<const Window_Alert *>(alert))
+                continue;
             for (QAbstractButton *button : alert->findChildren<QAbstractButton *>()) {
                 if (button->text().remove(QLatin1Char('&')) == title)
                     return button->click();

@@ -3,9 +3,9 @@
 
 #include "app/Window_New_Disc.h"
 #include "runner/ActivityLog.h"
-#include "runner/StatusSheets.h"
 #include "support/Person.h"
 #include "support/TestApplication.h"
+#include "writing/StatusSheets.h"
 
 #include <QDirIterator>
 #include <QFileDialog>

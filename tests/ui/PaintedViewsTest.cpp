@@ -1,6 +1,6 @@
 #include "ui/PaintedViews.h"
 
-#include "ui/Spinner.h"
+#include "kit/Spinner.h"
 
 #include <QApplication>
 #include <QSet>

@@ -1,4 +1,4 @@
-#include "ui/SymbolIcon.h"
+#include "kit/SymbolIcon.h"
 
 #include <QDir>
 #include <QImage>

@@ -1,6 +1,6 @@
 #include "ui/preview/AVSPDocument.h"
 
-#include "ui/SymbolIcon.h"
+#include "kit/SymbolIcon.h"
 #include "ui/preview/MediaPlayer.h"
 #include "ui_AVSPDocument.h"
 

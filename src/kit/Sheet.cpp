@@ -1,40 +1,60 @@
-#include "app/Sheet.h"
+#include "kit/Sheet.h"
 
-#include <QAction>
-#include <QCloseEvent>
+#include "kit/SheetStage.h"
+
 #include <QDialogButtonBox>
-#include <QLayout>
 #include <QPainter>
 #include <QPushButton>
 
-Sheet::Sheet(QWidget *parent, Dismiss dismiss)
-    : QDialog(parent, Qt::Sheet | Qt::FramelessWindowHint)
+#include <algorithm>
+
+Sheet::Sheet(SheetStage *stage, Dismiss dismiss)
+    : QDialog(stage->ground(), Qt::Widget)
+    , m_stage(stage)
     , m_dismiss(dismiss)
 {
-    setWindowModality(Qt::WindowModal);
-    auto *quit = new QAction(this);
-    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
-    connect(quit, &QAction::triggered, this, &Sheet::quitRequested);
-    addAction(quit);
+}
+
+Sheet::~Sheet()
+{
+    if (m_stage)
+        m_stage->end(this);
 }
 
 void Sheet::beginSheet()
 {
-    setWindowTitle(parentWidget()->windowTitle());
-    parentWidget()->window()->installEventFilter(this);
     // Some styles put signs on the standard buttons, and only on these.
     for (const auto *box : findChildren<QDialogButtonBox *>())
         for (QAbstractButton *button : box->buttons())
             button->setIcon({});
-    adjustSize();
-    growToText();
-    show();
+    if (const auto *heading = findChild<SheetHeading *>())
+        setAccessibleName(heading->text());
+    m_stage->begin(this);
 }
 
 void Sheet::endSheet()
 {
     hide();
+    if (m_stage)
+        m_stage->end(this);
     deleteLater();
+}
+
+void Sheet::takeKeyboard()
+{
+    QWidget *receiver = focusWidget();
+    const auto buttons = findChildren<QPushButton *>();
+    if (!receiver) {
+        const auto found = std::ranges::find_if(
+            buttons, [](const QPushButton *button) { return button->isDefault() && button->isEnabled(); });
+        receiver = found != buttons.end() ? *found : nullptr;
+    }
+    for (QPushButton *button : buttons) {
+        if (!receiver && button->isVisibleTo(this) && button->isEnabled())
+            receiver = button;
+    }
+    if (receiver)
+        receiver->setFocus();
 }
 
 QString Sheet::wrappable(const QString &text)
@@ -54,23 +74,10 @@ QString Sheet::wrappable(const QString &text)
     return broken;
 }
 
-void Sheet::growToText()
-{
-    layout()->activate(); // it remembers how high the old text was
-    resize(width(), qMax(height(), heightForWidth(width())));
-}
-
 void Sheet::reject()
 {
     if (m_dismiss == Dismiss::ByPerson)
         cancelled();
-}
-
-void Sheet::closeEvent(QCloseEvent *event)
-{
-    // Closing asked for from outside means the whole window: the sheet has no close button of its own.
-    event->ignore();
-    Q_EMIT quitRequested();
 }
 
 void Sheet::paintEvent(QPaintEvent *)
@@ -83,24 +90,10 @@ void Sheet::paintEvent(QPaintEvent *)
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
+/// Not the dialog's own: that one would place it as a window on the screen.
 void Sheet::showEvent(QShowEvent *event)
 {
-    QDialog::showEvent(event);
-    placeOverParent();
-}
-
-bool Sheet::eventFilter(QObject *watched, QEvent *event)
-{
-    if (isVisible() && (event->type() == QEvent::Resize || event->type() == QEvent::Move))
-        placeOverParent();
-    return QDialog::eventFilter(watched, event);
-}
-
-void Sheet::placeOverParent()
-{
-    const QWidget *owner = parentWidget()->window();
-    const QPoint corner = owner->mapToGlobal(QPoint((owner->width() - width()) / 2, owner->height() / 7));
-    move(corner);
+    QWidget::showEvent(event);
 }
 
 SheetHeading::SheetHeading(QWidget *parent)
@@ -111,4 +104,5 @@ SheetHeading::SheetHeading(QWidget *parent)
     heading.setPointSizeF(heading.pointSizeF() * 1.15);
     setFont(heading);
     setWordWrap(true);
+    setTextFormat(Qt::PlainText);
 }

@@ -1,4 +1,4 @@
-#include "ui/Spinner.h"
+#include "kit/Spinner.h"
 
 #include <QPainter>
 #include <QTimerEvent>

@@ -1,4 +1,4 @@
-#include "app/FolderClaim.h"
+#include "writing/FolderClaim.h"
 
 #include <QFile>
 

@@ -1,0 +1,25 @@
+// What the program needs of the machine it runs on.
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class Questions;
+
+/// What the controller needs of the machine around it. The defaults are a person's machine; tests
+/// and the batch form put their own in.
+struct Surroundings {
+    QString drutil; ///< full path of the disc utility
+    QString hdiutil; ///< full path of the disk-image utility
+    QString resources; ///< the folder of the application's own resources
+    int probeLimit = 60'000; ///< ms after which a probe that gives no answer is ended
+    int stagingPoll = 60'000; ///< ms between two measurements of a folder that is being copied
+    int copyEndLimit = 10'000; ///< ms that a folder copy has to stop when the disc is written
+    bool stagingUntilCopied = false; ///< goes on when a folder is copied, without waiting for the next look
+    Questions *questions = nullptr; ///< answers alerts and panels; not owned
+    std::function<void(int)> exitProcess; ///< ends the process at once with this status
+
+    /// The machine as it is: tools at their usual places, else beside the program.
+    static Surroundings ofThisMachine(Questions *questions);
+};

@@ -1,0 +1,119 @@
+#include "kit/SheetStage.h"
+
+#include "kit/Sheet.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <utility>
+
+SheetStage::SheetStage(QWidget *content)
+    : QScrollArea(content->parentWidget())
+    , m_content(content)
+    , m_ground(new QWidget)
+    , m_places(new QGridLayout(m_ground))
+{
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);
+    setWidget(m_ground);
+    // The veil has to show what is behind it.
+    m_ground->setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
+    m_places->setContentsMargins(16, 16, 16, 16);
+    m_places->setRowStretch(0, 1);
+    m_places->setRowStretch(2, 5);
+    content->installEventFilter(this);
+    hide();
+}
+
+SheetStage::~SheetStage()
+{
+    qDeleteAll(std::exchange(m_sheets, {}));
+}
+
+SheetStage *SheetStage::of(const QWidget *widget)
+{
+    return widget ? widget->window()->findChild<SheetStage *>() : nullptr;
+}
+
+void SheetStage::hold()
+{
+    ++m_holds;
+    update();
+}
+
+void SheetStage::release()
+{
+    Q_ASSERT(m_holds > 0);
+    --m_holds;
+    update();
+}
+
+Sheet *SheetStage::sheet() const
+{
+    return m_sheets.isEmpty() ? nullptr : m_sheets.last();
+}
+
+QWidget *SheetStage::front() const
+{
+    return m_front ? m_front.data() : sheet();
+}
+
+void SheetStage::begin(Sheet *sheet)
+{
+    m_sheets.append(sheet);
+    m_places->addWidget(sheet, 1, 0, Qt::AlignHCenter | Qt::AlignTop);
+    update();
+    sheet->show();
+    sheet->raise();
+    giveKeyboard();
+}
+
+void SheetStage::end(Sheet *sheet)
+{
+    if (m_sheets.removeAll(sheet) == 0)
+        return;
+    m_places->removeWidget(sheet);
+    update();
+    giveKeyboard();
+}
+
+void SheetStage::update()
+{
+    if (m_occupied == isOccupied())
+        return;
+    m_occupied = isOccupied();
+    if (m_occupied)
+        m_focusBefore = window()->focusWidget();
+    m_content->setEnabled(!m_occupied);
+    setGeometry(m_content->geometry());
+    setVisible(m_occupied);
+    raise();
+    if (!m_occupied && m_focusBefore)
+        m_focusBefore->setFocus();
+    Q_EMIT occupiedChanged(m_occupied);
+}
+
+void SheetStage::giveKeyboard()
+{
+    if (Sheet *top = sheet())
+        top->takeKeyboard();
+}
+
+void SheetStage::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(viewport());
+    QColor veil = palette().color(QPalette::Shadow);
+    veil.setAlphaF(0.35F);
+    painter.fillRect(event->rect(), veil);
+}
+
+bool SheetStage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_content && (event->type() == QEvent::Resize || event->type() == QEvent::Move))
+        setGeometry(m_content->geometry());
+    return QScrollArea::eventFilter(watched, event);
+}

@@ -1,5 +1,6 @@
 #include "audio/AudioDisc.h"
 
+#include "base/Fd.h"
 #include "base/Words.h"
 
 #include <algorithm>
@@ -48,12 +49,10 @@ bool isSidecar(int folder, const std::string &name)
     static constexpr std::string_view magic("\0\x05\x16\x07", 4);
     if (!name.starts_with("._"))
         return false;
-    const int fd = openat(folder, name.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    const Fd file(openat(folder, name.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     char start[magic.size()];
-    const ssize_t got = fd >= 0 ? pread(fd, start, sizeof start, 0) : -1;
-    if (fd >= 0)
-        close(fd);
-    return got == ssize_t{ sizeof start } && std::string_view(start, sizeof start) == magic;
+    const auto got = file ? readFully(file.get(), std::as_writable_bytes(std::span(start)), 0) : -1;
+    return got == std::ssize(start) && std::string_view(start, sizeof start) == magic;
 }
 
 bool isDigit(char character)

@@ -6,9 +6,9 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
-#include <fcntl.h>
 #include <libburn/libburn.h>
 #include <new>
+#include <span>
 #include <unistd.h>
 #include <utility>
 #include <vector>
@@ -40,64 +40,30 @@ int readSource(burn::burn_source *source, unsigned char *buffer, int size)
     return -1;
 }
 
-Result<void> writeAll(int fd, const std::byte *bytes, std::size_t size, const std::string &destination)
+Result<void> writeAll(int fd, std::span<const std::byte> bytes, const std::string &destination)
 {
-    while (size > 0) {
-        const ssize_t part = write(fd, bytes, size);
-        if (part < 0 && errno == EINTR)
-            continue;
-        if (part < 0)
-            return Error{ Exit::failed,
-                quoted(destination) + " cannot be written: " + reasonAndAdvice(errno) + "." };
-        bytes += part;
-        size -= static_cast<std::size_t>(part);
-    }
-    return {};
+    if (writeFully(fd, bytes))
+        return {};
+    return systemError(quoted(destination) + " cannot be written", errno);
 }
 
 } // namespace
 
 Result<TrackStream> TrackStream::open(const AudioTrack &track)
 {
-    const int fd = ::open(track.path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    if (fd < 0)
-        return Error{ Exit::failed,
-            "The file " + quoted(track.path) + " cannot be read: " + reasonAndAdvice(errno) + "." };
-    return TrackStream(track, fd);
+    Fd file = openToRead(track.path);
+    if (!file)
+        return systemError("The file " + quoted(track.path) + " cannot be read", errno);
+    return TrackStream(track, std::move(file));
 }
 
-TrackStream::TrackStream(const AudioTrack &track, int fd)
+TrackStream::TrackStream(const AudioTrack &track, Fd file)
     : m_path(track.path)
-    , m_fd(fd)
+    , m_file(std::move(file))
     , m_next(track.wave.offset)
     , m_samples(track.wave.size)
     , m_silence(static_cast<std::uint64_t>(track.sectors) * sectorSize - track.wave.size)
 {
-}
-
-TrackStream::TrackStream(TrackStream &&other) noexcept
-    : m_path(std::move(other.m_path))
-    , m_fd(std::exchange(other.m_fd, -1))
-    , m_next(other.m_next)
-    , m_samples(other.m_samples)
-    , m_silence(other.m_silence)
-{
-}
-
-TrackStream &TrackStream::operator=(TrackStream &&other) noexcept
-{
-    std::swap(m_path, other.m_path);
-    std::swap(m_fd, other.m_fd);
-    m_next = other.m_next;
-    m_samples = other.m_samples;
-    m_silence = other.m_silence;
-    return *this;
-}
-
-TrackStream::~TrackStream()
-{
-    if (m_fd >= 0)
-        close(m_fd);
 }
 
 Result<std::size_t> TrackStream::read(std::byte *buffer, std::size_t size)
@@ -105,7 +71,7 @@ Result<std::size_t> TrackStream::read(std::byte *buffer, std::size_t size)
     std::size_t done = 0;
     while (done < size && m_samples > 0) {
         const auto most = static_cast<std::size_t>(std::min<std::uint64_t>(size - done, m_samples));
-        const ssize_t got = pread(m_fd, buffer + done, most, static_cast<off_t>(m_next));
+        const ssize_t got = pread(m_file.get(), buffer + done, most, static_cast<off_t>(m_next));
         if (got < 0 && errno == EINTR)
             continue;
         if (got <= 0)
@@ -145,7 +111,7 @@ Result<void> writeBin(const AudioDisc &disc, int fd, const std::string &destinat
     const std::function<bool(std::uint32_t sectors)> &progress)
 {
     std::vector<std::byte> buffer(sectorsAtOnce * sectorSize);
-    if (auto ok = writeAll(fd, buffer.data(), firstPause * sectorSize, destination); !ok)
+    if (auto ok = writeAll(fd, std::span(buffer).first(firstPause * sectorSize), destination); !ok)
         return ok;
     std::uint32_t written = firstPause;
     for (const AudioTrack &track : disc.tracks) {
@@ -160,7 +126,7 @@ Result<void> writeBin(const AudioDisc &disc, int fd, const std::string &destinat
                 return got.error();
             if (*got == 0)
                 break;
-            if (auto ok = writeAll(fd, buffer.data(), *got, destination); !ok)
+            if (auto ok = writeAll(fd, std::span(buffer).first(*got), destination); !ok)
                 return ok;
             written += static_cast<std::uint32_t>(*got / sectorSize);
         }

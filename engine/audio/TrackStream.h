@@ -2,6 +2,7 @@
 #pragma once
 
 #include "audio/AudioDisc.h"
+#include "base/Fd.h"
 #include "base/Result.h"
 
 #include <cstddef>
@@ -22,19 +23,15 @@ public:
     /// Opens the track's file. An error names it.
     static Result<TrackStream> open(const AudioTrack &track);
 
-    TrackStream(TrackStream &&other) noexcept;
-    TrackStream &operator=(TrackStream &&other) noexcept;
-    ~TrackStream();
-
     /// Fills `buffer` with the next bytes of the track and returns their number, which is less
     /// than `size` only at the end of the track. A file that cannot be read, or is shorter than
     /// it was, is an error that names it.
     Result<std::size_t> read(std::byte *buffer, std::size_t size);
 
 private:
-    TrackStream(const AudioTrack &track, int fd);
+    TrackStream(const AudioTrack &track, Fd file);
     std::string m_path;
-    int m_fd = -1;
+    Fd m_file;
     std::uint64_t m_next = 0; ///< offset in the file
     std::uint64_t m_samples = 0; ///< bytes of samples still to come
     std::uint64_t m_silence = 0; ///< bytes of silence still to come

@@ -6,11 +6,9 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
-#include <fcntl.h>
 #include <optional>
 #include <string_view>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace engine::audio {
 
@@ -42,7 +40,7 @@ struct Format {
 class Bytes {
 public:
     Bytes(const ReadAt &readAt, std::uint64_t offset, std::size_t size)
-        : m_size(readAt(offset, m_bytes.data(), std::min(size, m_bytes.size())))
+        : m_size(readAt(offset, std::span(m_bytes).first(std::min(size, m_bytes.size()))))
     {
     }
 
@@ -160,14 +158,7 @@ Result<WaveData> parseWave(const ReadAt &readAt, std::uint64_t fileSize)
 
 Result<WaveData> parseWave(std::span<const std::byte> file)
 {
-    const ReadAt readAt = [file](std::uint64_t offset, std::byte *buffer, std::size_t size) -> std::size_t {
-        if (offset >= file.size())
-            return 0;
-        size = std::min<std::size_t>(size, file.size() - static_cast<std::size_t>(offset));
-        std::memcpy(buffer, file.data() + offset, size);
-        return size;
-    };
-    return parseWave(readAt, file.size());
+    return parseWave(readAtOf(file), file.size());
 }
 
 Result<WaveData> readWave(const std::string &path)
@@ -175,21 +166,14 @@ Result<WaveData> readWave(const std::string &path)
     const auto failed = [&path](const std::string &predicate) {
         return Error{ Exit::failed, "The file " + quoted(path) + " " + predicate + "." };
     };
-    // Not blocking: a pipe of that name must not hold the program up.
-    const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    const Fd file = openToRead(path);
     struct stat info { };
-    if (fd < 0 || fstat(fd, &info) != 0)
+    if (!file || fstat(file.get(), &info) != 0)
         return failed("cannot be read: " + reasonAndAdvice(errno));
     int readError = 0;
-    const ReadAt readAt = [fd, &readError](std::uint64_t offset, std::byte *buffer, std::size_t size) {
-        const ssize_t got = pread(fd, buffer, size, static_cast<off_t>(offset));
-        if (got < 0)
-            readError = errno;
-        return got < 0 ? 0 : static_cast<std::size_t>(got);
-    };
-    const auto data = S_ISREG(info.st_mode) ? parseWave(readAt, static_cast<std::uint64_t>(info.st_size))
-                                            : Result<WaveData>(noTrack("is not a file"));
-    close(fd);
+    const auto data = S_ISREG(info.st_mode)
+        ? parseWave(readAtOf(file, readError), static_cast<std::uint64_t>(info.st_size))
+        : Result<WaveData>(noTrack("is not a file"));
     if (readError != 0)
         return failed("cannot be read: " + reasonAndAdvice(readError));
     return data ? data : failed(data.error().message);

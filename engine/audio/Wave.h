@@ -1,18 +1,15 @@
 // Where the samples of a WAVE file lie, and whether an audio disc can hold them.
 #pragma once
 
+#include "base/Fd.h"
 #include "base/Result.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <span>
 #include <string>
 
 namespace engine::audio {
-
-/// Reads up to `size` bytes at `offset` of a file into `buffer`, and returns how many there were.
-using ReadAt = std::function<std::size_t(std::uint64_t offset, std::byte *buffer, std::size_t size)>;
 
 /// The sample data of a WAVE file: whole stereo frames of 4 bytes, little-endian.
 struct WaveData {

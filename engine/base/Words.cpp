@@ -120,6 +120,11 @@ std::string reasonAndAdvice(int error)
     return reason(error) + "; " + (row == advices.end() ? "try again" : row->text);
 }
 
+Error systemError(const std::string &what, int failure)
+{
+    return { Exit::failed, what + ": " + reasonAndAdvice(failure) + "." };
+}
+
 std::string sizeText(std::uint64_t bytes)
 {
     static constexpr std::array units{ "bytes", "kB", "MB", "GB", "TB" };

@@ -1,6 +1,8 @@
 // Pieces of the sentences that the engine says to a person.
 #pragma once
 
+#include "base/Result.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -17,6 +19,10 @@ std::string reason(int error);
 /// The same, and what to do about it: "permission denied; get the permission for it or choose another one". For the end
 /// of an error's sentence, before its full stop.
 std::string reasonAndAdvice(int error);
+
+/// "The disc of drive 1 cannot be read: permission denied; get the permission for it or choose another one.";
+/// `failure` is an errno.
+Error systemError(const std::string &what, int failure);
 
 /// A size for people, in decimal units: "734 MB", "4.7 GB", "512 bytes".
 std::string sizeText(std::uint64_t bytes);

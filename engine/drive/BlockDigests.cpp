@@ -1,5 +1,7 @@
 #include "drive/BlockDigests.h"
 
+#include "base/Words.h"
+
 #define XXH_INLINE_ALL
 #include <algorithm>
 #include <cerrno>

@@ -1,8 +1,8 @@
 // A short digest of every block that was sent, to compare a disc with when it is read back.
 #pragma once
 
+#include "base/Fd.h"
 #include "drive/Drive.h"
-#include "drive/System.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,7 @@
 #include "drive/DeviceNode.h"
 
-#include "drive/System.h"
+#include "base/Fd.h"
+#include "base/Words.h"
 
 #include <cerrno>
 #include <chrono>

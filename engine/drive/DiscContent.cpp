@@ -76,8 +76,7 @@ ImageContent::ImageContent(std::string path, Fd file, std::uint64_t size)
 
 Result<std::unique_ptr<DiscData>> ImageContent::open(const std::string &path)
 {
-    // O_NONBLOCK: a named pipe must not hold up the program; regular files do not know the difference.
-    Fd file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    Fd file = openToRead(path);
     struct stat info { };
     if (!file || ::fstat(file.get(), &info) != 0)
         return systemError(engine::quoted(path) + " cannot be read", errno);

@@ -1,10 +1,10 @@
 // What data discs are made of: a folder, or an image file.
 #pragma once
 
+#include "base/Fd.h"
 #include "drive/Burn.h"
 #include "drive/Drive.h"
 #include "drive/Source.h"
-#include "drive/System.h"
 #include "image/IsoImage.h"
 
 #include <memory>

@@ -1,6 +1,6 @@
 #include "drive/PhysicalDrives.h"
 
-#include "drive/System.h"
+#include "drive/SmallFile.h"
 
 #include <algorithm>
 #include <array>

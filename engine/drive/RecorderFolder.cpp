@@ -1,6 +1,7 @@
 #include "drive/RecorderFolder.h"
 
 #include "base/Words.h"
+#include "drive/SmallFile.h"
 #include "report/Medium.h"
 
 #include <algorithm>

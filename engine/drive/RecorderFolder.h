@@ -1,9 +1,9 @@
 // The folders of the virtual recorders: one a recorder, named by a number.
 #pragma once
 
+#include "base/Fd.h"
 #include "base/Result.h"
 #include "drive/RecorderState.h"
-#include "drive/System.h"
 
 #include <string>
 #include <vector>

@@ -2,6 +2,7 @@
 
 #include "audio/AudioDisc.h"
 #include "audio/TrackStream.h"
+#include "base/Words.h"
 #include "drive/LibburnDrive.h"
 #include "drive/RecorderFolder.h"
 #include "drive/WriteFailure.h"

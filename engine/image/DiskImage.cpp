@@ -6,11 +6,9 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
-#include <fcntl.h>
 #include <optional>
 #include <string_view>
 #include <sys/stat.h>
-#include <unistd.h>
 #include <vector>
 
 namespace engine::image {
@@ -46,7 +44,7 @@ constexpr std::string_view synchronization("\0\xff\xff\xff\xff\xff\xff\xff\xff\x
 std::string readText(const ReadAt &readAt, std::uint64_t offset, std::uint64_t size)
 {
     std::string text(static_cast<std::size_t>(size), '\0');
-    text.resize(readAt(offset, reinterpret_cast<std::byte *>(text.data()), text.size()));
+    text.resize(readAt(offset, std::as_writable_bytes(std::span(text))));
     return text;
 }
 
@@ -172,22 +170,14 @@ Result<void> checkDiskImage(const std::string &path)
     const auto failed = [&path](const std::string &predicate) {
         return Error{ Exit::failed, "The image " + quoted(path) + " " + predicate + "." };
     };
-    // Not blocking: a pipe of that name must not hold the program up.
-    const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    if (fd < 0)
+    const Fd file = openToRead(path);
+    if (!file)
         return failed("cannot be read: " + reasonAndAdvice(errno));
     struct stat info { };
-    int readError = fstat(fd, &info) == 0 ? 0 : errno;
-    const ReadAt readAt = [fd, &readError](std::uint64_t offset, std::byte *buffer, std::size_t size) {
-        const ssize_t got = pread(fd, buffer, size, static_cast<off_t>(offset));
-        if (got < 0)
-            readError = errno;
-        return got < 0 ? 0 : static_cast<std::size_t>(got);
-    };
+    int readError = fstat(file.get(), &info) == 0 ? 0 : errno;
     DiskImageKind kind = DiskImageKind::plain;
     if (S_ISREG(info.st_mode))
-        kind = diskImageKind(readAt, static_cast<std::uint64_t>(info.st_size));
-    close(fd);
+        kind = diskImageKind(readAtOf(file, readError), static_cast<std::uint64_t>(info.st_size));
     if (readError != 0)
         return failed("cannot be read: " + reasonAndAdvice(readError));
     if (!S_ISREG(info.st_mode))

@@ -1,17 +1,13 @@
 // Image files that cannot be written to a disc as they are.
 #pragma once
 
+#include "base/Fd.h"
 #include "base/Result.h"
 
-#include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <string>
 
 namespace engine::image {
-
-/// Reads up to `size` bytes at `offset` of a file into `buffer`, and returns how many there were.
-using ReadAt = std::function<std::size_t(std::uint64_t offset, std::byte *buffer, std::size_t size)>;
 
 enum class DiskImageKind {
     plain, ///< its bytes are the blocks of a disc

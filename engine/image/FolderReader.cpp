@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <fcntl.h>
 #include <unistd.h>
+#include <utility>
 
 namespace engine::image {
 
@@ -27,20 +27,13 @@ FolderReader::~FolderReader()
     }
     m_changed.notify_all();
     m_thread.join();
-    for (const Slot &slot : m_slots) {
-        if (slot.file >= 0)
-            close(slot.file);
-    }
 }
 
 bool FolderReader::next(Piece &piece)
 {
     std::unique_lock lock(m_mutex);
     if (m_released < m_taken) {
-        Slot &done = m_slots[m_released % slotCount];
-        if (done.file >= 0)
-            close(done.file);
-        done.file = -1;
+        m_slots[m_released % slotCount].file = Fd();
         m_released = m_taken;
         m_changed.notify_all();
     }
@@ -48,7 +41,7 @@ bool FolderReader::next(Piece &piece)
     if (m_published == m_taken)
         return false;
     const Slot &slot = m_slots[m_taken++ % slotCount];
-    piece = { { slot.bytes.get(), slot.filled }, slot.file, slot.fileSize, slot.content };
+    piece = { { slot.bytes.get(), slot.filled }, slot.file.get(), slot.fileSize, slot.content };
     return true;
 }
 
@@ -89,14 +82,12 @@ bool FolderReader::readContent(std::uint32_t content, TreeOpener &opener)
     const std::uint64_t size = m_tree.contents()[content].size;
     if (size == 0)
         return true;
-    const int fd = opener.openFile(m_tree.contents()[content].entry);
-    if (fd < 0)
+    Fd file = opener.openFile(m_tree.contents()[content].entry);
+    if (!file)
         return fail(content, errno);
     if (m_large == Large::open && size >= largeSize)
-        return handOver(fd, content) && pad(size);
-    const bool going = readBytes(fd, content);
-    close(fd);
-    return going && pad(size);
+        return handOver(std::move(file), content) && pad(size);
+    return readBytes(file.get(), content) && pad(size);
 }
 
 bool FolderReader::readBytes(int fd, std::uint32_t content)
@@ -117,10 +108,10 @@ bool FolderReader::readBytes(int fd, std::uint32_t content)
     return true;
 }
 
-bool FolderReader::handOver(int fd, std::uint32_t content)
+bool FolderReader::handOver(Fd file, std::uint32_t content)
 {
     Slot &slot = filling();
-    slot.file = fd;
+    slot.file = std::move(file);
     slot.fileSize = m_tree.contents()[content].size;
     slot.content = content;
     return publish();

@@ -1,6 +1,7 @@
 // Reads the data of a tree's files ahead of whoever writes them.
 #pragma once
 
+#include "base/Fd.h"
 #include "base/Result.h"
 #include "image/FolderTree.h"
 
@@ -54,7 +55,7 @@ private:
     struct Slot {
         std::unique_ptr<std::byte[]> bytes;
         std::size_t filled = 0;
-        int file = -1;
+        Fd file; ///< one that is handed over
         std::uint64_t fileSize = 0;
         std::uint32_t content = 0;
     };
@@ -63,7 +64,7 @@ private:
     void run();
     bool readContent(std::uint32_t content, TreeOpener &opener);
     bool readBytes(int fd, std::uint32_t content);
-    bool handOver(int fd, std::uint32_t content);
+    bool handOver(Fd file, std::uint32_t content);
     bool pad(std::uint64_t size);
     bool publish();
     bool fail(std::uint32_t content, int error);

@@ -131,14 +131,13 @@ private:
     bool listNames(int fd)
     {
         m_names.clear();
-        const int own = openat(fd, ".", folderFlags);
-        if (own < 0)
+        Fd own(openat(fd, ".", folderFlags));
+        if (!own)
             return false;
-        const std::unique_ptr<DIR, int (*)(DIR *)> directory(fdopendir(own), closedir);
-        if (!directory) {
-            close(own);
+        const std::unique_ptr<DIR, int (*)(DIR *)> directory(fdopendir(own.get()), closedir);
+        if (!directory)
             return false;
-        }
+        own.release(); // closed with the directory
         errno = 0;
         while (const dirent *item = readdir(directory.get())) {
             if (std::strcmp(item->d_name, ".") != 0 && std::strcmp(item->d_name, "..") != 0)
@@ -343,67 +342,50 @@ TreeOpener::TreeOpener(const FolderTree &tree)
 {
 }
 
-TreeOpener::~TreeOpener()
-{
-    if (m_fd >= 0 && m_fd != m_root)
-        close(m_fd);
-    if (m_root >= 0)
-        close(m_root);
-}
-
 int TreeOpener::enter(std::uint32_t folder)
 {
-    if (m_root < 0) {
-        m_root = open(m_tree.folder().c_str(), folderFlags);
-        m_fd = m_root;
-        m_current = 0;
-    }
-    if (m_root < 0 || m_current == folder)
-        return m_fd;
-    const bool isChild = m_fd >= 0 && m_tree.entries()[folder].parent == m_current;
-    const int fd =
-        isChild ? openat(m_fd, m_tree.name(m_tree.entries()[folder]), folderFlags) : openChain(folder);
-    const int error = errno;
-    if (m_fd >= 0 && m_fd != m_root)
-        close(m_fd);
-    m_fd = fd >= 0 ? fd : m_root;
-    m_current = fd >= 0 ? folder : 0;
-    errno = error;
-    return fd;
+    if (!m_root)
+        m_root = Fd(open(m_tree.folder().c_str(), folderFlags));
+    if (!m_root || folder == 0)
+        return m_root.get();
+    if (m_current == folder)
+        return m_folder.get();
+    const Entry &entry = m_tree.entries()[folder];
+    const Fd &parent = m_current == 0 ? m_root : m_folder;
+    m_folder = entry.parent == m_current ? Fd(openat(parent.get(), m_tree.name(entry), folderFlags))
+                                         : openChain(folder);
+    m_current = m_folder ? folder : 0;
+    return m_folder.get();
 }
 
 // The kernel takes PATH_MAX bytes at once, so a deep folder is reached in several steps.
-int TreeOpener::openChain(std::uint32_t folder)
+Fd TreeOpener::openChain(std::uint32_t folder) const
 {
     const std::string path = m_tree.relativePath(folder);
-    int fd = m_root;
+    Fd reached;
     for (std::size_t at = 0; at < path.size();) {
         std::size_t end = path.size();
         if (end - at >= PATH_MAX)
             end = path.rfind('/', at + PATH_MAX - 2);
-        const int next = openat(fd, path.substr(at, end - at).c_str(), folderFlags);
-        const int error = errno;
-        if (fd != m_root)
-            close(fd);
-        if (next < 0) {
-            errno = error;
-            return -1;
-        }
-        fd = next;
+        const int from = reached ? reached.get() : m_root.get();
+        Fd next(openat(from, path.substr(at, end - at).c_str(), folderFlags));
+        if (!next)
+            return next;
+        reached = std::move(next);
         at = end + 1;
     }
-    return fd;
+    return reached;
 }
 
-int TreeOpener::openFile(std::uint32_t file)
+Fd TreeOpener::openFile(std::uint32_t file)
 {
     const Entry &entry = m_tree.entries()[file];
     const int folder = enter(entry.parent);
     if (folder < 0)
-        return -1;
+        return {};
     // Not blocking: should something else have taken the file's place, such as a pipe.
     const int flags = O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK | (m_tree.followsLinks() ? 0 : O_NOFOLLOW);
-    return openat(folder, m_tree.name(entry), flags);
+    return Fd(openat(folder, m_tree.name(entry), flags));
 }
 
 } // namespace engine::image

@@ -1,6 +1,7 @@
 // What lies under a folder, read once, in the order in which it is stored on a disc.
 #pragma once
 
+#include "base/Fd.h"
 #include "base/Result.h"
 #include "image/IsoImage.h"
 
@@ -70,22 +71,18 @@ private:
 class TreeOpener {
 public:
     explicit TreeOpener(const FolderTree &tree);
-    TreeOpener(const TreeOpener &) = delete;
-    TreeOpener &operator=(const TreeOpener &) = delete;
-    ~TreeOpener();
-
     /// Makes `folder` the current one and returns its descriptor, owned by this object and valid
     /// until the next call; -1 with errno on failure.
     int enter(std::uint32_t folder);
-    /// A new descriptor of a regular file for reading, owned by the caller; -1 with errno.
-    int openFile(std::uint32_t file);
+    /// A regular file, open for reading; empty with errno on failure.
+    Fd openFile(std::uint32_t file);
 
 private:
-    int openChain(std::uint32_t folder);
+    Fd openChain(std::uint32_t folder) const;
     const FolderTree &m_tree;
     std::uint32_t m_current = 0;
-    int m_root = -1;
-    int m_fd = -1; ///< of m_current
+    Fd m_root;
+    Fd m_folder; ///< of m_current, when that is not the root
 };
 
 } // namespace engine::image

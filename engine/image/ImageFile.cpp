@@ -1,5 +1,6 @@
 #include "image/ImageFile.h"
 
+#include "base/Fd.h"
 #include "base/Words.h"
 
 #include <algorithm>
@@ -35,15 +36,9 @@ Result<void> ImageFile::write(std::span<const std::byte> bytes)
 {
     if (auto ok = goOn(); !ok)
         return ok;
-    while (!bytes.empty()) {
-        const ssize_t done = ::write(m_fd, bytes.data(), bytes.size());
-        if (done < 0 && errno == EINTR)
-            continue;
-        if (done < 0)
-            return writeError(m_name, errno);
-        bytes = bytes.subspan(static_cast<std::size_t>(done));
-        m_written += static_cast<std::uint64_t>(done);
-    }
+    if (!writeFully(m_fd, bytes))
+        return writeError(m_name, errno);
+    m_written += bytes.size();
     return {};
 }
 

@@ -43,17 +43,14 @@ std::string linkOf(int fd)
     return "/proc/self/fd/" + std::to_string(fd);
 }
 
-/// A file without a name in the folder of `path`; -1 where there can be none, or where it could not get a
+/// A file without a name in the folder of `path`; empty where there can be none, or where it could not get a
 /// name later.
-int openNameless(const std::string &path)
+Fd openNameless(const std::string &path)
 {
     const std::size_t slash = path.rfind('/');
     const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
-    const int fd = open(folder.c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, 0666);
-    if (fd < 0 || access(linkOf(fd).c_str(), F_OK) == 0)
-        return fd;
-    close(fd);
-    return -1;
+    Fd file(open(folder.c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, 0666));
+    return file && access(linkOf(file.get()).c_str(), F_OK) == 0 ? std::move(file) : Fd();
 }
 
 } // namespace
@@ -70,46 +67,37 @@ Result<NewFile> NewFile::create(const std::string &path, std::uint64_t size)
 {
     if (auto absent = checkAbsent(path); !absent)
         return absent.error();
-    int fd = openNameless(path);
-    const bool named = fd < 0;
+    Fd made = openNameless(path);
+    const bool named = !made;
     if (named)
-        fd = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (fd < 0)
+        made = Fd(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (!made)
         return errno == EEXIST ? exists(path) : notCreated(path, errno);
-    NewFile file(path, fd, named);
-    if (auto ok = checkRoom(fd, path, size); !ok)
+    NewFile file(path, std::move(made), named);
+    if (auto ok = checkRoom(file.fd(), path, size); !ok)
         return ok.error();
     return file;
 }
 
-NewFile::NewFile(std::string path, int fd, bool named)
+NewFile::NewFile(std::string path, Fd file, bool named)
     : m_path(std::move(path))
-    , m_fd(fd)
+    , m_file(std::move(file))
     , m_named(named)
-{
-}
-
-NewFile::NewFile(NewFile &&other) noexcept
-    : m_path(std::move(other.m_path))
-    , m_fd(std::exchange(other.m_fd, -1))
-    , m_named(other.m_named)
 {
 }
 
 NewFile::~NewFile()
 {
-    if (m_fd < 0)
-        return;
-    if (m_named)
+    if (m_file && m_named)
         unlink(m_path.c_str());
-    close(m_fd);
 }
 
 Result<void> NewFile::keep()
 {
-    if (!m_named && linkat(AT_FDCWD, linkOf(m_fd).c_str(), AT_FDCWD, m_path.c_str(), AT_SYMLINK_FOLLOW) != 0)
+    if (!m_named
+        && linkat(AT_FDCWD, linkOf(m_file.get()).c_str(), AT_FDCWD, m_path.c_str(), AT_SYMLINK_FOLLOW) != 0)
         return errno == EEXIST ? exists(m_path) : notCreated(m_path, errno);
-    if (close(std::exchange(m_fd, -1)) == 0)
+    if (close(m_file.release()) == 0)
         return {};
     const int error = errno;
     unlink(m_path.c_str());

@@ -1,6 +1,7 @@
 // A file that comes into being whole or not at all.
 #pragma once
 
+#include "base/Fd.h"
 #include "base/Result.h"
 
 #include <cstdint>
@@ -17,20 +18,20 @@ public:
     /// writable, the file system has less room.
     static Result<NewFile> create(const std::string &path, std::uint64_t size);
 
-    NewFile(NewFile &&other) noexcept;
+    NewFile(NewFile &&other) noexcept = default;
     NewFile &operator=(NewFile &&other) = delete;
     ~NewFile();
 
-    int fd() const { return m_fd; }
+    int fd() const { return m_file.get(); }
 
     /// Closes the file and lets it stay. Errors: something of its name has come meanwhile; and what a network
     /// file system tells only here.
     Result<void> keep();
 
 private:
-    NewFile(std::string path, int fd, bool named);
+    NewFile(std::string path, Fd file, bool named);
     std::string m_path;
-    int m_fd;
+    Fd m_file; ///< empty once it is kept
     bool m_named; ///< keep() has nothing left to do but to close
 };
 

@@ -33,7 +33,7 @@ Output::Output(int fd, std::function<bool()> stopped)
     // A terminal that has room at all may take less than a pipe would. Opened anew it waits for nobody, and others
     // who have it open notice nothing.
     if (::isatty(fd) == 1)
-        m_terminal = drive::Fd(::open(
+        m_terminal = Fd(::open(
             ("/proc/self/fd/" + std::to_string(fd)).c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     if (m_terminal)
         m_fd = m_terminal.get();

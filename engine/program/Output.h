@@ -1,7 +1,7 @@
 // Lines for somebody who may read slowly, stop reading or go away.
 #pragma once
 
-#include "drive/System.h"
+#include "base/Fd.h"
 
 #include <cstddef>
 #include <functional>
@@ -35,7 +35,7 @@ private:
     void flush();
 
     int m_fd;
-    drive::Fd m_terminal; ///< of m_fd, when that is one
+    Fd m_terminal; ///< of m_fd, when that is one
     std::function<bool()> m_stopped;
     std::string m_waiting; ///< what was told and is not out
     std::size_t m_out = 0; ///< bytes at its start that are

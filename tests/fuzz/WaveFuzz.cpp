@@ -2,7 +2,6 @@
 #include "Fuzz.h"
 #include "audio/Wave.h"
 
-#include <algorithm>
 #include <span>
 
 using namespace engine::audio;
@@ -18,13 +17,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         HOLDS(!whole.error().message.empty());
     }
 
-    const auto readAt = [file](std::uint64_t offset, std::byte *buffer, std::size_t wanted) -> std::size_t {
-        if (offset >= file.size())
-            return 0;
-        const std::size_t count = std::min<std::size_t>(wanted, file.size() - offset);
-        std::copy_n(file.begin() + static_cast<std::ptrdiff_t>(offset), count, buffer);
-        return count;
-    };
+    const engine::ReadAt readAt = engine::readAtOf(file);
     const auto again = parseWave(readAt, size);
     HOLDS(static_cast<bool>(again) == static_cast<bool>(whole));
     HOLDS(

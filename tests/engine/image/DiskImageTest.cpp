@@ -56,15 +56,7 @@ class DiskImageTest : public QObject {
 
     static DiskImageKind kindOf(const std::string &file)
     {
-        const ReadAt readAt = [&file](
-                                  std::uint64_t offset, std::byte *buffer, std::size_t size) -> std::size_t {
-            if (offset >= file.size())
-                return 0;
-            size = std::min<std::size_t>(size, file.size() - offset);
-            std::memcpy(buffer, file.data() + offset, size);
-            return size;
-        };
-        return diskImageKind(readAt, file.size());
+        return diskImageKind(engine::readAtOf(std::as_bytes(std::span(file))), file.size());
     }
 
 private Q_SLOTS:

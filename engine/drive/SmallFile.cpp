@@ -1,36 +1,14 @@
-#include "drive/System.h"
+#include "drive/SmallFile.h"
 
+#include "base/Fd.h"
 #include "base/Words.h"
 
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <utility>
 
 namespace engine::drive {
-
-Fd &Fd::operator=(Fd &&other) noexcept
-{
-    std::swap(m_fd, other.m_fd);
-    return *this;
-}
-
-Fd::~Fd()
-{
-    if (m_fd >= 0)
-        ::close(m_fd);
-}
-
-int Fd::release()
-{
-    return std::exchange(m_fd, -1);
-}
-
-Error systemError(const std::string &what, int failure)
-{
-    return { Exit::failed, what + ": " + reasonAndAdvice(failure) + "." };
-}
 
 Result<std::string> readSmallFile(int folder, const char *name, const std::string &what)
 {
@@ -65,37 +43,6 @@ Result<void> replaceFile(int folder, const std::string &name, std::string_view t
     }
     ::fsync(folder);
     return {};
-}
-
-bool writeFully(int fd, std::span<const std::byte> bytes, off_t offset)
-{
-    while (!bytes.empty()) {
-        const ssize_t n = ::pwrite(fd, bytes.data(), bytes.size(), offset);
-        if (n < 0 && errno != EINTR)
-            return false;
-        if (n > 0) {
-            bytes = bytes.subspan(static_cast<std::size_t>(n));
-            offset += n;
-        }
-    }
-    return true;
-}
-
-std::ptrdiff_t readFully(int fd, std::span<std::byte> buffer, off_t offset)
-{
-    std::size_t done = 0;
-    while (done < buffer.size()) {
-        const ssize_t n =
-            ::pread(fd, buffer.data() + done, buffer.size() - done, offset + static_cast<off_t>(done));
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n < 0)
-            return -1;
-        if (n == 0)
-            break;
-        done += static_cast<std::size_t>(n);
-    }
-    return static_cast<std::ptrdiff_t>(done);
 }
 
 } // namespace engine::drive

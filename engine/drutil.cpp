@@ -16,7 +16,6 @@ namespace {
 
 using namespace engine;
 using drive::Drive;
-using drive::StopSignals;
 using program::Arguments;
 using program::Option;
 using program::printReport;
@@ -76,11 +75,11 @@ Result<report::Medium> mediumInDrive(const Arguments &arguments)
     const auto drive = chosenDrive(arguments);
     if (!drive)
         return drive.error();
-    (*drive)->setStopSignal([&signals] { return signals.caught(); });
+    (*drive)->setStop(signals.stop());
     const auto lease = (*drive)->acquire(drive::Purpose::look);
     const Result<report::Medium> medium = lease ? (*lease)->medium() : lease.error();
-    if (const int signal = signals.caught())
-        return drive::stoppedBy(signal, "Stopped before " + (*drive)->name() + " had told about its disc.");
+    if (const int signal = signals.stop().signal())
+        return stoppedBy(signal, "Stopped before " + (*drive)->name() + " had told about its disc.");
     return medium;
 }
 
@@ -91,12 +90,12 @@ Result<void> changeDrive(const Arguments &arguments, const std::function<Result<
     const auto drive = chosenDrive(arguments);
     if (!drive)
         return drive.error();
-    (*drive)->setStopSignal([&signals] { return signals.caught(); });
+    (*drive)->setStop(signals.stop());
     const Result<void> done = change(**drive);
-    const int signal = signals.caught();
+    const int signal = signals.stop().signal();
     if (!done || signal == 0)
         return done;
-    return drive::stoppedBy(signal, "Stopped after " + (*drive)->name() + " had done what it was told.");
+    return stoppedBy(signal, "Stopped after " + (*drive)->name() + " had done what it was told.");
 }
 
 Result<void> status(const Arguments &arguments)

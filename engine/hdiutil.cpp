@@ -40,7 +40,7 @@ image::IsoOptions imageOptions(Session &session, const std::uint64_t &size)
 {
     image::IsoOptions options;
     options.links = image::Links::follow;
-    options.stop = [&session] { return session.caught() != 0; };
+    options.stop = session.stop();
     options.progress = [control = session.control(), &size](std::uint64_t bytes) {
         report::Progress progress;
         progress.phase = report::Phase::writing;
@@ -84,8 +84,8 @@ Result<void> makeHybrid(const Arguments &arguments)
         return absent;
     Session session;
     auto made = makeImage(arguments.operands.front(), path, session);
-    if (!made && made.error().exit == Exit::interrupted)
-        return drive::stoppedBy(session.caught(), "Stopped: " + quoted(path) + " was not made.");
+    if (!made && isStop(made.error()))
+        return Error{ made.error().exit, "Stopped: " + quoted(path) + " was not made." };
     return made;
 }
 
@@ -95,7 +95,7 @@ Result<void> burnImage(const Arguments &arguments)
     if (auto plain = image::checkDiskImage(path); !plain)
         return plain;
     Session session;
-    const auto burner = drive::defaultBurner(session.control());
+    const auto burner = drive::defaultBurner(session.stop());
     if (!burner)
         return burner.error();
     auto done = drive::burnImageFile(**burner, path, session.burnOptions(true));

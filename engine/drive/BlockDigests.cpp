@@ -126,7 +126,7 @@ Result<void> verify(
     progress.phase = report::Phase::verifying;
     progress.total = sent.blocks();
     for (std::uint64_t block = 0; block < sent.blocks();) {
-        if (const int signal = control.stopped())
+        if (const int signal = control.stop.signal())
             return stoppedUncompared(signal, driveName);
         progress.done = block;
         control.report(progress, blockBytes);

@@ -63,7 +63,7 @@ Result<void> eraseUntilStopped(
 {
     if (auto erased = lease.erase(mode, control); !erased)
         return erased;
-    if (const int signal = control.stopped())
+    if (const int signal = control.stop.signal())
         return stoppedBy(
             signal, "Stopped after the erase had ended: the disc in " + driveName + " is blank.");
     return {};
@@ -84,7 +84,7 @@ Result<void> eraseAndWrite(Lease &lease, const Medium &medium, const std::string
     const BurnOptions &options, const std::function<Result<void>()> &write)
 {
     // Not every preparation asks for a stop, nor does the wait for a drive that is busy.
-    if (const int signal = options.control.stopped())
+    if (const int signal = options.control.stop.signal())
         return stoppedUntouched(signal);
     auto done = eraseFirst(lease, medium, driveName, options);
     if (done)
@@ -96,7 +96,7 @@ Result<void> eraseAndWrite(Lease &lease, const Medium &medium, const std::string
 /// Opens the drive for a write and looks at what is in it.
 Result<std::unique_ptr<Lease>> openForWriting(Drive &drive, Medium &medium, const Control &control)
 {
-    drive.setStopSignal(control.stopSignal);
+    drive.setStop(control.stop);
     auto lease = drive.acquire(Purpose::change);
     if (!lease)
         return lease;
@@ -112,7 +112,7 @@ Result<std::unique_ptr<Lease>> openForWriting(Drive &drive, Medium &medium, cons
 /// A stop that came too late to spare the disc is told all the same.
 Result<void> toldIfStopped(const std::string &driveName, const Control &control)
 {
-    const int signal = control.stopped();
+    const int signal = control.stop.signal();
     return signal == 0
         ? Result<void>()
         : stoppedBy(signal, "Stopped after the disc in " + driveName + " was written and closed.");
@@ -128,7 +128,7 @@ Result<void> writeAndVerify(
         return written;
     if (!options.verify)
         return toldIfStopped(driveName, options.control);
-    if (const int signal = options.control.stopped())
+    if (const int signal = options.control.stop.signal())
         return stoppedUncompared(signal, driveName);
     if (auto loaded = lease.reload(); !loaded)
         return loaded;
@@ -199,7 +199,7 @@ Result<void> burnAudioFolder(Drive &drive, const std::string &folder, const Burn
 
 Result<void> eraseMedium(Drive &drive, EraseMode mode, const Control &control)
 {
-    drive.setStopSignal(control.stopSignal);
+    drive.setStop(control.stop);
     const auto lease = drive.acquire(Purpose::change);
     if (!lease)
         return lease.error();
@@ -212,7 +212,7 @@ Result<void> eraseMedium(Drive &drive, EraseMode mode, const Control &control)
         return Error{ Exit::failed,
             "The " + std::string(report::factsOf(medium->kind).type) + " in " + drive.name()
                 + " cannot be erased: insert a rewritable disc." };
-    if (const int signal = control.stopped())
+    if (const int signal = control.stop.signal())
         return stoppedUntouched(signal);
     auto erased = eraseUntilStopped(**lease, mode, drive.name(), control);
     (*lease)->present();

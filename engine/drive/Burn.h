@@ -32,17 +32,4 @@ Result<void> burnImageFile(Drive &drive, const std::string &image, const BurnOpt
 /// Erases the medium in `drive`.
 Result<void> eraseMedium(Drive &drive, EraseMode mode, const Control &control);
 
-/// Catches SIGINT and SIGTERM as long as it lives, and ignores SIGHUP, SIGPIPE and SIGXFSZ from then on: a signal
-/// is noted, no system call that moves data is broken off, and the operation ends in its own way. One at a time.
-class StopSignals {
-public:
-    StopSignals();
-    ~StopSignals();
-    StopSignals(const StopSignals &) = delete;
-    StopSignals &operator=(const StopSignals &) = delete;
-
-    /// The first signal that came, or 0.
-    int caught() const;
-};
-
 } // namespace engine::drive

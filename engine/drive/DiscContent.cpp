@@ -15,18 +15,17 @@ namespace {
 
 constexpr int shrunk = -1;
 
-image::IsoOptions isoOptions(const std::function<int()> &stopSignal)
+image::IsoOptions isoOptions(const Stop &stop)
 {
     image::IsoOptions options;
-    if (stopSignal)
-        options.stop = [stopSignal] { return stopSignal() != 0; };
+    options.stop = stop;
     return options;
 }
 
-/// The error of a reading that may have been stopped, with the exit code of the signal.
-Error readingError(const Error &error, const std::function<int()> &stopSignal)
+/// The error of a reading that may have been stopped.
+Error readingError(const Error &error, const Stop &stop)
 {
-    const int signal = stopSignal ? stopSignal() : 0;
+    const int signal = stop.signal();
     return signal == 0 ? error : stoppedUntouched(signal);
 }
 
@@ -34,21 +33,21 @@ Error readingError(const Error &error, const std::function<int()> &stopSignal)
 
 Result<std::unique_ptr<DiscData>> FolderContent::read(const std::string &folder, const BurnOptions &options)
 {
-    const auto &stopSignal = options.control.stopSignal;
-    Result<image::IsoImage> image = image::IsoImage::fromFolder(folder, isoOptions(stopSignal));
+    const Stop &stop = options.control.stop;
+    Result<image::IsoImage> image = image::IsoImage::fromFolder(folder, isoOptions(stop));
     if (!image)
-        return readingError(image.error(), stopSignal);
+        return readingError(image.error(), stop);
     if (options.note)
         for (const std::string &note : image->notes())
             options.note(note);
-    return std::unique_ptr<DiscData>(new FolderContent(folder, std::move(image).value(), stopSignal));
+    return std::unique_ptr<DiscData>(new FolderContent(folder, std::move(image).value(), stop));
 }
 
-FolderContent::FolderContent(std::string folder, image::IsoImage image, std::function<int()> stopSignal)
+FolderContent::FolderContent(std::string folder, image::IsoImage image, Stop stop)
     : m_folder(std::move(folder))
     , m_image(std::move(image))
     , m_blocks(m_image.blockCount())
-    , m_stopSignal(std::move(stopSignal))
+    , m_stop(std::move(stop))
 {
 }
 
@@ -56,9 +55,9 @@ Result<burn::burn_source *> FolderContent::start()
 {
     // An image streams once; another attempt reads the tree anew.
     if (std::exchange(m_streamed, true)) {
-        Result<image::IsoImage> again = image::IsoImage::fromFolder(m_folder, isoOptions(m_stopSignal));
+        Result<image::IsoImage> again = image::IsoImage::fromFolder(m_folder, isoOptions(m_stop));
         if (!again)
-            return readingError(again.error(), m_stopSignal);
+            return readingError(again.error(), m_stop);
         if (again->blockCount() != m_blocks)
             return Error{ Exit::failed,
                 engine::quoted(m_folder) + " changed while it was being written: try again." };

@@ -25,13 +25,13 @@ public:
     Result<void> outcome() const override { return m_image.outcome(); }
 
 private:
-    FolderContent(std::string folder, image::IsoImage image, std::function<int()> stopSignal);
+    FolderContent(std::string folder, image::IsoImage image, Stop stop);
 
     std::string m_folder;
     image::IsoImage m_image;
     std::uint64_t m_blocks;
     bool m_streamed = false;
-    std::function<int()> m_stopSignal;
+    Stop m_stop;
 };
 
 /// An image file as it is, filled to whole blocks with zeros.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/Stop.h"
 #include "report/DriveList.h"
 #include "report/Medium.h"
 #include "report/ProgressText.h"
@@ -28,20 +29,15 @@ class BlockDigests;
 
 constexpr std::size_t blockBytes = 2048; ///< bytes of a block of a data disc
 
-/// How an operation tells of itself and learns that it shall stop. Both functions are called on the
-/// thread that runs the operation, several times a second, and may be empty.
+/// How an operation tells of itself and learns that it shall stop.
 struct Control {
-    /// `unitBytes` is the size of one unit of `progress.done`, 0 where a speed would mean nothing.
+    /// Called on the thread that runs the operation, several times a second; may be empty. `unitBytes` is the size of
+    /// one unit of `progress.done`, 0 where a speed would mean nothing.
     std::function<void(const report::Progress &progress, unsigned unitBytes)> progress;
-    /// The number of the signal that asks to stop, or 0.
-    std::function<int()> stopSignal;
+    Stop stop;
 
     void report(const report::Progress &p, unsigned unitBytes) const;
-    int stopped() const;
 };
-
-/// The error of an operation that `signal` (SIGINT, SIGTERM) ended; `message` is taken as it is.
-Error stoppedBy(int signal, std::string message);
 
 /// The error of an operation on a disc that `signal` ended before the disc was changed.
 Error stoppedUntouched(int signal);
@@ -122,9 +118,8 @@ public:
     const std::string &name() const { return m_name; }
     void setNumber(char number) { m_name = std::string("drive ") + number; }
 
-    /// What a wait of acquire(), of the lease or of a movement of the tray asks whether it shall end
-    /// (Control::stopSignal); it has to be callable as long as the drive is used.
-    void setStopSignal(std::function<int()> stopSignal) { m_control.stopSignal = std::move(stopSignal); }
+    /// What a wait of acquire(), of the lease or of a movement of the tray asks whether it shall end.
+    void setStop(Stop stop) { m_stop = std::move(stop); }
 
     /// Opens the drive. Errors: busy, no permission, gone, mounted and in use.
     virtual Result<std::unique_ptr<Lease>> acquire(Purpose purpose) = 0;
@@ -142,12 +137,11 @@ public:
     virtual Result<std::string> folder() const = 0;
 
 protected:
-    /// Without progress.
-    const Control &waitControl() const { return m_control; }
+    const Stop &stop() const { return m_stop; }
 
 private:
     std::string m_name = "the drive";
-    Control m_control;
+    Stop m_stop;
 };
 
 } // namespace engine::drive

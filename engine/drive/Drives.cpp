@@ -100,16 +100,16 @@ Result<std::unique_ptr<Drive>> driveNumbered(std::string_view number)
     return std::move((*drives)[index]);
 }
 
-Result<std::unique_ptr<Drive>> defaultBurner(const Control &control)
+Result<std::unique_ptr<Drive>> defaultBurner(const Stop &stop)
 {
     Result<DriveList> drives = allDrives();
     if (!drives)
         return drives.error();
     std::string silent;
     for (std::unique_ptr<Drive> &drive : *drives) {
-        drive->setStopSignal(control.stopSignal);
+        drive->setStop(stop);
         const Result<report::Medium> medium = mediumIn(*drive);
-        if (const int signal = control.stopped())
+        if (const int signal = stop.signal())
             return stoppedUntouched(signal);
         if (medium && (report::canWriteNow(*medium) || report::canErase(*medium)))
             return std::move(drive);

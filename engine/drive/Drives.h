@@ -22,7 +22,7 @@ Result<std::vector<std::unique_ptr<Drive>>> allDrivesOrNew();
 Result<std::unique_ptr<Drive>> driveNumbered(std::string_view number);
 
 /// The first drive that holds a disc which can be written now or erased, physical drives first. Without
-/// one an error with Exit::noDisc. A stop signal of `control` ends the search and its waits.
-Result<std::unique_ptr<Drive>> defaultBurner(const Control &control);
+/// one an error with Exit::noDisc. `stop` ends the search and its waits.
+Result<std::unique_ptr<Drive>> defaultBurner(const Stop &stop);
 
 } // namespace engine::drive

@@ -275,7 +275,7 @@ LibburnDrive::Outcome LibburnDrive::wait(Stop stop, const Task &task, const Cont
             control.report(progressOf(p, count, phase, task.family, phase == task.phase), task.unitBytes);
         }
         if (outcome.signal == 0)
-            outcome.signal = control.stopped();
+            outcome.signal = control.stop.signal();
         outcome.sourceFailed = outcome.sourceFailed || (task.sourceFailed && task.sourceFailed());
         // Everything is with the drive while it closes the disc: libburn does not break that off, and calls a
         // write that was cancelled then a failure all the same.

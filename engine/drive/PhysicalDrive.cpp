@@ -28,15 +28,15 @@ constexpr std::uint64_t headBlocks =
 
 class PhysicalLease final : public Lease {
 public:
-    PhysicalLease(std::unique_ptr<LibburnDrive> drive, std::string device, Control waitControl)
+    PhysicalLease(std::unique_ptr<LibburnDrive> drive, std::string device, Stop stop)
         : m_drive(std::move(drive))
         , m_device(std::move(device))
-        , m_waitControl(std::move(waitControl))
+        , m_stop(std::move(stop))
         , m_name(m_drive->name())
     {
     }
 
-    Result<report::Medium> medium() override { return readMedium(*m_drive, m_device, m_waitControl); }
+    Result<report::Medium> medium() override { return readMedium(*m_drive, m_device, m_stop); }
     Result<void> erase(EraseMode mode, const Control &control) override;
     Result<void> writeData(DiscData &data, BlockDigests &sent, const Control &control) override;
     Result<void> writeAudio(const audio::AudioDisc &disc, const Control &control) override;
@@ -57,7 +57,7 @@ private:
 
     std::unique_ptr<LibburnDrive> m_drive;
     std::string m_device;
-    Control m_waitControl;
+    Stop m_stop; ///< ends a wait for the medium
     std::string m_name;
 };
 
@@ -261,7 +261,7 @@ Result<std::unique_ptr<Lease>> PhysicalDrive::acquire(Purpose purpose)
     if (exclusive)
         if (auto free = checkFree(device, name()); !free)
             return free.error();
-    if (const int signal = waitControl().stopped())
+    if (const int signal = stop().signal())
         return stoppedUntouched(signal);
     auto drive = LibburnDrive::grab(device, name(), exclusive, false);
     if (!drive)
@@ -269,13 +269,12 @@ Result<std::unique_ptr<Lease>> PhysicalDrive::acquire(Purpose purpose)
     // The kernel or udev has locked the tray over a mounted disc.
     if (!exclusive)
         (*drive)->leave(LibburnDrive::Leave::locked);
-    return std::unique_ptr<Lease>(
-        std::make_unique<PhysicalLease>(std::move(drive).value(), device, waitControl()));
+    return std::unique_ptr<Lease>(std::make_unique<PhysicalLease>(std::move(drive).value(), device, stop()));
 }
 
 Result<void> PhysicalDrive::checkMayMove() const
 {
-    const int signal = waitControl().stopped();
+    const int signal = stop().signal();
     return signal == 0 ? Result<void>()
                        : stoppedBy(signal, "Stopped before the tray of " + name() + " was moved.");
 }

@@ -22,10 +22,10 @@ using namespace std::chrono_literals;
 
 constexpr std::uint64_t descriptorBlock = 16;
 
-burn_disc_status statusOf(burn_drive *drive, const Control &control)
+burn_disc_status statusOf(burn_drive *drive, const Stop &stop)
 {
     burn_disc_status status = burn_disc_get_status(drive);
-    for (auto waited = 0ms; status == BURN_DISC_UNREADY && waited < 30s && control.stopped() == 0;
+    for (auto waited = 0ms; status == BURN_DISC_UNREADY && waited < 30s && stop.signal() == 0;
          waited += 100ms) {
         std::this_thread::sleep_for(100ms);
         status = burn_disc_get_status(drive);
@@ -93,13 +93,13 @@ int profileOf(LibburnDrive &drive)
     return burn_disc_get_profile(drive.handle(), &profile, name.data()) > 0 ? profile : 0;
 }
 
-Result<report::Medium> readMedium(LibburnDrive &drive, const std::string &device, const Control &control)
+Result<report::Medium> readMedium(LibburnDrive &drive, const std::string &device, const Stop &stop)
 {
     burn_drive *const d = drive.handle();
-    const burn_disc_status status = statusOf(d, control);
+    const burn_disc_status status = statusOf(d, stop);
     if (status == BURN_DISC_EMPTY)
         return report::Medium{};
-    if (const int signal = status == BURN_DISC_UNREADY ? control.stopped() : 0)
+    if (const int signal = status == BURN_DISC_UNREADY ? stop.signal() : 0)
         return stoppedUntouched(signal);
     if (status == BURN_DISC_UNREADY)
         return Error{ Exit::failed,

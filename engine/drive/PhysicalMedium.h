@@ -18,8 +18,8 @@ namespace engine::drive {
 int profileOf(LibburnDrive &drive);
 
 /// Asks the drive for everything that a Medium holds. Waits for a medium that is not ready yet, half a minute
-/// or until `control` has a stop signal.
-Result<report::Medium> readMedium(LibburnDrive &drive, const std::string &device, const Control &control);
+/// or until `stop`.
+Result<report::Medium> readMedium(LibburnDrive &drive, const std::string &device, const Stop &stop);
 
 /// Size in blocks of the ISO 9660 volume whose primary volume descriptor is `descriptor` (block 16 of a
 /// disc, ECMA-119 8.4); 0 when it is none.

@@ -188,7 +188,7 @@ Result<LibburnDrive::Outcome> VirtualLease::stream(
     outcome.well = outcome.well && tapState.bytes.load() >= content.bytes;
     // A signal may come between the last look for one and a failure.
     if (!outcome.well && outcome.signal == 0)
-        outcome.signal = control.stopped();
+        outcome.signal = control.stop.signal();
     return outcome;
 }
 

@@ -108,8 +108,8 @@ private:
 
     Result<void> readFolder(std::uint32_t folder)
     {
-        if (stopped())
-            return Error{ Exit::interrupted, "Reading the folder was interrupted." };
+        if (auto ok = goOn(); !ok)
+            return ok;
         const int fd = m_opener.enter(folder);
         if (fd < 0 || !listNames(fd))
             return unreadable("folder", folder, errno);
@@ -151,8 +151,9 @@ private:
 
     Result<void> addChild(int fd, std::uint32_t folder, const std::string &name)
     {
-        if (m_tree.m_entries.size() % 4096 == 0 && stopped())
-            return Error{ Exit::interrupted, "Reading the folder was interrupted." };
+        if (m_tree.m_entries.size() % 4096 == 0)
+            if (auto ok = goOn(); !ok)
+                return ok;
         if (m_tree.m_texts.size() > mostTextBytes)
             return Error{ Exit::failed,
                 "The folder " + quoted(m_tree.folder())
@@ -296,7 +297,11 @@ private:
                 + "." };
     }
 
-    bool stopped() const { return m_options.stop && m_options.stop(); }
+    Result<void> goOn() const
+    {
+        const int signal = m_options.stop.signal();
+        return signal == 0 ? Result<void>() : stoppedBy(signal, "Reading the folder was interrupted.");
+    }
 
     FolderTree &m_tree;
     const IsoOptions &m_options;

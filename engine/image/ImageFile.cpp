@@ -23,8 +23,7 @@ Error writeError(const std::string &name, int error)
 
 } // namespace
 
-ImageFile::ImageFile(
-    int fd, std::string name, std::function<bool()> stop, std::function<void(std::uint64_t)> progress)
+ImageFile::ImageFile(int fd, std::string name, Stop stop, std::function<void(std::uint64_t)> progress)
     : m_fd(fd)
     , m_name(std::move(name))
     , m_stop(std::move(stop))
@@ -85,8 +84,8 @@ Result<void> ImageFile::goOn() const
 {
     if (m_progress)
         m_progress(m_written);
-    if (m_stop && m_stop())
-        return Error{ Exit::interrupted, "Writing " + quoted(m_name) + " was interrupted." };
+    if (const int signal = m_stop.signal())
+        return stoppedBy(signal, "Writing " + quoted(m_name) + " was interrupted.");
     return {};
 }
 

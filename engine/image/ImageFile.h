@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/Stop.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -12,13 +13,11 @@
 
 namespace engine::image {
 
-/// The file that an image goes into. Does not own the descriptor. Errors speak of `name`; a stop asked
-/// for is Exit::interrupted.
+/// The file that an image goes into. Does not own the descriptor. Errors speak of `name`.
 class ImageFile {
 public:
-    /// `progress` is told now and then how many bytes are written; it and `stop` may be empty.
-    ImageFile(
-        int fd, std::string name, std::function<bool()> stop, std::function<void(std::uint64_t)> progress);
+    /// `progress` is told now and then how many bytes are written; it may be empty.
+    ImageFile(int fd, std::string name, Stop stop, std::function<void(std::uint64_t)> progress);
 
     /// Writes all of `bytes`.
     Result<void> write(std::span<const std::byte> bytes);
@@ -34,7 +33,7 @@ private:
 
     int m_fd;
     std::string m_name;
-    std::function<bool()> m_stop;
+    Stop m_stop;
     std::function<void(std::uint64_t)> m_progress;
     std::uint64_t m_written = 0;
     std::unique_ptr<std::byte[]> m_buffer; ///< of copyByHand()

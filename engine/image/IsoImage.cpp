@@ -111,7 +111,7 @@ public:
         return failure;
     }
 
-    const std::function<bool()> stop;
+    const Stop stop;
     const std::function<void(std::uint64_t)> progress;
     const FolderTree tree;
     std::uint32_t blocks = 0;

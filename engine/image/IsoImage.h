@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/Stop.h"
 
 #include <cstdint>
 #include <functional>
@@ -29,9 +30,7 @@ struct IsoOptions {
     std::string volumeName; ///< UTF-8; when empty, the folder's own name
     bool rockRidge = true; ///< exact names, times, modes and owners beside the Joliet names
     Links links = Links::keep;
-    /// Asked now and then while the folder is read and the image is written; true ends both with
-    /// Exit::interrupted. Called on the thread that called fromFolder() or writeTo(). May be empty.
-    std::function<bool()> stop;
+    Stop stop; ///< ends the reading of the folder and the writing of the image
     /// Told by writeTo(), several times a second, how many bytes of the image are written. May be empty.
     std::function<void(std::uint64_t bytes)> progress;
 };

@@ -26,9 +26,9 @@ bool hasRoom(int fd)
 
 } // namespace
 
-Output::Output(int fd, std::function<bool()> stopped)
+Output::Output(int fd, Stop stop)
     : m_fd(fd)
-    , m_stopped(std::move(stopped))
+    , m_stop(std::move(stop))
 {
     // A terminal that has room at all may take less than a pipe would. Opened anew it waits for nobody, and others
     // who have it open notice nothing.
@@ -81,7 +81,7 @@ void Output::finish()
     auto end = Clock::time_point::max();
     for (flush(); !m_waiting.empty() && Clock::now() < end; flush()) {
         std::this_thread::sleep_for(10ms);
-        if (m_stopped())
+        if (m_stop.signal() != 0)
             end = std::min(end, Clock::now() + patience);
     }
     m_waiting.clear();

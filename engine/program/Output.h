@@ -2,9 +2,9 @@
 #pragma once
 
 #include "base/Fd.h"
+#include "base/Stop.h"
 
 #include <cstddef>
-#include <functional>
 #include <string>
 
 namespace engine::program {
@@ -13,8 +13,8 @@ namespace engine::program {
 /// Not thread-safe.
 class Output {
 public:
-    /// `fd` stays the caller's. `stopped` tells whether the program shall end, and is asked in finish().
-    Output(int fd, std::function<bool()> stopped);
+    /// `fd` stays the caller's. `stop` is asked in finish().
+    Output(int fd, Stop stop);
 
     /// finish()
     ~Output();
@@ -36,7 +36,7 @@ private:
 
     int m_fd;
     Fd m_terminal; ///< of m_fd, when that is one
-    std::function<bool()> m_stopped;
+    Stop m_stop;
     std::string m_waiting; ///< what was told and is not out
     std::size_t m_out = 0; ///< bytes at its start that are
 };

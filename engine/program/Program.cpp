@@ -68,10 +68,8 @@ int end(const Program &program, const Result<void> &done, const char *usage)
     if (done.error().exit == Exit::usage)
         text += "Usage: " + name + ' ' + usage + '\n';
     // Whoever was told to stop does not wait long for somebody who may not read any more.
-    const Exit exit = done.error().exit;
-    const bool stopped = exit == Exit::interrupted || exit == Exit::terminated;
-    Output(STDERR_FILENO, [stopped] { return stopped; }).tell(text);
-    return static_cast<int>(exit);
+    Output(STDERR_FILENO, [stopped = isStop(done.error())] { return stopped ? SIGTERM : 0; }).tell(text);
+    return static_cast<int>(done.error().exit);
 }
 
 Result<void> runVerb(const Verb &verb, const Arguments &arguments)

@@ -5,7 +5,7 @@
 namespace engine::program {
 
 Session::Session()
-    : m_output(STDOUT_FILENO, [this] { return caught() != 0; })
+    : m_output(STDOUT_FILENO, m_signals.stop())
 {
 }
 
@@ -15,7 +15,7 @@ drive::Control Session::control()
                 if (const auto line = m_pacer.next(progress, unitBytes, report::ProgressPacer::Clock::now()))
                     m_output.offer(*line + '\n');
             },
-        [this] { return caught(); } };
+        stop() };
 }
 
 drive::BurnOptions Session::burnOptions(bool verify)

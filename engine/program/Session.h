@@ -24,11 +24,11 @@ public:
     /// One sentence on standard output.
     void say(const std::string &line) { m_output.tell(line + '\n'); }
 
-    /// The first stop signal that came, or 0.
-    int caught() const { return m_signals.caught(); }
+    /// Tells the first stop signal that comes.
+    Stop stop() const { return m_signals.stop(); }
 
 private:
-    drive::StopSignals m_signals;
+    StopSignals m_signals;
     Output m_output;
     report::ProgressPacer m_pacer;
 };

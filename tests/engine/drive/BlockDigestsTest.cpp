@@ -101,7 +101,7 @@ private Q_SLOTS:
     void aSignalEndsTheComparison()
     {
         Control control;
-        control.stopSignal = [] { return SIGTERM; };
+        control.stop = [] { return SIGTERM; };
         const auto verified = verify(m_lease, m_sent, "drive 1", control);
         QVERIFY(!verified);
         QCOMPARE(int(verified.error().exit), 143);

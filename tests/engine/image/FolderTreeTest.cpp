@@ -3,6 +3,7 @@
 
 #include "Trees.h"
 
+#include <csignal>
 #include <set>
 
 using namespace engine;
@@ -158,10 +159,10 @@ private Q_SLOTS:
         Scratch scratch;
         QVERIFY(makeFile(scratch.path("t/file"), "data"));
         IsoOptions options;
-        options.stop = [] { return true; };
+        options.stop = [] { return SIGTERM; };
         const auto tree = FolderTree::read(scratch.path("t"), options);
         QVERIFY(!tree);
-        QCOMPARE(tree.error().exit, Exit::interrupted);
+        QCOMPARE(tree.error().exit, Exit::terminated);
     }
 };
 

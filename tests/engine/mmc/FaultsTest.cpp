@@ -217,7 +217,7 @@ private Q_SLOTS:
             return command.opcode() == readDiscInformation ? std::optional(writeError) : std::nullopt;
         };
         int asked = 0;
-        session.options.control.stopSignal = [&asked] { return ++asked > 2 ? SIGINT : 0; };
+        session.options.control.stop = [&asked] { return ++asked > 2 ? SIGINT : 0; };
         const auto done = session.burn();
         QCOMPARE(sentence(done), u"Stopped before anything was written: the disc is as it was."_s);
         QCOMPARE(int(done.error().exit), 130);
@@ -325,7 +325,7 @@ private Q_SLOTS:
     void aStopBeforeTheTrayMovesLeavesIt()
     {
         Session session({ cdR });
-        session.physical.setStopSignal([] { return SIGTERM; });
+        session.physical.setStop([] { return SIGTERM; });
         for (const auto &done : { session.physical.eject(), session.physical.close() }) {
             QCOMPARE(sentence(done), u"Stopped before the tray of drive 1 was moved."_s);
             QCOMPARE(int(done.error().exit), 143);

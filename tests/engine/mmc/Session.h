@@ -23,7 +23,7 @@ public:
         options.control.progress = [this](const engine::report::Progress &progress, unsigned) {
             lines.append(QString::fromStdString(engine::report::progressText(progress)));
         };
-        options.control.stopSignal = [this] { return stopAt && stopAt() ? SIGTERM : 0; };
+        options.control.stop = [this] { return stopAt && stopAt() ? SIGTERM : 0; };
         options.note = [this](const std::string &line) { lines.append(QString::fromStdString(line)); };
     }
 

@@ -58,14 +58,14 @@ private:
     std::array<int, 2> m_ends{ -1, -1 };
 };
 
-bool goOn()
+int goOn()
 {
-    return false;
+    return 0;
 }
 
-bool stop()
+int stop()
 {
-    return true;
+    return SIGTERM;
 }
 
 } // namespace

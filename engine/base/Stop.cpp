@@ -1,10 +1,10 @@
-#include "drive/Burn.h"
+#include "base/Stop.h"
 
 #include <array>
 #include <atomic>
 #include <csignal>
 
-namespace engine::drive {
+namespace engine {
 
 namespace {
 
@@ -48,9 +48,19 @@ StopSignals::~StopSignals()
         ::sigaction(stopping[i], &previous[i], nullptr);
 }
 
-int StopSignals::caught() const
+Stop StopSignals::stop() const
 {
-    return firstSignal;
+    return [] { return firstSignal.load(); };
 }
 
-} // namespace engine::drive
+Error stoppedBy(int signal, std::string message)
+{
+    return { signal == SIGINT ? Exit::interrupted : Exit::terminated, std::move(message) };
+}
+
+bool isStop(const Error &error)
+{
+    return error.exit == Exit::interrupted || error.exit == Exit::terminated;
+}
+
+} // namespace engine

@@ -36,7 +36,7 @@ std::string helpText()
   folder                        tell where the discs of a virtual recorder lie
   insert KIND                   put a blank into a virtual recorder; KIND is one of
                                 )"
-        + report::insertNames() + R"(, none
+        + insertNames() + R"(, none
   --help, --version
 
 N is the character at the start of the drive's line in 'drutil list'. It may be left
@@ -61,7 +61,7 @@ Result<void> list(const Arguments &)
     const auto drives = drive::allDrivesOrNew();
     if (!drives)
         return drives.error();
-    std::vector<report::DriveRecord> records;
+    std::vector<DriveRecord> records;
     for (const auto &drive : *drives)
         records.push_back(drive->record());
     return printReport(report::driveListText(records));
@@ -69,7 +69,7 @@ Result<void> list(const Arguments &)
 
 /// The medium in the chosen drive. A stop signal ends it with the drive given back: one that is left in mid-question
 /// keeps its tray locked.
-Result<report::Medium> mediumInDrive(const Arguments &arguments)
+Result<Medium> mediumInDrive(const Arguments &arguments)
 {
     const StopSignals signals;
     const auto drive = chosenDrive(arguments);
@@ -77,7 +77,7 @@ Result<report::Medium> mediumInDrive(const Arguments &arguments)
         return drive.error();
     (*drive)->setStop(signals.stop());
     const auto lease = (*drive)->acquire(drive::Purpose::look);
-    const Result<report::Medium> medium = lease ? (*lease)->medium() : lease.error();
+    const Result<Medium> medium = lease ? (*lease)->medium() : lease.error();
     if (const int signal = signals.stop().signal())
         return stoppedBy(signal, "Stopped before " + (*drive)->name() + " had told about its disc.");
     return medium;
@@ -100,7 +100,7 @@ Result<void> changeDrive(const Arguments &arguments, const std::function<Result<
 
 Result<void> status(const Arguments &arguments)
 {
-    const Result<report::Medium> medium = mediumInDrive(arguments);
+    const Result<Medium> medium = mediumInDrive(arguments);
     if (!medium)
         return medium.error();
     return printReport(report::statusText(*medium));
@@ -161,11 +161,11 @@ Result<void> folder(const Arguments &arguments)
 Result<void> insert(const Arguments &arguments)
 {
     const std::string &name = arguments.operands.front();
-    const auto kind = report::kindOfInsertName(name);
+    const auto kind = kindOfInsertName(name);
     if (!kind && name != "none")
-        return usageError("The kind of a blank is one of " + report::insertNames() + ", none.");
+        return usageError("The kind of a blank is one of " + insertNames() + ", none.");
     return changeDrive(
-        arguments, [&](Drive &drive) { return drive.insert(kind.value_or(report::MediumKind::none)); });
+        arguments, [&](Drive &drive) { return drive.insert(kind.value_or(MediumKind::none)); });
 }
 
 bool isDriveNumber(std::string_view value)

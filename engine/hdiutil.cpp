@@ -42,8 +42,8 @@ image::IsoOptions imageOptions(Session &session, const std::uint64_t &size)
     options.links = image::Links::follow;
     options.stop = session.stop();
     options.progress = [control = session.control(), &size](std::uint64_t bytes) {
-        report::Progress progress;
-        progress.phase = report::Phase::writing;
+        Progress progress;
+        progress.phase = Phase::writing;
         progress.done = bytes;
         progress.total = size;
         control.report(progress, 0);

@@ -122,8 +122,8 @@ Result<void> verify(
     Lease &lease, const BlockDigests &sent, const std::string &driveName, const Control &control)
 {
     std::vector<std::byte> buffer(readBlocks * blockBytes);
-    report::Progress progress;
-    progress.phase = report::Phase::verifying;
+    Progress progress;
+    progress.phase = Phase::verifying;
     progress.total = sent.blocks();
     for (std::uint64_t block = 0; block < sent.blocks();) {
         if (const int signal = control.stop.signal())

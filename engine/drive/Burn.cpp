@@ -3,7 +3,7 @@
 #include "audio/AudioDisc.h"
 #include "drive/BlockDigests.h"
 #include "drive/DiscContent.h"
-#include "report/Medium.h"
+#include "medium/Medium.h"
 
 #include <algorithm>
 #include <utility>
@@ -11,8 +11,6 @@
 namespace engine::drive {
 
 namespace {
-
-using report::Medium;
 
 void say(const BurnOptions &options, const std::string &line)
 {
@@ -22,8 +20,8 @@ void say(const BurnOptions &options, const std::string &line)
 
 void preparing(const BurnOptions &options)
 {
-    report::Progress progress;
-    progress.phase = report::Phase::preparing;
+    Progress progress;
+    progress.phase = Phase::preparing;
     options.control.report(progress, 0);
 }
 
@@ -35,16 +33,16 @@ Error noDisc(const std::string &driveName)
 
 Result<void> checkWritable(const Medium &medium, const std::string &driveName)
 {
-    if (medium.kind == report::MediumKind::none)
+    if (medium.kind == MediumKind::none)
         return noDisc(driveName);
-    if (report::canWriteNow(medium) || report::canErase(medium))
+    if (canWriteNow(medium) || canErase(medium))
         return {};
-    if (medium.kind == report::MediumKind::unknown)
+    if (medium.kind == MediumKind::unknown)
         return Error{ Exit::failed,
             "The disc in " + driveName
                 + " is of a kind that cannot be written: insert a blank CD, DVD or BD." };
     return Error{ Exit::failed,
-        "The " + std::string(report::factsOf(medium.kind).type) + " in " + driveName
+        "The " + std::string(factsOf(medium.kind).type) + " in " + driveName
             + " cannot be written any more: insert a blank or rewritable disc." };
 }
 
@@ -52,7 +50,7 @@ Result<void> checkWritable(const Medium &medium, const std::string &driveName)
 /// erased one takes, the write asks again.
 Result<void> checkFits(std::uint64_t needed, const Medium &medium, const std::string &driveName)
 {
-    if (report::canWriteNow(medium))
+    if (canWriteNow(medium))
         return checkRoom(needed, medium.free, driveName);
     return medium.capacity == 0 ? Result<void>() : checkRoom(needed, medium.capacity, driveName);
 }
@@ -73,7 +71,7 @@ Result<void> eraseUntilStopped(
 Result<void> eraseFirst(
     Lease &lease, const Medium &medium, const std::string &driveName, const BurnOptions &options)
 {
-    if (medium.state == report::MediumState::blank || !report::canErase(medium))
+    if (medium.state == MediumState::blank || !canErase(medium))
         return {};
     say(options, "The disc is not blank; it is erased first.");
     return eraseUntilStopped(lease, EraseMode::quick, driveName, options.control);
@@ -155,10 +153,10 @@ Result<void> burnContent(
 Result<void> checkAudioMedium(
     const Medium &medium, const audio::AudioDisc &disc, const std::string &driveName)
 {
-    if (report::factsOf(medium.kind).family != report::Family::cd)
+    if (factsOf(medium.kind).family != Family::cd)
         return Error{ Exit::failed,
-            "An audio disc needs a CD, and there is a " + std::string(report::factsOf(medium.kind).type)
-                + " in " + driveName + ": insert a blank CD-R or CD-RW." };
+            "An audio disc needs a CD, and there is a " + std::string(factsOf(medium.kind).type) + " in "
+                + driveName + ": insert a blank CD-R or CD-RW." };
     // The pause of track 1 lies before the blocks that a disc counts.
     return checkFits(disc.sectorCount() - audio::firstPause, medium, driveName);
 }
@@ -206,11 +204,11 @@ Result<void> eraseMedium(Drive &drive, EraseMode mode, const Control &control)
     const Result<Medium> medium = (*lease)->medium();
     if (!medium)
         return medium.error();
-    if (medium->kind == report::MediumKind::none)
+    if (medium->kind == MediumKind::none)
         return noDisc(drive.name());
-    if (!report::canErase(*medium))
+    if (!canErase(*medium))
         return Error{ Exit::failed,
-            "The " + std::string(report::factsOf(medium->kind).type) + " in " + drive.name()
+            "The " + std::string(factsOf(medium->kind).type) + " in " + drive.name()
                 + " cannot be erased: insert a rewritable disc." };
     if (const int signal = control.stop.signal())
         return stoppedUntouched(signal);

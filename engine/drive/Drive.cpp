@@ -2,7 +2,7 @@
 
 namespace engine::drive {
 
-void Control::report(const report::Progress &p, unsigned unitBytes) const
+void Control::report(const Progress &p, unsigned unitBytes) const
 {
     if (progress)
         progress(p, unitBytes);

@@ -3,9 +3,9 @@
 
 #include "base/Result.h"
 #include "base/Stop.h"
-#include "report/DriveList.h"
-#include "report/Medium.h"
-#include "report/ProgressText.h"
+#include "medium/DriveRecord.h"
+#include "medium/Medium.h"
+#include "medium/Progress.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -33,10 +33,10 @@ constexpr std::size_t blockBytes = 2048; ///< bytes of a block of a data disc
 struct Control {
     /// Called on the thread that runs the operation, several times a second; may be empty. `unitBytes` is the size of
     /// one unit of `progress.done`, 0 where a speed would mean nothing.
-    std::function<void(const report::Progress &progress, unsigned unitBytes)> progress;
+    std::function<void(const Progress &progress, unsigned unitBytes)> progress;
     Stop stop;
 
-    void report(const report::Progress &p, unsigned unitBytes) const;
+    void report(const Progress &p, unsigned unitBytes) const;
 };
 
 /// The error of an operation on a disc that `signal` ended before the disc was changed.
@@ -79,7 +79,7 @@ public:
     virtual ~Lease() = default;
 
     /// The medium as it is now. An empty drive or an open tray is a medium of kind `none`, not an error.
-    virtual Result<report::Medium> medium() = 0;
+    virtual Result<Medium> medium() = 0;
 
     /// Erases or formats the medium. It must be one of those that canErase() is true for.
     virtual Result<void> erase(EraseMode mode, const Control &control) = 0;
@@ -109,7 +109,7 @@ public:
     virtual ~Drive() = default;
 
     /// How it is listed.
-    virtual report::DriveRecord record() const = 0;
+    virtual DriveRecord record() const = 0;
 
     /// True for a recorder without hardware.
     virtual bool isVirtual() const = 0;
@@ -131,7 +131,7 @@ public:
     virtual Result<void> close() = 0;
 
     /// Puts a blank of `kind` in, or none; virtual recorders only.
-    virtual Result<void> insert(report::MediumKind kind) = 0;
+    virtual Result<void> insert(MediumKind kind) = 0;
 
     /// The folder in which the discs of a virtual recorder lie; virtual recorders only.
     virtual Result<std::string> folder() const = 0;

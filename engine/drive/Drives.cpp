@@ -29,13 +29,13 @@ VirtualUse virtualUse()
 
 void number(DriveList &drives)
 {
-    if (drives.size() > report::maximumDrives)
-        drives.resize(report::maximumDrives);
+    if (drives.size() > maximumDrives)
+        drives.resize(maximumDrives);
     for (std::size_t i = 0; i < drives.size(); ++i)
-        drives[i]->setNumber(report::driveNumber(i));
+        drives[i]->setNumber(driveNumber(i));
 }
 
-Result<report::Medium> mediumIn(Drive &drive)
+Result<Medium> mediumIn(Drive &drive)
 {
     const auto lease = drive.acquire(Purpose::look);
     return lease ? (*lease)->medium() : lease.error();
@@ -93,7 +93,7 @@ Result<std::unique_ptr<Drive>> driveNumbered(std::string_view number)
     if (number.empty() && drives->size() > 1)
         return Error{ Exit::usage,
             "There are " + std::to_string(drives->size()) + " drives: say which one with -drive N." };
-    const std::size_t index = number.empty() ? 0 : report::driveIndex(number).value_or(report::maximumDrives);
+    const std::size_t index = number.empty() ? 0 : driveIndex(number).value_or(maximumDrives);
     if (index >= drives->size())
         return Error{ Exit::noDisc,
             "There is no drive " + quoted(number) + ": 'drutil list' shows those there are." };
@@ -108,10 +108,10 @@ Result<std::unique_ptr<Drive>> defaultBurner(const Stop &stop)
     std::string silent;
     for (std::unique_ptr<Drive> &drive : *drives) {
         drive->setStop(stop);
-        const Result<report::Medium> medium = mediumIn(*drive);
+        const Result<Medium> medium = mediumIn(*drive);
         if (const int signal = stop.signal())
             return stoppedUntouched(signal);
-        if (medium && (report::canWriteNow(*medium) || report::canErase(*medium)))
+        if (medium && (canWriteNow(*medium) || canErase(*medium)))
             return std::move(drive);
         // A drive that is busy or damaged is no reason not to take the next one.
         if (!medium)

@@ -10,7 +10,7 @@
 namespace engine::drive {
 
 /// Physical drives in the order of their device names, then virtual recorders in the order of their
-/// numbers; at most report::maximumDrives. Touches no medium and spins nothing up. An error only where
+/// numbers; at most maximumDrives. Touches no medium and spins nothing up. An error only where
 /// the recorders' folder cannot be read.
 Result<std::vector<std::unique_ptr<Drive>>> allDrives();
 

@@ -104,15 +104,15 @@ Options optionsFor(burn_drive *drive, WriteMode mode)
     return options;
 }
 
-report::Phase phaseOf(burn_drive_status status, report::Phase busy)
+Phase phaseOf(burn_drive_status status, Phase busy)
 {
     switch (status) {
     case BURN_DRIVE_WRITING_LEADOUT:
     case BURN_DRIVE_CLOSING_TRACK:
     case BURN_DRIVE_CLOSING_SESSION:
-        return report::Phase::closing;
+        return Phase::closing;
     case BURN_DRIVE_FORMATTING:
-        return report::Phase::erasing;
+        return Phase::erasing;
     default:
         return busy;
     }
@@ -166,25 +166,23 @@ std::vector<std::uint64_t> sectorsOf(const std::vector<Track> &tracks, unsigned 
 /// A DVD goes back to "writing" for a moment between closing its track and its session. A drive that has got
 /// everything empties its buffer and writes the lead-out of a session at once; libburn calls that writing,
 /// too.
-report::Phase nextPhase(report::Phase last, report::Phase told, const Count &count)
+Phase nextPhase(Phase last, Phase told, const Count &count)
 {
-    const bool closing =
-        last == report::Phase::closing || (told == report::Phase::writing && count.allWritten());
-    return closing ? report::Phase::closing : told;
+    const bool closing = last == Phase::closing || (told == Phase::writing && count.allWritten());
+    return closing ? Phase::closing : told;
 }
 
 /// `counted` is false while libburn closes or formats: it counts no sectors then, or others.
-report::Progress progressOf(
-    const burn_progress &p, const Count &count, report::Phase phase, report::Family family, bool counted)
+Progress progressOf(const burn_progress &p, const Count &count, Phase phase, Family family, bool counted)
 {
-    report::Progress progress;
+    Progress progress;
     progress.phase = phase;
     progress.family = family;
     if (!counted)
         return progress;
     progress.done = count.done();
     progress.total = count.total();
-    if (phase == report::Phase::writing)
+    if (phase == Phase::writing)
         progress.bufferPercent = bufferPercent(p.buffer_capacity, p.buffer_available);
     return progress;
 }
@@ -262,12 +260,12 @@ LibburnDrive::Outcome LibburnDrive::wait(Stop stop, const Task &task, const Cont
     Outcome outcome;
     auto pause = 1ms;
     bool cancelled = false;
-    report::Phase phase = task.phase;
+    Phase phase = task.phase;
     Count count(task.sectors);
     burn_progress p{};
     for (burn_drive_status status{}; (status = burn_drive_get_status(handle(), &p)) != BURN_DRIVE_IDLE;) {
         if (status != BURN_DRIVE_SPAWNING) {
-            const report::Phase told = phaseOf(status, task.phase);
+            const Phase told = phaseOf(status, task.phase);
             if (told == task.phase)
                 count.update(p);
             outcome.sectors = count.done();
@@ -279,7 +277,7 @@ LibburnDrive::Outcome LibburnDrive::wait(Stop stop, const Task &task, const Cont
         outcome.sourceFailed = outcome.sourceFailed || (task.sourceFailed && task.sourceFailed());
         // Everything is with the drive while it closes the disc: libburn does not break that off, and calls a
         // write that was cancelled then a failure all the same.
-        const bool breakable = stop == Stop::cancels && phase != report::Phase::closing;
+        const bool breakable = stop == Stop::cancels && phase != Phase::closing;
         if (breakable && !cancelled && (outcome.signal != 0 || outcome.sourceFailed)) {
             burn_drive_cancel(handle());
             cancelled = true;
@@ -293,9 +291,8 @@ LibburnDrive::Outcome LibburnDrive::wait(Stop stop, const Task &task, const Cont
     return outcome;
 }
 
-LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, WriteMode mode,
-    report::Phase phase, report::Family family, const std::function<bool()> &sourceFailed,
-    const Control &control)
+LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, WriteMode mode, Phase phase,
+    Family family, const std::function<bool()> &sourceFailed, const Control &control)
 {
     takeMessage();
     const bool audio = !tracks.empty() && tracks.front().audio;
@@ -324,7 +321,7 @@ LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, Writ
 
 LibburnDrive::Outcome LibburnDrive::waitForErase(const Control &control)
 {
-    return wait(Stop::waits, { report::Phase::erasing, report::Family::none, 0, {}, {} }, control);
+    return wait(Stop::waits, { Phase::erasing, Family::none, 0, {}, {} }, control);
 }
 
 std::size_t LibburnDrive::read(std::uint64_t block, std::span<std::byte> buffer)

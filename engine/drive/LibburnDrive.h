@@ -75,8 +75,8 @@ public:
 
     /// Writes one session of `tracks` and closes the disc. Progress is told as `phase`. `sourceFailed` is
     /// asked during the write and ends it; may be empty. A stop signal ends it until the disc is being closed.
-    Outcome write(const std::vector<Track> &tracks, WriteMode mode, report::Phase phase,
-        report::Family family, const std::function<bool()> &sourceFailed, const Control &control);
+    Outcome write(const std::vector<Track> &tracks, WriteMode mode, Phase phase, Family family,
+        const std::function<bool()> &sourceFailed, const Control &control);
 
     /// Waits for an erase or a format that was started. Neither can be broken off safely (MMC-6 6.2), so a
     /// stop signal is only noted.
@@ -95,8 +95,8 @@ private:
 
     /// What is waited for.
     struct Task {
-        report::Phase phase;
-        report::Family family;
+        Phase phase;
+        Family family;
         unsigned unitBytes; ///< of a sector
         std::vector<std::uint64_t> sectors; ///< of each track; none for an erase
         std::function<bool()> sourceFailed;

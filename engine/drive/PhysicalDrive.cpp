@@ -36,7 +36,7 @@ public:
     {
     }
 
-    Result<report::Medium> medium() override { return readMedium(*m_drive, m_device, m_stop); }
+    Result<Medium> medium() override { return readMedium(*m_drive, m_device, m_stop); }
     Result<void> erase(EraseMode mode, const Control &control) override;
     Result<void> writeData(DiscData &data, BlockDigests &sent, const Control &control) override;
     Result<void> writeAudio(const audio::AudioDisc &disc, const Control &control) override;
@@ -49,11 +49,11 @@ public:
 
 private:
     struct Job; ///< what is written, made anew for each attempt
-    Result<void> write(Job &job, const report::Medium &medium, const Control &control);
+    Result<void> write(Job &job, const Medium &medium, const Control &control);
     Result<void> blank(bool fast, const Control &control);
-    Result<void> overwrite(std::uint64_t blocks, const report::Medium &medium, const Control &control);
+    Result<void> overwrite(std::uint64_t blocks, const Medium &medium, const Control &control);
     Result<void> formatIfNeeded(const Control &control);
-    bool untouched(const LibburnDrive::Outcome &outcome, const report::Medium &before);
+    bool untouched(const LibburnDrive::Outcome &outcome, const Medium &before);
 
     std::unique_ptr<LibburnDrive> m_drive;
     std::string m_device;
@@ -63,26 +63,26 @@ private:
 
 struct PhysicalLease::Job {
     bool audio = false;
-    report::Phase phase = report::Phase::writing;
+    Phase phase = Phase::writing;
     std::function<Result<std::vector<Track>>()> tracks;
     std::function<bool()> sourceFailed;
     std::function<Result<void>()> sourceOutcome;
 };
 
 /// True when another attempt can start as if the failed one had not been.
-bool PhysicalLease::untouched(const LibburnDrive::Outcome &outcome, const report::Medium &before)
+bool PhysicalLease::untouched(const LibburnDrive::Outcome &outcome, const Medium &before)
 {
     if (outcome.signal != 0 || outcome.sourceFailed || outcome.sectors > harmlessSectors)
         return false;
     if (!reload())
         return false;
-    const Result<report::Medium> now = medium();
-    return now && report::canWriteNow(*now) && now->kind == before.kind && now->free >= before.free;
+    const Result<Medium> now = medium();
+    return now && canWriteNow(*now) && now->kind == before.kind && now->free >= before.free;
 }
 
-Result<void> PhysicalLease::write(Job &job, const report::Medium &medium, const Control &control)
+Result<void> PhysicalLease::write(Job &job, const Medium &medium, const Control &control)
 {
-    const auto family = report::factsOf(medium.kind).family;
+    const auto family = factsOf(medium.kind).family;
     Attempt attempt = firstAttempt(medium.rewriting, medium.speeds);
     while (true) {
         Result<std::vector<Track>> tracks = job.tracks();
@@ -106,7 +106,7 @@ Result<void> PhysicalLease::writeData(DiscData &data, BlockDigests &sent, const 
 {
     if (auto formatted = formatIfNeeded(control); !formatted)
         return formatted;
-    const Result<report::Medium> now = medium();
+    const Result<Medium> now = medium();
     if (!now)
         return now.error();
     // A format sets spare blocks aside, and how many is known only now.
@@ -132,7 +132,7 @@ Result<void> PhysicalLease::writeData(DiscData &data, BlockDigests &sent, const 
 
 Result<void> PhysicalLease::writeAudio(const audio::AudioDisc &disc, const Control &control)
 {
-    const Result<report::Medium> now = medium();
+    const Result<Medium> now = medium();
     if (!now)
         return now.error();
     // What an erased disc takes is known only now where the drive did not tell.
@@ -205,11 +205,10 @@ Result<void> PhysicalLease::blank(bool fast, const Control &control)
     return reload();
 }
 
-Result<void> PhysicalLease::overwrite(
-    std::uint64_t blocks, const report::Medium &medium, const Control &control)
+Result<void> PhysicalLease::overwrite(std::uint64_t blocks, const Medium &medium, const Control &control)
 {
     Job job;
-    job.phase = report::Phase::erasing;
+    job.phase = Phase::erasing;
     job.tracks = [&]() -> Result<std::vector<Track>> {
         std::vector<Track> tracks(1);
         tracks.front().source = zeros(blocks * blockBytes);
@@ -224,18 +223,18 @@ Result<void> PhysicalLease::overwrite(
 Result<void> PhysicalLease::erase(EraseMode mode, const Control &control)
 {
     const bool quick = mode == EraseMode::quick;
-    const Result<report::Medium> now = medium();
+    const Result<Medium> now = medium();
     if (!now)
         return now.error();
-    if (!report::canErase(*now))
+    if (!canErase(*now))
         return Error{ Exit::failed, "The disc in " + m_name + " cannot be erased: insert a rewritable one." };
     // DVD-RW in restricted overwrite can be blanked as well; a quick erase leaves it as it is formatted.
-    const bool blankable = report::factsOf(now->kind).rewriting == report::Rewriting::erase;
-    if (now->rewriting == report::Rewriting::erase || (blankable && !quick))
+    const bool blankable = factsOf(now->kind).rewriting == Rewriting::erase;
+    if (now->rewriting == Rewriting::erase || (blankable && !quick))
         return blank(quick, control);
     if (auto formatted = formatIfNeeded(control); !formatted)
         return formatted;
-    const Result<report::Medium> formatted = medium();
+    const Result<Medium> formatted = medium();
     if (!formatted)
         return formatted.error();
     return overwrite(
@@ -312,7 +311,7 @@ Result<void> PhysicalDrive::close()
     return {};
 }
 
-Result<void> PhysicalDrive::insert(report::MediumKind)
+Result<void> PhysicalDrive::insert(MediumKind)
 {
     return Error{ Exit::failed,
         "Discs are put into " + name() + " by hand; insert is for virtual recorders." };

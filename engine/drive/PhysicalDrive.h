@@ -12,12 +12,12 @@ class PhysicalDrive final : public Drive {
 public:
     explicit PhysicalDrive(PhysicalRecord record);
 
-    report::DriveRecord record() const override { return m_record.record; }
+    DriveRecord record() const override { return m_record.record; }
     bool isVirtual() const override { return false; }
     Result<std::unique_ptr<Lease>> acquire(Purpose purpose) override;
     Result<void> eject() override;
     Result<void> close() override;
-    Result<void> insert(report::MediumKind kind) override;
+    Result<void> insert(MediumKind kind) override;
     Result<std::string> folder() const override;
 
 private:

@@ -1,7 +1,7 @@
 // The optical drives that the kernel knows, without touching them.
 #pragma once
 
-#include "report/DriveList.h"
+#include "medium/DriveRecord.h"
 
 #include <string>
 #include <string_view>
@@ -12,7 +12,7 @@ namespace engine::drive {
 /// One drive as the kernel describes it.
 struct PhysicalRecord {
     std::string device; ///< "/dev/sr0"
-    report::DriveRecord record;
+    DriveRecord record;
     bool writes = false; ///< it can write CDs or DVDs
 };
 

@@ -48,11 +48,11 @@ std::vector<int> speedsOf(burn_drive *drive)
     return forMedium.empty() ? forDrive : forMedium;
 }
 
-std::uint64_t leadOutOf(burn_drive *drive, report::MediumKind kind)
+std::uint64_t leadOutOf(burn_drive *drive, MediumKind kind)
 {
     int start = 0;
     int end = 0;
-    if (report::factsOf(kind).family != report::Family::cd || burn_disc_read_atip(drive) <= 0
+    if (factsOf(kind).family != Family::cd || burn_disc_read_atip(drive) <= 0
         || burn_drive_get_start_end_lba(drive, &start, &end, 0) <= 0)
         return 0;
     return static_cast<std::uint64_t>(std::max(end, 0));
@@ -93,18 +93,18 @@ int profileOf(LibburnDrive &drive)
     return burn_disc_get_profile(drive.handle(), &profile, name.data()) > 0 ? profile : 0;
 }
 
-Result<report::Medium> readMedium(LibburnDrive &drive, const std::string &device, const Stop &stop)
+Result<Medium> readMedium(LibburnDrive &drive, const std::string &device, const Stop &stop)
 {
     burn_drive *const d = drive.handle();
     const burn_disc_status status = statusOf(d, stop);
     if (status == BURN_DISC_EMPTY)
-        return report::Medium{};
+        return Medium{};
     if (const int signal = status == BURN_DISC_UNREADY ? stop.signal() : 0)
         return stoppedUntouched(signal);
     if (status == BURN_DISC_UNREADY)
         return Error{ Exit::failed,
             "The disc in " + drive.name() + " does not get ready: take it out and clean it." };
-    report::DriveAnswers answers;
+    DriveAnswers answers;
     answers.profile = profileOf(drive);
     answers.blank = status == BURN_DISC_BLANK;
     answers.appendable = status == BURN_DISC_APPENDABLE;
@@ -115,15 +115,15 @@ Result<report::Medium> readMedium(LibburnDrive &drive, const std::string &device
     int readable = 0;
     if (burn_get_read_capacity(d, &readable, 0) > 0)
         answers.readableBlocks = static_cast<std::uint64_t>(std::max(readable, 0));
-    const report::MediumKind kind = report::kindOfProfile(answers.profile);
+    const MediumKind kind = kindOfProfile(answers.profile);
     answers.leadOutBlocks = leadOutOf(d, kind);
-    const report::Rewriting rewriting = report::rewritingOfProfile(answers.profile);
-    if (rewriting == report::Rewriting::erase && report::factsOf(kind).family == report::Family::dvd)
+    const Rewriting rewriting = rewritingOfProfile(answers.profile);
+    if (rewriting == Rewriting::erase && factsOf(kind).family == Family::dvd)
         answers.formatBlocks = largestFormatOf(d);
-    if (rewriting == report::Rewriting::overwrite)
+    if (rewriting == Rewriting::overwrite)
         answers.volumeBlocks = volumeOn(drive);
     answers.speeds = speedsOf(d);
-    report::Medium medium = report::mediumFromAnswers(answers);
+    Medium medium = mediumFromAnswers(answers);
     medium.deviceName = device;
     LibburnDrive::takeMessage();
     return medium;

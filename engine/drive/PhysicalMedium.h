@@ -2,7 +2,7 @@
 #pragma once
 
 #include "drive/LibburnDrive.h"
-#include "report/Medium.h"
+#include "medium/Medium.h"
 
 #include <atomic>
 #include <cstddef>
@@ -19,7 +19,7 @@ int profileOf(LibburnDrive &drive);
 
 /// Asks the drive for everything that a Medium holds. Waits for a medium that is not ready yet, half a minute
 /// or until `stop`.
-Result<report::Medium> readMedium(LibburnDrive &drive, const std::string &device, const Stop &stop);
+Result<Medium> readMedium(LibburnDrive &drive, const std::string &device, const Stop &stop);
 
 /// Size in blocks of the ISO 9660 volume whose primary volume descriptor is `descriptor` (block 16 of a
 /// disc, ECMA-119 8.4); 0 when it is none.

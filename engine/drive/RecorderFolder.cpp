@@ -2,7 +2,7 @@
 
 #include "base/Words.h"
 #include "drive/SmallFile.h"
-#include "report/Medium.h"
+#include "medium/Medium.h"
 
 #include <algorithm>
 #include <array>
@@ -55,14 +55,14 @@ bool exists(int folder, const char *name)
     return ::faccessat(folder, name, F_OK, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
-std::string archiveStem(report::MediumKind kind, bool spoilt)
+std::string archiveStem(MediumKind kind, bool spoilt)
 {
     const std::time_t now = std::time(nullptr);
     std::tm local{};
     ::localtime_r(&now, &local);
     std::array<char, 40> date{};
     std::strftime(date.data(), date.size(), "%Y-%m-%d-%H%M%S-", &local);
-    const char *name = report::factsOf(kind).insertName;
+    const char *name = factsOf(kind).insertName;
     return date.data() + std::string(name ? name : "disc") + (spoilt ? "-spoilt" : "");
 }
 
@@ -136,7 +136,7 @@ Result<void> createFirstRecorder(const std::string &base)
         return systemError(what, errno);
     ::chmod(fresh.c_str(), 0755);
     RecorderState state;
-    state.kind = report::MediumKind::cdR;
+    state.kind = MediumKind::cdR;
     const Fd folder(::open(fresh.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     Result<void> saved = replaceFile(folder.get(), stateFile, recorderText(state), what);
     // Another process may have been quicker; its recorder is as good, and is never replaced.
@@ -227,7 +227,7 @@ Result<void> RecorderFolder::moveToArchive(const std::string &stem, bool audio, 
     return {};
 }
 
-Result<void> RecorderFolder::archive(report::MediumKind kind, bool spoilt) const
+Result<void> RecorderFolder::archive(MediumKind kind, bool spoilt) const
 {
     const std::array<bool, 2> forms{ false, true };
     for (const bool audio : forms) {

@@ -44,7 +44,7 @@ public:
 
     /// Moves what lies on the disc to discs/, under a name made of date and kind which nothing there has.
     /// Without anything on the disc it does nothing.
-    Result<void> archive(report::MediumKind kind, bool spoilt) const;
+    Result<void> archive(MediumKind kind, bool spoilt) const;
 
     /// Deletes what lies on the disc.
     Result<void> clear() const;

@@ -34,8 +34,8 @@ std::string_view trimmed(std::string_view text)
 
 bool readKind(std::string_view value, RecorderState &state)
 {
-    const auto kind = report::kindOfInsertName(value);
-    state.kind = kind.value_or(report::MediumKind::none);
+    const auto kind = kindOfInsertName(value);
+    state.kind = kind.value_or(MediumKind::none);
     return kind || value == noMedium;
 }
 
@@ -85,18 +85,18 @@ std::string_view discWord(DiscState state)
     return std::ranges::find(discWords, state, &DiscWord::state)->word;
 }
 
-report::MediumState mediumState(DiscState state)
+MediumState mediumState(DiscState state)
 {
     switch (state) {
     case DiscState::blank:
-        return report::MediumState::blank;
+        return MediumState::blank;
     case DiscState::written:
-        return report::MediumState::closed;
+        return MediumState::closed;
     case DiscState::writing:
     case DiscState::spoilt:
         break;
     }
-    return report::MediumState::spoilt;
+    return MediumState::spoilt;
 }
 
 } // namespace
@@ -128,27 +128,27 @@ Result<RecorderState> parseRecorder(std::string_view text)
     // A text that was cut off must not make a blank of a disc that was written.
     if (!hasKind)
         return Error{ Exit::failed, "does not tell the kind of the disc" };
-    if (!hasDisc && state.kind != report::MediumKind::none)
+    if (!hasDisc && state.kind != MediumKind::none)
         return Error{ Exit::failed, "does not tell the state of the disc" };
     return state;
 }
 
 std::string recorderText(const RecorderState &state)
 {
-    const auto &facts = report::factsOf(state.kind);
+    const auto &facts = factsOf(state.kind);
     return "[recorder]\nvendor=" + state.vendor + "\nproduct=" + state.product
         + "\nrevision=" + state.revision + "\ntray=" + (state.trayOpen ? "open" : "closed")
         + "\n\n[medium]\nkind=" + (facts.insertName ? facts.insertName : std::string(noMedium))
         + "\nstate=" + std::string(discWord(state.disc)) + "\nblocks=" + std::to_string(state.blocks) + '\n';
 }
 
-report::Medium mediumOf(const RecorderState &state)
+Medium mediumOf(const RecorderState &state)
 {
-    if (state.trayOpen || state.kind == report::MediumKind::none)
+    if (state.trayOpen || state.kind == MediumKind::none)
         return {};
-    const std::uint64_t capacity = report::factsOf(state.kind).virtualBlocks;
+    const std::uint64_t capacity = factsOf(state.kind).virtualBlocks;
     const std::uint64_t used = state.disc == DiscState::blank ? 0 : state.blocks;
-    return report::mediumOf(state.kind, mediumState(state.disc), capacity, used);
+    return engine::mediumOf(state.kind, mediumState(state.disc), capacity, used);
 }
 
 } // namespace engine::drive

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/Result.h"
-#include "report/Medium.h"
+#include "medium/Medium.h"
 
 #include <cstdint>
 #include <string>
@@ -19,7 +19,7 @@ struct RecorderState {
     std::string product = "Virtual Recorder";
     std::string revision = "1.0";
     bool trayOpen = false;
-    report::MediumKind kind = report::MediumKind::none; ///< one that can be inserted, or none
+    MediumKind kind = MediumKind::none; ///< one that can be inserted, or none
     DiscState disc = DiscState::blank;
     std::uint64_t blocks = 0; ///< of the content, in sectors of the disc
 
@@ -36,6 +36,6 @@ Result<RecorderState> parseRecorder(std::string_view text);
 std::string recorderText(const RecorderState &state);
 
 /// The medium that `state` describes, as a drive would tell it.
-report::Medium mediumOf(const RecorderState &state);
+Medium mediumOf(const RecorderState &state);
 
 } // namespace engine::drive

@@ -57,7 +57,7 @@ public:
     {
     }
 
-    Result<report::Medium> medium() override;
+    Result<Medium> medium() override;
     Result<void> erase(EraseMode mode, const Control &control) override;
     Result<void> writeData(DiscData &data, BlockDigests &sent, const Control &control) override;
     Result<void> writeAudio(const audio::AudioDisc &disc, const Control &control) override;
@@ -69,8 +69,8 @@ private:
     Result<RecorderState> begin(std::uint64_t bytes);
     Result<void> write(Content content, const std::shared_ptr<TapState> &tapState,
         const std::function<Result<void>()> &sourceOutcome, const Control &control);
-    Result<LibburnDrive::Outcome> stream(Content &content, const Fd &file, report::MediumKind kind,
-        TapState &tapState, const Control &control);
+    Result<LibburnDrive::Outcome> stream(
+        Content &content, const Fd &file, MediumKind kind, TapState &tapState, const Control &control);
     Result<void> finish(RecorderState state, const Content &content, const Fd &file);
     Error abandon(RecorderState state, const Content &content, const Fd &file,
         const LibburnDrive::Outcome &outcome, const Result<void> &sourceOutcome);
@@ -82,14 +82,14 @@ private:
     std::unique_ptr<LibburnDrive> m_reader;
 };
 
-Result<report::Medium> VirtualLease::medium()
+Result<Medium> VirtualLease::medium()
 {
     const Result<RecorderState> state = m_folder.load();
     if (!state)
         return state.error();
-    report::Medium medium = mediumOf(*state);
+    Medium medium = mediumOf(*state);
     // A killed write could not note how far it had come.
-    if (state->disc == DiscState::writing && medium.kind != report::MediumKind::none)
+    if (state->disc == DiscState::writing && medium.kind != MediumKind::none)
         for (const char *file : { dataDiscFile, audioDiscFile })
             if (const auto disc = m_folder.openDisc(file))
                 medium.used = sectorsIn(file, sizeOf(*disc));
@@ -102,7 +102,7 @@ Result<void> VirtualLease::erase(EraseMode, const Control &)
     Result<RecorderState> state = m_folder.load();
     if (!state)
         return state.error();
-    if (!report::canErase(mediumOf(*state)))
+    if (!canErase(mediumOf(*state)))
         return Error{ Exit::failed, "The disc in " + m_name + " cannot be erased: insert a rewritable one." };
     // What is half gone after a kill must not look like a whole disc.
     state->disc = DiscState::writing;
@@ -121,7 +121,7 @@ Result<RecorderState> VirtualLease::begin(std::uint64_t bytes)
     Result<RecorderState> state = m_folder.load();
     if (!state)
         return state;
-    if (!report::canWriteNow(mediumOf(*state)))
+    if (!canWriteNow(mediumOf(*state)))
         return Error{ Exit::failed, "The disc in " + m_name + " was written already: insert a blank one." };
     if (auto cleared = m_folder.clear(); !cleared)
         return cleared.error();
@@ -150,7 +150,7 @@ Error VirtualLease::abandon(RecorderState state, const Content &content, const F
 {
     m_reserve = Fd();
     state.disc = DiscState::blank;
-    const report::Medium before = mediumOf(state);
+    const Medium before = mediumOf(state);
     const std::uint64_t reached = sizeOf(file);
     if (reached > 0) {
         state.disc = DiscState::spoilt;
@@ -175,7 +175,7 @@ Result<void> VirtualLease::finish(RecorderState state, const Content &content, c
 
 /// Sends the content through libburn into `file`.
 Result<LibburnDrive::Outcome> VirtualLease::stream(
-    Content &content, const Fd &file, report::MediumKind kind, TapState &tapState, const Control &control)
+    Content &content, const Fd &file, MediumKind kind, TapState &tapState, const Control &control)
 {
     auto drive = LibburnDrive::grab(addressOf(file), m_name, true, false);
     if (!drive)
@@ -183,7 +183,7 @@ Result<LibburnDrive::Outcome> VirtualLease::stream(
     std::vector<Track> tracks;
     tracks.push_back(std::move(content.track));
     LibburnDrive::Outcome outcome = (*drive)->write(
-        tracks, WriteMode::trackAtOnce, report::Phase::writing, report::factsOf(kind).family,
+        tracks, WriteMode::trackAtOnce, Phase::writing, factsOf(kind).family,
         [&] { return tapState.ranDry.load(); }, control);
     outcome.well = outcome.well && tapState.bytes.load() >= content.bytes;
     // A signal may come between the last look for one and a failure.
@@ -286,7 +286,7 @@ bool isSpoilt(DiscState state)
 }
 
 /// Takes what is in `folder` out and puts a blank of `kind` in.
-Result<void> exchange(const RecorderFolder &folder, RecorderState state, report::MediumKind kind)
+Result<void> exchange(const RecorderFolder &folder, RecorderState state, MediumKind kind)
 {
     // A disc that is gone while the state still tells of it helps nobody: room for the new state comes first.
     Result<Fd> reserve = folder.reserve();
@@ -309,7 +309,7 @@ VirtualDrive::VirtualDrive(std::string folder)
 {
 }
 
-report::DriveRecord VirtualDrive::record() const
+DriveRecord VirtualDrive::record() const
 {
     bool readable = false;
     const RecorderState state = peek(m_folder, readable);
@@ -338,7 +338,7 @@ Result<void> VirtualDrive::change(
 Result<void> VirtualDrive::eject()
 {
     return change([](const RecorderFolder &folder, RecorderState state) -> Result<void> {
-        if (state.kind != report::MediumKind::none)
+        if (state.kind != MediumKind::none)
             return exchange(folder, state, state.kind);
         state.trayOpen = true;
         return folder.save(state);
@@ -355,7 +355,7 @@ Result<void> VirtualDrive::close()
     });
 }
 
-Result<void> VirtualDrive::insert(report::MediumKind kind)
+Result<void> VirtualDrive::insert(MediumKind kind)
 {
     auto folder = RecorderFolder::lock(m_folder, name(), Access::exclusive);
     if (!folder)

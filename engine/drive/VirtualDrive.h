@@ -16,12 +16,12 @@ public:
     /// `folder` is the recorder's folder.
     explicit VirtualDrive(std::string folder);
 
-    report::DriveRecord record() const override;
+    DriveRecord record() const override;
     bool isVirtual() const override { return true; }
     Result<std::unique_ptr<Lease>> acquire(Purpose purpose) override;
     Result<void> eject() override;
     Result<void> close() override;
-    Result<void> insert(report::MediumKind kind) override;
+    Result<void> insert(MediumKind kind) override;
     Result<std::string> folder() const override { return m_folder; }
 
 private:

@@ -34,13 +34,13 @@ std::string stateSentence(const std::string &driveName, Left left)
 
 } // namespace
 
-Left leftOf(const report::Medium &before, bool touched)
+Left leftOf(const Medium &before, bool touched)
 {
-    if (!touched && before.state == report::MediumState::blank)
+    if (!touched && before.state == MediumState::blank)
         return Left::blank;
-    if (before.rewriting == report::Rewriting::overwrite)
+    if (before.rewriting == Rewriting::overwrite)
         return Left::overwritable;
-    return report::canErase(before) ? Left::erasable : Left::spoilt;
+    return canErase(before) ? Left::erasable : Left::spoilt;
 }
 
 std::string inBrackets(const LibburnMessage &message)

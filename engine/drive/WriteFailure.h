@@ -16,7 +16,7 @@ enum class Left {
 };
 
 /// What is left of a medium when a write to it broke off. `touched` tells whether anything reached it.
-Left leftOf(const report::Medium &before, bool touched);
+Left leftOf(const Medium &before, bool touched);
 
 /// What libburn said, as it stands behind a sentence: " (Medium error)"; nothing when it said nothing.
 std::string inBrackets(const LibburnMessage &message);

@@ -4,9 +4,9 @@
 
 namespace engine::drive {
 
-Attempt firstAttempt(report::Rewriting rewriting, const std::vector<int> &speeds)
+Attempt firstAttempt(Rewriting rewriting, const std::vector<int> &speeds)
 {
-    const bool sequential = rewriting == report::Rewriting::once || rewriting == report::Rewriting::erase;
+    const bool sequential = rewriting == Rewriting::once || rewriting == Rewriting::erase;
     return { sequential ? WriteMode::sessionAtOnce : WriteMode::trackAtOnce,
         speeds.empty() ? 0 : speeds.back() };
 }

@@ -18,7 +18,7 @@ struct Attempt {
 
 /// The first way for a medium: at once where the medium knows that, at the fastest of `speeds` (ascending).
 /// Overwritable media know one way only.
-Attempt firstAttempt(report::Rewriting rewriting, const std::vector<int> &speeds);
+Attempt firstAttempt(Rewriting rewriting, const std::vector<int> &speeds);
 
 /// What to try after `failed` got `refusal`, while the medium is still as it was. A speed error lowers the
 /// speed. Any other refusal of the session at once gives the incremental way, except for audio: track at

@@ -11,7 +11,7 @@ Session::Session()
 
 drive::Control Session::control()
 {
-    return { [this](const report::Progress &progress, unsigned unitBytes) {
+    return { [this](const Progress &progress, unsigned unitBytes) {
                 if (const auto line = m_pacer.next(progress, unitBytes, report::ProgressPacer::Clock::now()))
                     m_output.offer(*line + '\n');
             },

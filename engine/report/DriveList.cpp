@@ -6,9 +6,6 @@ namespace engine::report {
 
 namespace {
 
-constexpr std::string_view numbers = "123456789abcdefghijklmnopqrstuvwxyz";
-static_assert(numbers.size() == maximumDrives);
-
 std::string column(const std::string &text, std::size_t width)
 {
     std::string cell = text.substr(0, width);
@@ -30,19 +27,6 @@ std::string line(const std::string &number, const DriveRecord &d)
 }
 
 } // namespace
-
-char driveNumber(std::size_t index)
-{
-    return numbers.at(index);
-}
-
-std::optional<std::size_t> driveIndex(std::string_view number)
-{
-    const std::size_t at = number.size() == 1 ? numbers.find(number.front()) : std::string_view::npos;
-    if (at == std::string_view::npos)
-        return std::nullopt;
-    return at;
-}
 
 std::string driveListText(const std::vector<DriveRecord> &drives)
 {

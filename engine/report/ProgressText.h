@@ -1,7 +1,7 @@
 // Lines that tell how far a write, an erase or a comparison has come.
 #pragma once
 
-#include "report/Medium.h"
+#include "medium/Progress.h"
 
 #include <chrono>
 #include <cstdint>
@@ -9,18 +9,6 @@
 #include <string>
 
 namespace engine::report {
-
-enum class Phase { preparing, erasing, writing, closing, verifying };
-
-/// How far an operation is at one moment.
-struct Progress {
-    Phase phase = Phase::preparing;
-    uint64_t done = 0; ///< in units of `total`
-    uint64_t total = 0; ///< 0: not known
-    double speed = 0.0; ///< 1000 bytes a second, of a CD those of whole sectors (2352 bytes); 0 not known
-    Family family = Family::none; ///< what the speed factor refers to
-    std::optional<int> bufferPercent; ///< fill of the drive's buffer, 0..100
-};
 
 /// One line without its break: "Writing: 42.3 %, 16x, buffer 98 %". Parts that are not known are left out.
 std::string progressText(const Progress &progress);

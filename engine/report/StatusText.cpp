@@ -56,6 +56,24 @@ std::string speedWords(const Medium &medium)
 
 } // namespace
 
+std::string writability(const Medium &medium)
+{
+    const bool sequential = medium.rewriting == Rewriting::once || medium.rewriting == Rewriting::erase;
+    const bool blank = sequential && medium.state == MediumState::blank;
+    const bool open = medium.rewriting == Rewriting::once && medium.state == MediumState::appendable;
+    std::string words;
+    const auto add = [&words](const char *word) { words += (words.empty() ? "" : ", ") + std::string(word); };
+    if (blank || open)
+        add("appendable");
+    if (blank)
+        add("blank");
+    if (canErase(medium))
+        add("erasable");
+    if (canWriteNow(medium))
+        add("overwritable");
+    return words.empty() ? "not writable" : words;
+}
+
 std::string speedFactor(double speed, Family family)
 {
     const double single = singleSpeed(family);

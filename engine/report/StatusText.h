@@ -1,7 +1,7 @@
 // The text of `drutil status`.
 #pragma once
 
-#include "report/Medium.h"
+#include "medium/Medium.h"
 
 #include <string>
 
@@ -11,6 +11,11 @@ namespace engine::report {
 /// whole text for words, and a drive whose name holds "DVD" must not turn every CD into a DVD.
 /// An empty drive gives the one line "Type: No Media Inserted".
 std::string statusText(const Medium &medium);
+
+/// The words after "Writability:", with ", " between: `appendable` a session can be added, `blank`
+/// nothing written, `erasable` can be erased and written again, `overwritable` can be written from
+/// the start now; or `not writable`.
+std::string writability(const Medium &medium);
 
 /// A write speed as a factor of the medium's single speed: 2822 on a CD is "16x", 3324 on a DVD "2.4x".
 /// `speed` is in 1000 bytes a second.

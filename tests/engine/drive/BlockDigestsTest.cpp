@@ -31,7 +31,7 @@ public:
             bytes.back() ^= std::byte{ 1 };
     }
 
-    Result<report::Medium> medium() override { return report::Medium{}; }
+    Result<Medium> medium() override { return Medium{}; }
     Result<void> erase(EraseMode, const Control &) override { return {}; }
     Result<void> writeData(DiscData &, BlockDigests &, const Control &) override { return {}; }
     Result<void> writeAudio(const audio::AudioDisc &, const Control &) override { return {}; }

@@ -2,6 +2,7 @@
 #include "drive/PhysicalDrives.h"
 
 #include "drive/DeviceNode.h"
+#include "report/DriveList.h"
 
 #include <QtTest>
 

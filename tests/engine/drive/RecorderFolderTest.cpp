@@ -10,7 +10,6 @@
 using namespace Qt::StringLiterals;
 using namespace engine;
 using namespace engine::drive;
-using report::MediumKind;
 
 namespace {
 

@@ -1,12 +1,13 @@
 // The recorder.ini of a virtual recorder: what is read, what is refused, what a medium follows from it.
 #include "drive/RecorderState.h"
 
+#include "report/StatusText.h"
+
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
 using namespace engine;
 using namespace engine::drive;
-using report::MediumKind;
 
 class RecorderStateTest : public QObject {
     Q_OBJECT

@@ -9,8 +9,6 @@
 using namespace Qt::StringLiterals;
 using namespace engine;
 using namespace engine::drive;
-using report::MediumKind;
-using report::MediumState;
 
 namespace {
 
@@ -88,7 +86,7 @@ private Q_SLOTS:
     void whatIsLeft()
     {
         const auto medium = [](MediumKind kind) {
-            return report::mediumOf(kind, MediumState::blank, 1000, 0);
+            return engine::mediumOf(kind, MediumState::blank, 1000, 0);
         };
         QCOMPARE(int(leftOf(medium(MediumKind::cdR), false)), int(Left::blank));
         QCOMPARE(int(leftOf(medium(MediumKind::cdR), true)), int(Left::spoilt));

@@ -4,7 +4,7 @@
 #include <QtTest>
 
 using namespace engine::drive;
-using engine::report::Rewriting;
+using engine::Rewriting;
 
 namespace {
 

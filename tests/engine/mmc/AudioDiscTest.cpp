@@ -129,9 +129,9 @@ private Q_SLOTS:
             }
             return {};
         };
-        session.options.control.progress = [&](const engine::report::Progress &progress, unsigned unit) {
+        session.options.control.progress = [&](const engine::Progress &progress, unsigned unit) {
             told.release();
-            if (progress.phase != engine::report::Phase::writing)
+            if (progress.phase != engine::Phase::writing)
                 return;
             QCOMPARE(unit, unsigned(sectorBytes));
             QCOMPARE(progress.total, std::uint64_t(900));

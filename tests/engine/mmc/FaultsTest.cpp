@@ -188,8 +188,8 @@ private Q_SLOTS:
         session.options.verify = verify;
         std::binary_semaphore asked(0);
         std::atomic<bool> closing = false; // set by the thread that tells of progress
-        session.options.control.progress = [&](const engine::report::Progress &progress, unsigned) {
-            closing = closing || progress.phase == engine::report::Phase::closing;
+        session.options.control.progress = [&](const engine::Progress &progress, unsigned) {
+            closing = closing || progress.phase == engine::Phase::closing;
         };
         session.stopAt = [&, first = true]() mutable {
             if (closing && std::exchange(first, false))

@@ -105,8 +105,8 @@ private Q_SLOTS:
         Session session(unformatted(dvdPlusRw));
         std::binary_semaphore told(0);
         bool formats = false;
-        session.options.control.progress = [&](const engine::report::Progress &progress, unsigned) {
-            if (progress.phase == engine::report::Phase::erasing && progress.total == 0 && !formats) {
+        session.options.control.progress = [&](const engine::Progress &progress, unsigned) {
+            if (progress.phase == engine::Phase::erasing && progress.total == 0 && !formats) {
                 formats = true;
                 told.release();
             }

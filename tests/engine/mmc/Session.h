@@ -20,7 +20,7 @@ public:
     {
         drive.speeds = speeds;
         physical.setNumber('1');
-        options.control.progress = [this](const engine::report::Progress &progress, unsigned) {
+        options.control.progress = [this](const engine::Progress &progress, unsigned) {
             lines.append(QString::fromStdString(engine::report::progressText(progress)));
         };
         options.control.stop = [this] { return stopAt && stopAt() ? SIGTERM : 0; };

@@ -6,6 +6,7 @@
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
+using namespace engine;
 using namespace engine::report;
 using namespace std::chrono_literals;
 

@@ -1,9 +1,12 @@
 // Profiles and status bits as drives answer them, and the words that follow from them.
-#include "report/Medium.h"
+#include "medium/Medium.h"
+
+#include "report/StatusText.h"
 
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
+using namespace engine;
 using namespace engine::report;
 
 namespace {
@@ -175,7 +178,7 @@ private Q_SLOTS:
         QVERIFY(kind.has_value());
         QCOMPARE(QString::fromLatin1(factsOf(*kind).type), type);
         QCOMPARE(quint64(factsOf(*kind).virtualBlocks), blocks);
-        QVERIFY(QString::fromStdString(engine::report::insertNames()).split(u", "_s).contains(name));
+        QVERIFY(QString::fromStdString(engine::insertNames()).split(u", "_s).contains(name));
     }
 
     void otherNamesAreNoKinds()

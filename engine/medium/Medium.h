@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace engine::report {
+namespace engine {
 
 enum class MediumKind {
     none,
@@ -49,7 +49,7 @@ enum class MediumState {
 /// One kind of medium: a row of the table that everything else is looked up in.
 struct KindFacts {
     MediumKind kind;
-    const char *type; ///< the word after "Type:" in a status report
+    const char *type; ///< its name for a person: "DVD+R DL"
     const char
         *insertName; ///< what `drutil insert` calls it; null where a virtual recorder does not offer it
     Family family;
@@ -107,11 +107,6 @@ struct DriveAnswers {
 /// Puts the drive's answers together.
 Medium mediumFromAnswers(const DriveAnswers &answers);
 
-/// The words after "Writability:", with ", " between: `appendable` a session can be added, `blank`
-/// nothing written, `erasable` can be erased and written again, `overwritable` can be written from
-/// the start now; or `not writable`.
-std::string writability(const Medium &medium);
-
 /// True when the medium can be written from its first block now.
 bool canWriteNow(const Medium &medium);
 
@@ -121,4 +116,4 @@ bool canErase(const Medium &medium);
 /// Bytes a second of speed factor 1 in units of 1000 bytes (CD 176.4, DVD 1385, BD 4496); 0 for no disc.
 double singleSpeed(Family family);
 
-} // namespace engine::report
+} // namespace engine

@@ -1,9 +1,9 @@
-#include "report/Medium.h"
+#include "medium/Medium.h"
 
 #include <algorithm>
 #include <array>
 
-namespace engine::report {
+namespace engine {
 
 namespace {
 
@@ -175,24 +175,6 @@ bool canErase(const Medium &medium)
     return medium.rewriting == Rewriting::erase || medium.rewriting == Rewriting::overwrite;
 }
 
-std::string writability(const Medium &medium)
-{
-    const bool sequential = medium.rewriting == Rewriting::once || medium.rewriting == Rewriting::erase;
-    const bool blank = sequential && medium.state == MediumState::blank;
-    const bool open = medium.rewriting == Rewriting::once && medium.state == MediumState::appendable;
-    std::string words;
-    const auto add = [&words](const char *word) { words += (words.empty() ? "" : ", ") + std::string(word); };
-    if (blank || open)
-        add("appendable");
-    if (blank)
-        add("blank");
-    if (canErase(medium))
-        add("erasable");
-    if (canWriteNow(medium))
-        add("overwritable");
-    return words.empty() ? "not writable" : words;
-}
-
 double singleSpeed(Family family)
 {
     switch (family) {
@@ -208,4 +190,4 @@ double singleSpeed(Family family)
     return 0.0;
 }
 
-} // namespace engine::report
+} // namespace engine

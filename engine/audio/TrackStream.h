@@ -1,4 +1,4 @@
-// The sectors of audio tracks as a stream, for a file or for libburn.
+// The sectors of audio tracks as a stream of bytes: 16-bit little-endian samples, as a disc and a .bin file hold them.
 #pragma once
 
 #include "audio/AudioDisc.h"
@@ -6,13 +6,9 @@
 #include "base/Result.h"
 
 #include <cstddef>
-#include <functional>
-#include <memory>
+#include <span>
 #include <string>
-
-namespace burn {
-struct burn_source;
-}
+#include <vector>
 
 namespace engine::audio {
 
@@ -24,9 +20,9 @@ public:
     static Result<TrackStream> open(const AudioTrack &track);
 
     /// Fills `buffer` with the next bytes of the track and returns their number, which is less
-    /// than `size` only at the end of the track. A file that cannot be read, or is shorter than
+    /// than its size only at the end of the track. A file that cannot be read, or is shorter than
     /// it was, is an error that names it.
-    Result<std::size_t> read(std::byte *buffer, std::size_t size);
+    Result<std::size_t> read(std::span<std::byte> buffer);
 
 private:
     TrackStream(const AudioTrack &track, Fd file);
@@ -37,17 +33,20 @@ private:
     std::uint64_t m_silence = 0; ///< bytes of silence still to come
 };
 
-/// One track as libburn wants its data: 16-bit little-endian samples, whole sectors.
-/// The caller owns the reference (burn_source_free). When a read fails, the source returns -1 and
-/// `outcome` holds the error; it is shared with the caller and must not be read while libburn
-/// writes.
-burn::burn_source *newTrackSource(
-    TrackStream track, std::uint32_t sectors, std::shared_ptr<Result<void>> outcome);
+/// Reads the pause of track 1 and then all tracks back to back: the .bin file that cueSheet() describes.
+/// Not thread-safe.
+class DiscStream {
+public:
+    /// Opens the files of all tracks, so that one that has gone is found before anything is written.
+    static Result<DiscStream> open(const AudioDisc &disc);
 
-/// Writes the pause of track 1 and all tracks to `fd`: the .bin file that cueSheet() describes.
-/// `progress` is told the sectors written so far and ends the writing (Exit::interrupted) by
-/// returning false; may be empty. The error of a failed write speaks of `destination`.
-Result<void> writeBin(const AudioDisc &disc, int fd, const std::string &destination,
-    const std::function<bool(std::uint32_t sectors)> &progress);
+    /// As TrackStream::read(), over the whole disc.
+    Result<std::size_t> read(std::span<std::byte> buffer);
+
+private:
+    std::uint64_t m_pause = std::uint64_t{ firstPause } * sectorSize; ///< bytes of it still to come
+    std::vector<TrackStream> m_tracks;
+    std::size_t m_current = 0;
+};
 
 } // namespace engine::audio

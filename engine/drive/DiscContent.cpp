@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <utility>
@@ -12,8 +11,6 @@
 namespace engine::drive {
 
 namespace {
-
-constexpr int shrunk = -1;
 
 image::IsoOptions isoOptions(const Stop &stop)
 {
@@ -45,13 +42,13 @@ Result<std::unique_ptr<DiscData>> FolderContent::read(const std::string &folder,
 
 FolderContent::FolderContent(std::string folder, image::IsoImage image, Stop stop)
     : m_folder(std::move(folder))
-    , m_image(std::move(image))
-    , m_blocks(m_image.blockCount())
+    , m_image(std::make_shared<image::IsoImage>(std::move(image)))
+    , m_blocks(m_image->blockCount())
     , m_stop(std::move(stop))
 {
 }
 
-Result<burn::burn_source *> FolderContent::start()
+Result<Read> FolderContent::start()
 {
     // An image streams once; another attempt reads the tree anew.
     if (std::exchange(m_streamed, true)) {
@@ -61,14 +58,14 @@ Result<burn::burn_source *> FolderContent::start()
         if (again->blockCount() != m_blocks)
             return Error{ Exit::failed,
                 engine::quoted(m_folder) + " changed while it was being written: try again." };
-        m_image = std::move(again).value();
+        m_image = std::make_shared<image::IsoImage>(std::move(again).value());
     }
-    return m_image.burnSource();
+    return Read([image = m_image](std::span<std::byte> buffer) { return image->read(buffer); });
 }
 
 ImageContent::ImageContent(std::string path, Fd file, std::uint64_t size)
     : m_path(std::move(path))
-    , m_file(std::move(file))
+    , m_file(std::make_shared<const Fd>(std::move(file)))
     , m_size(size)
 {
 }
@@ -89,39 +86,24 @@ Result<std::unique_ptr<DiscData>> ImageContent::open(const std::string &path)
         new ImageContent(path, std::move(file), static_cast<std::uint64_t>(info.st_size)));
 }
 
-Result<burn::burn_source *> ImageContent::start()
+Result<Read> ImageContent::start()
 {
-    m_next = 0;
-    m_failure = 0;
-    m_source = newSource(blocks() * blockBytes, [this](std::span<std::byte> out) { return fill(out); });
-    return m_source.get();
-}
-
-std::ptrdiff_t ImageContent::fill(std::span<std::byte> out)
-{
-    const std::uint64_t end = blocks() * blockBytes;
-    const auto total = static_cast<std::size_t>(std::min<std::uint64_t>(out.size(), end - m_next));
-    const std::uint64_t left = m_next < m_size ? m_size - m_next : 0;
-    const auto real = static_cast<std::size_t>(std::min<std::uint64_t>(total, left));
-    const std::ptrdiff_t got = readFully(m_file.get(), out.first(real), static_cast<off_t>(m_next));
-    if (got != static_cast<std::ptrdiff_t>(real)) {
-        m_failure = got < 0 ? errno : shrunk;
-        return -1;
-    }
-    std::memset(out.data() + real, 0, total - real);
-    m_next += total;
-    return static_cast<std::ptrdiff_t>(total);
-}
-
-Result<void> ImageContent::outcome() const
-{
-    if (m_failure == 0)
-        return {};
-    if (m_failure == shrunk)
-        return Error{ Exit::failed,
-            engine::quoted(m_path)
-                + " became shorter while it was being written: leave it alone and write it again." };
-    return systemError(engine::quoted(m_path) + " cannot be read", m_failure);
+    return Read([path = m_path, file = m_file, end = blocks() * blockBytes, size = m_size,
+                    next = std::uint64_t{ 0 }](std::span<std::byte> buffer) mutable -> Result<std::size_t> {
+        buffer = buffer.first(static_cast<std::size_t>(std::min<std::uint64_t>(buffer.size(), end - next)));
+        const std::uint64_t left = next < size ? size - next : 0;
+        const auto real = static_cast<std::size_t>(std::min<std::uint64_t>(buffer.size(), left));
+        const std::ptrdiff_t got = readFully(file->get(), buffer.first(real), static_cast<off_t>(next));
+        if (got < 0)
+            return systemError(quoted(path) + " cannot be read", errno);
+        if (static_cast<std::size_t>(got) < real)
+            return Error{ Exit::failed,
+                quoted(path)
+                    + " became shorter while it was being written: leave it alone and write it again." };
+        std::ranges::fill(buffer.subspan(real), std::byte{});
+        next += buffer.size();
+        return buffer.size();
+    });
 }
 
 } // namespace engine::drive

@@ -4,7 +4,6 @@
 #include "base/Fd.h"
 #include "drive/Burn.h"
 #include "drive/Drive.h"
-#include "drive/Source.h"
 #include "image/IsoImage.h"
 
 #include <memory>
@@ -21,14 +20,13 @@ public:
     static Result<std::unique_ptr<DiscData>> read(const std::string &folder, const BurnOptions &options);
 
     std::uint64_t blocks() const override { return m_blocks; }
-    Result<burn::burn_source *> start() override;
-    Result<void> outcome() const override { return m_image.outcome(); }
+    Result<Read> start() override;
 
 private:
     FolderContent(std::string folder, image::IsoImage image, Stop stop);
 
     std::string m_folder;
-    image::IsoImage m_image;
+    std::shared_ptr<image::IsoImage> m_image;
     std::uint64_t m_blocks;
     bool m_streamed = false;
     Stop m_stop;
@@ -40,19 +38,14 @@ public:
     static Result<std::unique_ptr<DiscData>> open(const std::string &path);
 
     std::uint64_t blocks() const override { return (m_size + blockBytes - 1) / blockBytes; }
-    Result<burn::burn_source *> start() override;
-    Result<void> outcome() const override;
+    Result<Read> start() override;
 
 private:
     ImageContent(std::string path, Fd file, std::uint64_t size);
-    std::ptrdiff_t fill(std::span<std::byte> out);
 
     std::string m_path;
-    Fd m_file;
+    std::shared_ptr<const Fd> m_file;
     std::uint64_t m_size;
-    std::uint64_t m_next = 0;
-    std::atomic<int> m_failure = 0; ///< errno, or shrunk
-    Source m_source;
 };
 
 } // namespace engine::drive

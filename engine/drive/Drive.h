@@ -1,6 +1,7 @@
 // A drive that can be asked about its medium and write it: a physical one or a virtual recorder.
 #pragma once
 
+#include "base/Read.h"
 #include "base/Result.h"
 #include "base/Stop.h"
 #include "medium/DriveRecord.h"
@@ -14,10 +15,6 @@
 #include <span>
 #include <string>
 #include <utility>
-
-namespace burn {
-struct burn_source;
-}
 
 namespace engine::audio {
 struct AudioDisc;
@@ -53,12 +50,9 @@ public:
     /// Blocks of 2048 bytes, known before anything is streamed.
     virtual std::uint64_t blocks() const = 0;
 
-    /// A stream from the first block on, owned by this object until the next call. It may be asked for
-    /// again, for another attempt at writing.
-    virtual Result<burn::burn_source *> start() = 0;
-
-    /// How the stream went: an error names the file that could not be read or became shorter.
-    virtual Result<void> outcome() const = 0;
+    /// What gives all blocks from the first on; it may be used on another thread, and when this object is gone. It may
+    /// be asked for again, for another attempt at writing.
+    virtual Result<Read> start() = 0;
 };
 
 enum class EraseMode {

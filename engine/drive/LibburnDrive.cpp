@@ -274,7 +274,7 @@ LibburnDrive::Outcome LibburnDrive::wait(Stop stop, const Task &task, const Cont
         }
         if (outcome.signal == 0)
             outcome.signal = control.stop.signal();
-        outcome.sourceFailed = outcome.sourceFailed || (task.sourceFailed && task.sourceFailed());
+        outcome.sourceFailed = task.supply && task.supply->failed();
         // Everything is with the drive while it closes the disc: libburn does not break that off, and calls a
         // write that was cancelled then a failure all the same.
         const bool breakable = stop == Stop::cancels && phase != Phase::closing;
@@ -285,14 +285,14 @@ LibburnDrive::Outcome LibburnDrive::wait(Stop stop, const Task &task, const Cont
         std::this_thread::sleep_for(pause);
         pause = std::min(pause * 2, 100ms);
     }
-    outcome.sourceFailed = outcome.sourceFailed || (task.sourceFailed && task.sourceFailed());
+    outcome.sourceFailed = task.supply && task.supply->failed();
     outcome.message = takeMessage();
     outcome.well = !cancelled && !outcome.sourceFailed && burn_drive_wrote_well(handle()) != 0;
     return outcome;
 }
 
 LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, WriteMode mode, Phase phase,
-    Family family, const std::function<bool()> &sourceFailed, const Control &control)
+    Family family, const Supply &supply, const Control &control)
 {
     takeMessage();
     const bool audio = !tracks.empty() && tracks.front().audio;
@@ -311,7 +311,7 @@ LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, Writ
     }
     const auto unitBytes = static_cast<unsigned>(audio ? audio::sectorSize : blockBytes);
     // From the start of the write on the sources belong to libburn's thread, which may change their sizes.
-    const Task task{ phase, family, unitBytes, sectorsOf(tracks, unitBytes), sourceFailed };
+    const Task task{ phase, family, unitBytes, sectorsOf(tracks, unitBytes), &supply };
     burn_disc_write(options.get(), layout.disc());
     Outcome outcome = wait(Stop::cancels, task, control);
     for (const Track &track : tracks)
@@ -321,7 +321,7 @@ LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, Writ
 
 LibburnDrive::Outcome LibburnDrive::waitForErase(const Control &control)
 {
-    return wait(Stop::waits, { Phase::erasing, Family::none, 0, {}, {} }, control);
+    return wait(Stop::waits, { Phase::erasing, Family::none, 0, {}, nullptr }, control);
 }
 
 std::size_t LibburnDrive::read(std::uint64_t block, std::span<std::byte> buffer)

@@ -5,7 +5,6 @@
 #include "drive/Source.h"
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -73,10 +72,10 @@ public:
         LibburnMessage message; ///< the gravest message of a failure
     };
 
-    /// Writes one session of `tracks` and closes the disc. Progress is told as `phase`. `sourceFailed` is
-    /// asked during the write and ends it; may be empty. A stop signal ends it until the disc is being closed.
+    /// Writes one session of `tracks` and closes the disc. Progress is told as `phase`. A failure of `supply`, which
+    /// the sources of the tracks tell, ends the write. A stop signal ends it until the disc is being closed.
     Outcome write(const std::vector<Track> &tracks, WriteMode mode, Phase phase, Family family,
-        const std::function<bool()> &sourceFailed, const Control &control);
+        const Supply &supply, const Control &control);
 
     /// Waits for an erase or a format that was started. Neither can be broken off safely (MMC-6 6.2), so a
     /// stop signal is only noted.
@@ -99,7 +98,7 @@ private:
         Family family;
         unsigned unitBytes; ///< of a sector
         std::vector<std::uint64_t> sectors; ///< of each track; none for an erase
-        std::function<bool()> sourceFailed;
+        const Supply *supply; ///< of a write; null for an erase
     };
 
     Outcome wait(Stop stop, const Task &task, const Control &control);

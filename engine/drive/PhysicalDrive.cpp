@@ -65,8 +65,8 @@ struct PhysicalLease::Job {
     bool audio = false;
     Phase phase = Phase::writing;
     std::function<Result<std::vector<Track>>()> tracks;
-    std::function<bool()> sourceFailed;
-    std::function<Result<void>()> sourceOutcome;
+    std::shared_ptr<Supply> supply = std::make_shared<Supply>();
+    std::uint64_t blocks = 0; ///< of which `supply` keeps digests, if it does
 };
 
 /// True when another attempt can start as if the failed one had not been.
@@ -85,19 +85,20 @@ Result<void> PhysicalLease::write(Job &job, const Medium &medium, const Control 
     const auto family = factsOf(medium.kind).family;
     Attempt attempt = firstAttempt(medium.rewriting, medium.speeds);
     while (true) {
+        job.supply->start(job.blocks);
         Result<std::vector<Track>> tracks = job.tracks();
         if (!tracks)
             return tracks.error();
         burn_drive_set_speed(m_drive->handle(), 0, attempt.speed);
         LibburnDrive::Outcome outcome =
-            m_drive->write(*tracks, attempt.mode, job.phase, family, job.sourceFailed, control);
+            m_drive->write(*tracks, attempt.mode, job.phase, family, *job.supply, control);
         if (outcome.well)
             return {};
         outcome.gone = outcome.signal == 0 && !outcome.sourceFailed && isGone(m_device);
         const bool again = !outcome.gone && untouched(outcome, medium);
         const auto next = nextAttempt(attempt, outcome.message, job.audio, medium.speeds);
         if (!again || !next)
-            return writeFailure(outcome, job.sourceOutcome(), m_name, leftOf(medium, !again));
+            return writeFailure(outcome, job.supply->outcome(), m_name, leftOf(medium, !again));
         attempt = *next;
     }
 }
@@ -112,21 +113,19 @@ Result<void> PhysicalLease::writeData(DiscData &data, BlockDigests &sent, const 
     // A format sets spare blocks aside, and how many is known only now.
     if (auto fits = checkRoom(data.blocks(), now->free, m_name); !fits)
         return fits;
-    const auto tapState = std::make_shared<TapState>(std::move(sent));
     Job job;
+    job.supply = std::make_shared<Supply>(std::move(sent));
+    job.blocks = data.blocks();
     job.tracks = [&]() -> Result<std::vector<Track>> {
-        const Result<burn_source *> stream = data.start();
+        const Result<Read> stream = data.start();
         if (!stream)
             return stream.error();
         std::vector<Track> tracks(1);
-        tracks.front().source = tap(*stream, data.blocks(), tapState);
+        tracks.front().source = newSource(*stream, data.blocks() * blockBytes, job.supply);
         return tracks;
     };
-    job.sourceFailed = [&] { return tapState->ranDry.load(); };
-    job.sourceOutcome = [&] { return data.outcome(); };
     auto written = write(job, *now, control);
-    tapState->bytes.load(std::memory_order_acquire);
-    sent = std::move(tapState->digests);
+    sent = job.supply->takeDigests();
     return written;
 }
 
@@ -138,12 +137,9 @@ Result<void> PhysicalLease::writeAudio(const audio::AudioDisc &disc, const Contr
     // What an erased disc takes is known only now where the drive did not tell.
     if (auto fits = checkRoom(disc.sectorCount() - audio::firstPause, now->free, m_name); !fits)
         return fits;
-    const auto reading = std::make_shared<AudioReading>();
     Job job;
     job.audio = true;
-    job.tracks = [&] { return audioTracks(disc, reading); };
-    job.sourceFailed = [&] { return reading->failed.load(); };
-    job.sourceOutcome = [&] { return reading->outcome; };
+    job.tracks = [&] { return audioTracks(disc, job.supply); };
     return write(job, *now, control);
 }
 
@@ -211,10 +207,9 @@ Result<void> PhysicalLease::overwrite(std::uint64_t blocks, const Medium &medium
     job.phase = Phase::erasing;
     job.tracks = [&]() -> Result<std::vector<Track>> {
         std::vector<Track> tracks(1);
-        tracks.front().source = zeros(blocks * blockBytes);
+        tracks.front().source = newSource(zeros(), blocks * blockBytes, job.supply);
         return tracks;
     };
-    job.sourceOutcome = [] { return Result<void>(); };
     if (auto written = write(job, medium, control); !written)
         return written;
     return reload();

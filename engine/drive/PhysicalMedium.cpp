@@ -148,25 +148,17 @@ bool needsFormat(int profile, bool answered, int status)
     return mayNeed && answered && status == BURN_FORMAT_IS_UNFORMATTED;
 }
 
-Result<std::vector<Track>> audioTracks(
-    const audio::AudioDisc &disc, const std::shared_ptr<AudioReading> &reading)
+Result<std::vector<Track>> audioTracks(const audio::AudioDisc &disc, const std::shared_ptr<Supply> &supply)
 {
-    const std::shared_ptr<Result<void>> outcome(reading, &reading->outcome);
     std::vector<Track> tracks;
     for (const audio::AudioTrack &track : disc.tracks) {
-        auto stream = audio::TrackStream::open(track);
-        if (!stream)
-            return stream.error();
-        const auto inner = std::make_shared<Source>(
-            audio::newTrackSource(std::move(stream).value(), track.sectors, outcome));
-        const auto fill = [inner, reading](std::span<std::byte> out) {
-            const std::ptrdiff_t n = readSource(inner->get(), out);
-            if (n < 0)
-                reading->failed = true;
-            return n;
-        };
+        auto opened = audio::TrackStream::open(track);
+        if (!opened)
+            return opened.error();
+        const auto stream = std::make_shared<audio::TrackStream>(std::move(opened).value());
         Track added;
-        added.source = newSource(std::uint64_t{ track.sectors } * audio::sectorSize, fill);
+        added.source = newSource([stream](std::span<std::byte> buffer) { return stream->read(buffer); },
+            std::uint64_t{ track.sectors } * audio::sectorSize, supply);
         added.audio = true;
         added.pregap = tracks.empty() ? static_cast<int>(audio::firstPause) : 0;
         tracks.push_back(std::move(added));

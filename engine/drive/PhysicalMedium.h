@@ -4,7 +4,6 @@
 #include "drive/LibburnDrive.h"
 #include "medium/Medium.h"
 
-#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -30,15 +29,8 @@ std::uint64_t volumeBlocks(std::span<const std::byte> descriptor);
 /// by libburn in the course of a write.
 bool needsFormat(int profile, bool answered, int status);
 
-/// How the files of an audio disc are read. libburn fills up a track whose source fails with silence.
-struct AudioReading {
-    Result<void> outcome; ///< names the file that failed; to be read when libburn has ended
-    std::atomic<bool> failed = false; ///< may be asked at any time
-};
-
 /// The tracks of a session at once: the pause of two seconds before the first, none added between.
-/// `reading` is told of a file that fails.
-Result<std::vector<Track>> audioTracks(
-    const audio::AudioDisc &disc, const std::shared_ptr<AudioReading> &reading);
+/// `supply` is told of a file that fails.
+Result<std::vector<Track>> audioTracks(const audio::AudioDisc &disc, const std::shared_ptr<Supply> &supply);
 
 } // namespace engine::drive

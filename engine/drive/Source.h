@@ -1,16 +1,15 @@
-// Sources of data for libburn, which reads them on its own thread.
+// The data of a write as libburn reads them, on a thread of its own. Nothing else makes sources for libburn: what is
+// written only has to be readable (engine::Read).
 #pragma once
 
+#include "base/Read.h"
 #include "base/Result.h"
 #include "drive/BlockDigests.h"
 
-#include <atomic>
 #include <cstdint>
-#include <functional>
 #include <memory>
+#include <mutex>
 #include <span>
-#include <utility>
-#include <vector>
 
 namespace burn {
 struct burn_source;
@@ -18,46 +17,56 @@ struct burn_source;
 
 namespace engine::drive {
 
+/// What passes from the sources of one attempt at a write to libburn. libburn's thread tells it, any other asks.
+class Supply {
+public:
+    /// Takes no digests.
+    Supply()
+        : Supply(BlockDigests(false))
+    {
+    }
+    explicit Supply(BlockDigests digests);
+
+    /// Forgets everything for another attempt; `blocks` are to come.
+    void start(std::uint64_t blocks);
+
+    /// `piece` goes out: whole blocks, but at the end, if digests are kept.
+    void pass(std::span<const std::byte> piece);
+
+    /// The data cannot be read on. The first reason counts.
+    void fail(const Error &why);
+
+    bool failed() const { return !outcome(); }
+    /// How the reading went so far: the error says why it failed.
+    Result<void> outcome() const;
+    /// Bytes that went out.
+    std::uint64_t bytes() const;
+    /// Takes the digests of what went out.
+    BlockDigests takeDigests();
+
+private:
+    mutable std::mutex m_mutex;
+    BlockDigests m_digests;
+    std::uint64_t m_bytes = 0;
+    Result<void> m_outcome;
+};
+
 /// Gives back a reference to a source.
 struct SourceRelease {
     void operator()(burn::burn_source *source) const;
 };
 using Source = std::unique_ptr<burn::burn_source, SourceRelease>;
 
-/// Fills a buffer and returns the number of bytes, which is less than its size only at the end, or -1. Runs
-/// on libburn's thread.
-using Fill = std::function<std::ptrdiff_t(std::span<std::byte>)>;
+/// A source of the first `bytes` bytes that `read` gives, which is called on libburn's thread. `read` lives as long as
+/// the source and may be called until awaitUser() has returned. libburn fills up a track whose source fails or ends
+/// early with zeros, and asks no more: it is `supply` that notices.
+Source newSource(Read read, std::uint64_t bytes, std::shared_ptr<Supply> supply);
 
-/// A source of `bytes` bytes that `fill` gives. `fill` lives as long as the source.
-Source newSource(std::uint64_t bytes, Fill fill);
-
-/// Waits until the other thread that has used `source`, one of newSource(), is gone; half a minute at most. libburn
-/// calls a drive that it has lost idle while its writing thread still reads on.
+/// Waits until the other thread that has used `source` is gone; half a minute at most. libburn calls a drive that it has
+/// lost idle while its writing thread still reads on.
 void awaitUser(burn::burn_source *source);
 
-/// Reads from `source` until `buffer` is full or the source ends; -1 when it fails.
-std::ptrdiff_t readSource(burn::burn_source *source, std::span<std::byte> buffer);
-
-/// What went through a tap. The writer thread sets it, the controlling thread asks for it.
-struct TapState {
-    explicit TapState(BlockDigests taken = BlockDigests())
-        : digests(std::move(taken))
-    {
-    }
-
-    BlockDigests digests;
-    std::atomic<std::uint64_t> bytes = 0; ///< released after each digest is in place
-    std::atomic<bool> ranDry = false; ///< the source failed, or ended before its last block
-};
-
-/// A source that passes on the `blocks` blocks of `inner` and notes each in `state`. libburn fills up a track
-/// whose source ends early with zeros, and asks no more: the tap is what notices. `inner` is borrowed.
-Source tap(burn::burn_source *inner, std::uint64_t blocks, std::shared_ptr<TapState> state);
-
-/// The sources one after the other.
-Source chain(std::vector<Source> parts, std::uint64_t bytes);
-
-/// `bytes` zeros.
-Source zeros(std::uint64_t bytes);
+/// Zeros without end.
+Read zeros();
 
 } // namespace engine::drive

@@ -67,10 +67,9 @@ public:
 
 private:
     Result<RecorderState> begin(std::uint64_t bytes);
-    Result<void> write(Content content, const std::shared_ptr<TapState> &tapState,
-        const std::function<Result<void>()> &sourceOutcome, const Control &control);
+    Result<void> write(Content content, const Supply &supply, const Control &control);
     Result<LibburnDrive::Outcome> stream(
-        Content &content, const Fd &file, MediumKind kind, TapState &tapState, const Control &control);
+        Content &content, const Fd &file, MediumKind kind, const Supply &supply, const Control &control);
     Result<void> finish(RecorderState state, const Content &content, const Fd &file);
     Error abandon(RecorderState state, const Content &content, const Fd &file,
         const LibburnDrive::Outcome &outcome, const Result<void> &sourceOutcome);
@@ -175,7 +174,7 @@ Result<void> VirtualLease::finish(RecorderState state, const Content &content, c
 
 /// Sends the content through libburn into `file`.
 Result<LibburnDrive::Outcome> VirtualLease::stream(
-    Content &content, const Fd &file, MediumKind kind, TapState &tapState, const Control &control)
+    Content &content, const Fd &file, MediumKind kind, const Supply &supply, const Control &control)
 {
     auto drive = LibburnDrive::grab(addressOf(file), m_name, true, false);
     if (!drive)
@@ -183,17 +182,15 @@ Result<LibburnDrive::Outcome> VirtualLease::stream(
     std::vector<Track> tracks;
     tracks.push_back(std::move(content.track));
     LibburnDrive::Outcome outcome = (*drive)->write(
-        tracks, WriteMode::trackAtOnce, Phase::writing, factsOf(kind).family,
-        [&] { return tapState.ranDry.load(); }, control);
-    outcome.well = outcome.well && tapState.bytes.load() >= content.bytes;
+        tracks, WriteMode::trackAtOnce, Phase::writing, factsOf(kind).family, supply, control);
+    outcome.well = outcome.well && supply.bytes() >= content.bytes;
     // A signal may come between the last look for one and a failure.
     if (!outcome.well && outcome.signal == 0)
         outcome.signal = control.stop.signal();
     return outcome;
 }
 
-Result<void> VirtualLease::write(Content content, const std::shared_ptr<TapState> &tapState,
-    const std::function<Result<void>()> &sourceOutcome, const Control &control)
+Result<void> VirtualLease::write(Content content, const Supply &supply, const Control &control)
 {
     const Result<RecorderState> state = begin(content.bytes);
     if (!state)
@@ -205,11 +202,11 @@ Result<void> VirtualLease::write(Content content, const std::shared_ptr<TapState
     if (!content.cueSheet.empty())
         if (auto saved = m_folder.saveCueSheet(content.cueSheet); !saved)
             return abandon(*state, content, *file, {}, saved);
-    const auto outcome = stream(content, *file, state->kind, *tapState, control);
+    const auto outcome = stream(content, *file, state->kind, supply, control);
     if (!outcome)
         return abandon(*state, content, *file, {}, outcome.error());
     if (!outcome->well)
-        return abandon(*state, content, *file, *outcome, sourceOutcome());
+        return abandon(*state, content, *file, *outcome, supply.outcome());
     if (auto finished = finish(*state, content, *file); !finished)
         return abandon(*state, content, *file, {}, finished);
     return {};
@@ -217,46 +214,44 @@ Result<void> VirtualLease::write(Content content, const std::shared_ptr<TapState
 
 Result<void> VirtualLease::writeData(DiscData &data, BlockDigests &sent, const Control &control)
 {
-    const Result<burn::burn_source *> stream = data.start();
+    const Result<Read> stream = data.start();
     if (!stream)
         return stream.error();
-    const auto tapState = std::make_shared<TapState>(std::move(sent));
+    const auto supply = std::make_shared<Supply>(std::move(sent));
+    supply->start(data.blocks());
     Content content;
-    content.track.source = tap(*stream, data.blocks(), tapState);
     content.sectors = data.blocks();
     content.bytes = data.blocks() * blockBytes;
+    content.track.source = newSource(*stream, content.bytes, supply);
     content.file = dataDiscFile;
-    auto written = write(
-        std::move(content), tapState, [&] { return data.outcome(); }, control);
-    sent = std::move(tapState->digests);
+    auto written = write(std::move(content), *supply, control);
+    sent = supply->takeDigests();
     return written;
 }
 
 Result<void> VirtualLease::writeAudio(const audio::AudioDisc &disc, const Control &control)
 {
-    // The same bytes that audio::writeBin() makes, through libburn: the pause of track 1, then all tracks.
-    const std::uint64_t bytes = std::uint64_t{ disc.sectorCount() } * audio::sectorSize;
-    const auto outcome = std::make_shared<Result<void>>();
-    std::vector<Source> parts;
-    parts.push_back(zeros(std::uint64_t{ audio::firstPause } * audio::sectorSize));
-    for (const audio::AudioTrack &track : disc.tracks) {
-        auto stream = audio::TrackStream::open(track);
-        if (!stream)
-            return stream.error();
-        parts.emplace_back(audio::newTrackSource(std::move(stream).value(), track.sectors, outcome));
-    }
-    const std::uint64_t blocks = (bytes + blockBytes - 1) / blockBytes;
-    parts.push_back(zeros(blocks * blockBytes - bytes));
-    const Source all = chain(std::move(parts), blocks * blockBytes);
-    const auto tapState = std::make_shared<TapState>();
+    auto opened = audio::DiscStream::open(disc);
+    if (!opened)
+        return opened.error();
+    const auto stream = std::make_shared<audio::DiscStream>(std::move(opened).value());
+    // libburn writes whole blocks of 2048 bytes; finish() cuts off what fills up the last.
+    const Read filled = [stream](std::span<std::byte> buffer) -> Result<std::size_t> {
+        const Result<std::size_t> got = stream->read(buffer);
+        if (!got)
+            return got;
+        std::ranges::fill(buffer.subspan(*got), std::byte{});
+        return buffer.size();
+    };
+    const auto supply = std::make_shared<Supply>();
     Content content;
-    content.track.source = tap(all.get(), blocks, tapState);
     content.sectors = disc.sectorCount() - audio::firstPause;
-    content.bytes = bytes;
+    content.bytes = std::uint64_t{ disc.sectorCount() } * audio::sectorSize;
+    content.track.source =
+        newSource(filled, (content.bytes + blockBytes - 1) / blockBytes * blockBytes, supply);
     content.file = audioDiscFile;
     content.cueSheet = audio::cueSheet(audioDiscFile, disc.tracks);
-    return write(
-        std::move(content), tapState, [&] { return *outcome; }, control);
+    return write(std::move(content), *supply, control);
 }
 
 Result<void> VirtualLease::reload()

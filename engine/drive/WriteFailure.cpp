@@ -57,8 +57,6 @@ Error writeFailure(
         return stoppedBy(outcome.signal, "Stopped." + state);
     if (!source)
         return { source.error().exit, withoutFullStop(source.error().message) + "." + state };
-    if (outcome.sourceFailed)
-        return { Exit::failed, "The data for the disc ended too early." + state };
     if (outcome.gone)
         return { Exit::failed,
             "The connection to " + driveName + " was lost during the write; check its cable." + state };

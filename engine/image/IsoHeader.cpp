@@ -12,6 +12,8 @@
 #include <sys/stat.h>
 #include <vector>
 
+// libburn.h is here for its structure burn_source alone, which is how libisofs hands out an image.
+
 // The public header keeps this structure from C++ because it calls its first member "class"; the
 // layout is part of the interface (libisofs.h, "Representation of file contents").
 struct iso_stream {

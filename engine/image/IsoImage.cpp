@@ -10,9 +10,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
-#include <libburn/libburn.h>
-#include <mutex>
-#include <new>
 #include <optional>
 #include <span>
 #include <utility>
@@ -33,7 +30,7 @@ std::string nameOf(const std::string &folder)
 
 } // namespace
 
-/// The image piece by piece. A shared object: the image's owner and libburn both keep it alive.
+/// The image piece by piece.
 class IsoImage::Stream {
 public:
     Stream(FolderTree read, const IsoOptions &options)
@@ -65,27 +62,27 @@ public:
         }
         const auto got = header.read(buffer);
         if (!got)
-            return fail(got.error());
+            return got.error();
         if (*got > 0)
             return Piece{ std::span(buffer).first(*got) };
         Piece piece;
         if (reader->next(piece))
             return piece;
         if (auto ok = reader->outcome(); !ok)
-            return fail(ok.error());
+            return ok.error();
         buffer.assign(std::exchange(padding, 0) * blockSize, std::byte{});
         return Piece{ buffer };
     }
 
-    /// Fills `wanted` but at the end of the image; -1 when the image fails.
-    std::ptrdiff_t read(std::span<std::byte> wanted)
+    /// Fills `wanted` but at the end of the image.
+    Result<std::size_t> read(std::span<std::byte> wanted)
     {
         std::size_t done = 0;
         while (done < wanted.size()) {
             if (rest.empty()) {
                 const auto piece = next(FolderReader::Large::read);
                 if (!piece)
-                    return -1;
+                    return piece.error();
                 rest = piece->bytes;
                 if (rest.empty())
                     break;
@@ -95,20 +92,7 @@ public:
             rest = rest.subspan(part);
             done += part;
         }
-        return static_cast<std::ptrdiff_t>(done);
-    }
-
-    Error fail(const Error &error)
-    {
-        const std::lock_guard lock(mutex);
-        failure = error;
-        return error;
-    }
-
-    Result<void> outcome() const
-    {
-        const std::lock_guard lock(mutex);
-        return failure;
+        return done;
     }
 
     const Stop stop;
@@ -123,34 +107,6 @@ private:
     std::vector<std::byte> buffer; ///< what piece is not in the reader
     std::span<const std::byte> rest; ///< of the piece that read() is in
     std::uint32_t padding = IsoHeader::paddingBlocks();
-    mutable std::mutex mutex;
-    Result<void> failure;
-};
-
-/// The burn source of an image; it keeps the stream alive.
-struct IsoImage::Outlet {
-    std::shared_ptr<Stream> stream;
-
-    static burn::burn_source *make(const std::shared_ptr<Stream> &stream)
-    {
-        auto *source = static_cast<burn::burn_source *>(std::calloc(1, sizeof(burn::burn_source)));
-        if (!source)
-            throw std::bad_alloc();
-        source->refcount = 1;
-        source->read = [](burn::burn_source *from, unsigned char *buffer, int size) {
-            return static_cast<int>(
-                of(from).read({ reinterpret_cast<std::byte *>(buffer), static_cast<std::size_t>(size) }));
-        };
-        source->get_size = [](burn::burn_source *from) {
-            return static_cast<off_t>(of(from).blocks) * blockSize;
-        };
-        source->set_size = [](burn::burn_source *, off_t) { return 1; };
-        source->free_data = [](burn::burn_source *from) { delete static_cast<Outlet *>(from->data); };
-        source->data = new Outlet{ stream };
-        return source;
-    }
-
-    static Stream &of(burn::burn_source *source) { return *static_cast<Outlet *>(source->data)->stream; }
 };
 
 Result<IsoImage> IsoImage::fromFolder(const std::string &folder, const IsoOptions &options)
@@ -158,35 +114,20 @@ Result<IsoImage> IsoImage::fromFolder(const std::string &folder, const IsoOption
     auto tree = FolderTree::read(folder, options);
     if (!tree)
         return tree.error();
-    auto stream = std::make_shared<Stream>(std::move(*tree), options);
+    auto stream = std::make_unique<Stream>(std::move(*tree), options);
     if (auto ok = stream->begin(options); !ok)
         return ok.error();
     return IsoImage(std::move(stream));
 }
 
-IsoImage::IsoImage(std::shared_ptr<Stream> stream)
+IsoImage::IsoImage(std::unique_ptr<Stream> stream)
     : m_stream(std::move(stream))
 {
 }
 
-IsoImage::IsoImage(IsoImage &&other) noexcept
-    : m_stream(std::move(other.m_stream))
-    , m_source(std::exchange(other.m_source, nullptr))
-{
-}
-
-IsoImage &IsoImage::operator=(IsoImage &&other) noexcept
-{
-    std::swap(m_stream, other.m_stream);
-    std::swap(m_source, other.m_source);
-    return *this;
-}
-
-IsoImage::~IsoImage()
-{
-    if (m_source)
-        burn::burn_source_free(m_source);
-}
+IsoImage::IsoImage(IsoImage &&other) noexcept = default;
+IsoImage &IsoImage::operator=(IsoImage &&other) noexcept = default;
+IsoImage::~IsoImage() = default;
 
 std::uint32_t IsoImage::blockCount() const
 {
@@ -203,16 +144,9 @@ const std::vector<std::string> &IsoImage::notes() const
     return m_stream->notes;
 }
 
-burn::burn_source *IsoImage::burnSource()
+Result<std::size_t> IsoImage::read(std::span<std::byte> buffer)
 {
-    if (!m_source)
-        m_source = Outlet::make(m_stream);
-    return m_source;
-}
-
-Result<void> IsoImage::outcome() const
-{
-    return m_stream->outcome();
+    return m_stream->read(buffer);
 }
 
 Result<void> IsoImage::writeTo(int fd, const std::string &destination)

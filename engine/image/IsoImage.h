@@ -4,15 +4,13 @@
 #include "base/Result.h"
 #include "base/Stop.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
-
-namespace burn {
-struct burn_source;
-}
 
 namespace engine::image {
 
@@ -38,7 +36,7 @@ struct IsoOptions {
 /// The image of one folder: the tree is read once, the exact size is known, and the data is read
 /// from the files while the image is streamed. The image can be streamed once.
 ///
-/// Not thread-safe, except that the burn source may be read on another thread. Movable.
+/// One thread at a time. Movable.
 class IsoImage {
 public:
     /// Reads the tree under `folder`. Names may hold any bytes. An error names the file or folder
@@ -59,14 +57,9 @@ public:
     /// What was left out or stored under another name: plain sentences, one line each.
     const std::vector<std::string> &notes() const;
 
-    /// The image as the data of a libburn track. Owned by this object; libburn takes references
-    /// of its own (burn_track_set_source), and those stay valid when this object is gone. Reads of
-    /// any size are served; a read returns -1 when a file fails, and outcome() then says which.
-    burn::burn_source *burnSource();
-
-    /// How the streaming through burnSource() went so far: an error that names the file which
-    /// could not be read or became shorter. May be asked from any thread.
-    Result<void> outcome() const;
+    /// Fills `buffer` with the next bytes of the image and returns their number, which is less than its size only at
+    /// the end. An error names the file that cannot be read or became shorter.
+    Result<std::size_t> read(std::span<std::byte> buffer);
 
     /// Writes the whole image to `fd` from its current position. The error of a failed write
     /// speaks of `destination`, one of a source file names that file.
@@ -74,10 +67,8 @@ public:
 
 private:
     class Stream;
-    struct Outlet;
-    explicit IsoImage(std::shared_ptr<Stream> stream);
-    std::shared_ptr<Stream> m_stream;
-    burn::burn_source *m_source = nullptr; ///< made by burnSource()
+    explicit IsoImage(std::unique_ptr<Stream> stream);
+    std::unique_ptr<Stream> m_stream;
 };
 
 } // namespace engine::image

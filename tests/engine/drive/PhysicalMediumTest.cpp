@@ -1,11 +1,10 @@
 // What is made of a drive's answers, and the session that an audio CD is written as.
 #include "drive/PhysicalMedium.h"
 
+#include "Sources.h"
 #include "audio/AudioDisc.h"
 
 #include <QtTest>
-
-#include <libburn/libburn.h>
 
 using namespace Qt::StringLiterals;
 using namespace engine;
@@ -74,8 +73,8 @@ private Q_SLOTS:
         }
         const auto disc = audio::readAudioFolder(dir.path().toStdString());
         QVERIFY(disc);
-        const auto reading = std::make_shared<AudioReading>();
-        const auto tracks = audioTracks(*disc, reading);
+        const auto supply = std::make_shared<Supply>();
+        const auto tracks = audioTracks(*disc, supply);
         QVERIFY(tracks);
         QCOMPARE(tracks->size(), std::size_t(3));
         for (std::size_t i = 0; i < tracks->size(); ++i) {
@@ -85,13 +84,12 @@ private Q_SLOTS:
             burn::burn_source *source = track.source.get();
             QCOMPARE(source->get_size(source), off_t(sectors.at(qsizetype(i))) * 2352);
             std::vector<std::byte> all(std::size_t(sectors.at(qsizetype(i)) + 1) * 2352);
-            QCOMPARE(readSource(source, all), std::ptrdiff_t(sectors.at(qsizetype(i))) * 2352);
+            QCOMPARE(readFrom(source, all), std::ptrdiff_t(sectors.at(qsizetype(i))) * 2352);
             QCOMPARE(all.front(), std::byte{ 0x11 });
             QCOMPARE(all[sizes.at(qsizetype(i)) - 1], std::byte{ 0x11 });
             QCOMPARE(all[sizes.at(qsizetype(i))], std::byte{ 0 });
         }
-        QVERIFY(reading->outcome);
-        QVERIFY(!reading->failed);
+        QVERIFY(!supply->failed());
     }
 
     void aTrackThatBecomesShorterIsNoticed()
@@ -103,21 +101,21 @@ private Q_SLOTS:
         file.close();
         const auto disc = audio::readAudioFolder(dir.path().toStdString());
         QVERIFY(disc);
-        const auto reading = std::make_shared<AudioReading>();
-        const auto tracks = audioTracks(*disc, reading);
+        const auto supply = std::make_shared<Supply>();
+        const auto tracks = audioTracks(*disc, supply);
         QVERIFY(tracks);
         QVERIFY(file.resize(2352 * 10));
         std::vector<std::byte> all(2352 * 400);
-        QCOMPARE(readSource(tracks->front().source.get(), all), std::ptrdiff_t(-1));
-        QVERIFY(reading->failed);
-        QVERIFY(QString::fromStdString(reading->outcome.error().message).contains(u"short.wav"_s));
+        QCOMPARE(readFrom(tracks->front().source.get(), all), std::ptrdiff_t(-1));
+        QVERIFY(supply->failed());
+        QVERIFY(QString::fromStdString(supply->outcome().error().message).contains(u"short.wav"_s));
     }
 
     void aTrackThatIsGoneIsNamed()
     {
         audio::AudioDisc disc;
         disc.tracks.push_back({ "/no/such/track.wav", {}, 300 });
-        const auto tracks = audioTracks(disc, std::make_shared<AudioReading>());
+        const auto tracks = audioTracks(disc, std::make_shared<Supply>());
         QVERIFY(!tracks);
         QVERIFY(QString::fromStdString(tracks.error().message).contains(u"/no/such/track.wav"_s));
     }

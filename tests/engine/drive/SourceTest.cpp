@@ -1,33 +1,40 @@
-// The streams that libburn reads.
+// The sources that libburn reads, and what is known of what went through them.
 #include "drive/Source.h"
+
+#include "Sources.h"
 
 #include <QtTest>
 
+#include <thread>
+
+using namespace engine;
 using namespace engine::drive;
 
 namespace {
 
-/// `bytes` bytes of `value`, given in pieces of at most `piece`; with `fails` an error follows them.
-Source pieces(std::uint64_t bytes, std::size_t piece, std::byte value, bool fails = false)
+/// `bytes` bytes of `value`, then the end; with `fails` an error instead.
+Read letters(std::uint64_t bytes, char value, bool fails = false)
 {
-    return newSource(bytes, [=, left = bytes](std::span<std::byte> out) mutable -> std::ptrdiff_t {
-        if (left == 0)
-            return fails ? -1 : 0;
-        const auto n = static_cast<std::size_t>(std::min<std::uint64_t>({ left, piece, out.size() }));
-        std::fill_n(out.begin(), n, value);
+    return [=, left = bytes](std::span<std::byte> out) mutable -> Result<std::size_t> {
+        const auto n = static_cast<std::size_t>(std::min<std::uint64_t>(left, out.size()));
+        if (fails && n < out.size())
+            return Error{ Exit::failed, "The letters have gone." };
+        std::fill_n(out.begin(), n, static_cast<std::byte>(value));
         left -= n;
-        return static_cast<std::ptrdiff_t>(n);
-    });
+        return n;
+    };
 }
 
 QByteArray readAll(burn::burn_source *source, std::size_t step)
 {
     QByteArray all;
     std::vector<std::byte> buffer(step);
-    for (std::ptrdiff_t n; (n = readSource(source, buffer)) > 0;)
+    for (std::ptrdiff_t n; (n = readFrom(source, buffer)) > 0;)
         all.append(reinterpret_cast<const char *>(buffer.data()), n);
     return all;
 }
+
+constexpr std::uint64_t blocks = 100;
 
 } // namespace
 
@@ -35,63 +42,92 @@ class SourceTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void aChainGivesItsPartsInOrder()
+    void everyByteGoesOut_data()
     {
-        for (const std::size_t step :
-            { std::size_t(1), std::size_t(7), std::size_t(2352), std::size_t(100000) }) {
-            std::vector<Source> parts;
-            parts.push_back(zeros(3));
-            parts.push_back(pieces(5000, 999, std::byte{ 'a' }));
-            parts.push_back(zeros(0));
-            parts.push_back(pieces(1, 1, std::byte{ 'b' }));
-            const Source all = chain(std::move(parts), 5004);
-            QCOMPARE(readAll(all.get(), step), QByteArray(3, '\0') + QByteArray(5000, 'a') + "b");
-        }
+        QTest::addColumn<int>("step");
+        for (const int step : { 1, 7, 2048, 2352, 1'000'000 })
+            QTest::newRow(QByteArray::number(step).constData()) << step;
     }
 
-    void aFailureInAChainIsAFailure()
+    void everyByteGoesOut()
     {
-        std::vector<Source> parts;
-        parts.push_back(pieces(10, 10, std::byte{ 'a' }, true));
-        parts.push_back(zeros(10));
-        const Source all = chain(std::move(parts), 20);
-        std::vector<std::byte> buffer(20);
-        QCOMPARE(readSource(all.get(), buffer), std::ptrdiff_t(-1));
+        QFETCH(int, step);
+        const auto supply = std::make_shared<Supply>();
+        // More than one piece that is read ahead, and no whole number of blocks.
+        const Source source = newSource(letters(150'001, 'a'), 150'001, supply);
+        QCOMPARE(source->get_size(source.get()), off_t(150'001));
+        QCOMPARE(readAll(source.get(), std::size_t(step)), QByteArray(150'001, 'a'));
+        QCOMPARE(supply->bytes(), std::uint64_t(150'001));
+        QVERIFY(!supply->failed());
     }
 
-    void aTapNotesWhatPasses()
+    void digestsAreTakenOfWhatGoesOut()
     {
-        constexpr std::uint64_t blocks = 100;
-        const Source inner = pieces(blocks * blockBytes, 5000, std::byte{ 'x' });
-        const auto state = std::make_shared<TapState>();
-        const Source out = tap(inner.get(), blocks, state);
-        const QByteArray all = readAll(out.get(), blockBytes);
-        QCOMPARE(all, QByteArray(blocks * blockBytes, 'x'));
-        QCOMPARE(state->bytes.load(), blocks * blockBytes);
-        QCOMPARE(state->digests.blocks(), blocks);
-        QVERIFY(!state->ranDry);
+        const auto supply = std::make_shared<Supply>(BlockDigests());
+        supply->start(blocks);
+        const Source source = newSource(letters(blocks * blockBytes, 'x'), blocks * blockBytes, supply);
+        // As libburn does, on another thread.
+        QByteArray all;
+        std::thread([&] { all = readAll(source.get(), blockBytes); }).join();
+        const BlockDigests digests = supply->takeDigests();
+        QCOMPARE(digests.blocks(), blocks);
         const auto bytes = std::as_bytes(std::span(all.constData(), static_cast<std::size_t>(all.size())));
-        QCOMPARE(state->digests.matching(0, bytes).value(), std::size_t(blocks));
+        QCOMPARE(digests.matching(0, bytes).value(), std::size_t(blocks));
     }
 
-    void aTapNoticesASourceThatEndsEarlyOrFails()
+    void anotherAttemptForgetsTheFirst()
     {
-        for (const bool fails : { false, true }) {
-            const Source inner = pieces(10 * blockBytes - 1, 100000, std::byte{ 'x' }, fails);
-            const auto state = std::make_shared<TapState>();
-            const Source out = tap(inner.get(), 10, state);
-            std::vector<std::byte> buffer(10 * blockBytes);
-            QCOMPARE(readSource(out.get(), buffer), std::ptrdiff_t(-1));
-            QVERIFY(state->ranDry);
+        const auto supply = std::make_shared<Supply>(BlockDigests());
+        for (int attempt = 0; attempt < 2; ++attempt) {
+            supply->start(blocks);
+            const Source source = newSource(letters(blocks * blockBytes, 'x'), blocks * blockBytes, supply);
+            readAll(source.get(), 10'000);
+            QCOMPARE(supply->bytes(), blocks * blockBytes);
+            supply->fail({ Exit::failed, "Something else." });
         }
+        QCOMPARE(supply->takeDigests().blocks(), blocks);
     }
 
-    void aTapTakesNoMoreThanItsBlocks()
+    void dataThatFailOrEndEarlyAreNoticed_data()
     {
-        const Source inner = pieces(1000 * blockBytes, 100000, std::byte{ 'x' });
-        const auto state = std::make_shared<TapState>();
-        QCOMPARE(readAll(tap(inner.get(), 3, state).get(), 100000).size(), qsizetype(3 * blockBytes));
-        QVERIFY(!state->ranDry);
+        QTest::addColumn<bool>("fails");
+        QTest::addColumn<QString>("sentence");
+        QTest::newRow("failure") << true << QStringLiteral("The letters have gone.");
+        QTest::newRow("early end") << false << QStringLiteral("The data for the disc ended too early.");
+    }
+
+    void dataThatFailOrEndEarlyAreNoticed()
+    {
+        QFETCH(bool, fails);
+        const auto supply = std::make_shared<Supply>();
+        const Source source =
+            newSource(letters(blocks * blockBytes - 1, 'x', fails), blocks * blockBytes, supply);
+        std::vector<std::byte> buffer(blocks * blockBytes);
+        QCOMPARE(readFrom(source.get(), buffer), std::ptrdiff_t(-1));
+        QVERIFY(supply->failed());
+        QTEST(QString::fromStdString(supply->outcome().error().message), "sentence");
+        // The other tracks of the same disc are not read on.
+        const Source next = newSource(letters(blockBytes, 'y'), blockBytes, supply);
+        QCOMPARE(readFrom(next.get(), buffer), std::ptrdiff_t(-1));
+    }
+
+    void noMoreIsTakenThanWasAnnounced()
+    {
+        const auto supply = std::make_shared<Supply>();
+        QCOMPARE(readAll(newSource(zeros(), 3 * blockBytes, supply).get(), 100'000),
+            QByteArray(3 * blockBytes, '\0'));
+        QVERIFY(!supply->failed());
+    }
+
+    void whatIsReadLivesAsLongAsTheSource()
+    {
+        const auto kept = std::make_shared<int>(0);
+        Source source =
+            newSource([kept](std::span<std::byte>) -> Result<std::size_t> { return std::size_t{ 0 }; },
+                blockBytes, std::make_shared<Supply>());
+        QCOMPARE(kept.use_count(), 2);
+        source.reset();
+        QCOMPARE(kept.use_count(), 1);
     }
 };
 

@@ -47,7 +47,8 @@ private Q_SLOTS:
             << u"Stopped. What the disc in drive 1 holds is incomplete; it can be written again."_s;
         QTest::newRow("file") << outcome(0, true, {}) << u"\"a\" became shorter."_s << int(Left::blank) << 1
                               << u"\"a\" became shorter. The disc in drive 1 is still blank."_s;
-        QTest::newRow("end") << outcome(0, true, {}) << QString() << int(Left::spoilt) << 1
+        QTest::newRow("end") << outcome(0, true, {}) << u"The data for the disc ended too early."_s
+                             << int(Left::spoilt) << 1
                              << u"The data for the disc ended too early. The disc in drive 1 is spoilt."_s;
         QTest::newRow("full")
             << outcome(0, false, full) << QString() << int(Left::spoilt) << 1

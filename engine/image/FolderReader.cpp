@@ -1,6 +1,7 @@
 #include "image/FolderReader.h"
 
 #include "base/Words.h"
+#include "image/TreeOpener.h"
 
 #include <algorithm>
 #include <cerrno>

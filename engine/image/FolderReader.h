@@ -15,6 +15,8 @@
 
 namespace engine::image {
 
+class TreeOpener;
+
 /// The next bytes of the data area: `bytes`, and after them, when `file` is not -1, `fileSize` bytes that are
 /// to be copied from the start of that file.
 struct Piece {

@@ -1,7 +1,8 @@
-// What lies under a folder, read once, in the order in which it is stored on a disc.
+// What lies under a folder, read once, in the order in which it is stored on a disc. The application measures the lists
+// of a compilation by itself, in src/compilation: neither side includes the other, and what both do with a folder is
+// little beside what they do it for.
 #pragma once
 
-#include "base/Fd.h"
 #include "base/Result.h"
 #include "image/IsoImage.h"
 
@@ -57,32 +58,13 @@ public:
     std::string path(std::uint32_t entry) const;
 
 private:
-    friend class FolderScan;
+    friend class FolderScan; ///< read() is its work
     std::string m_folder;
     std::vector<Entry> m_entries;
     std::vector<Content> m_contents;
     std::vector<std::string> m_notes;
     std::string m_texts; ///< names and link targets, each ended by NUL
     bool m_followsLinks = false;
-};
-
-/// Opens folders and files of a tree one after another, cheaply when neighbours follow each other,
-/// and without limit on the length of a path. One owner; not thread-safe.
-class TreeOpener {
-public:
-    explicit TreeOpener(const FolderTree &tree);
-    /// Makes `folder` the current one and returns its descriptor, owned by this object and valid
-    /// until the next call; -1 with errno on failure.
-    int enter(std::uint32_t folder);
-    /// A regular file, open for reading; empty with errno on failure.
-    Fd openFile(std::uint32_t file);
-
-private:
-    Fd openChain(std::uint32_t folder) const;
-    const FolderTree &m_tree;
-    std::uint32_t m_current = 0;
-    Fd m_root;
-    Fd m_folder; ///< of m_current, when that is not the root
 };
 
 } // namespace engine::image

@@ -1,6 +1,8 @@
 #include "image/IsoHeader.h"
 
 #include "base/Words.h"
+#include "image/IsoPlace.h"
+#include "image/IsoTree.h"
 
 #include <algorithm>
 #include <array>
@@ -13,14 +15,6 @@
 #include <vector>
 
 // libburn.h is here for its structure burn_source alone, which is how libisofs hands out an image.
-
-// The public header keeps this structure from C++ because it calls its first member "class"; the
-// layout is part of the interface (libisofs.h, "Representation of file contents").
-struct iso_stream {
-    IsoStreamIface *iface;
-    int refcount;
-    void *data;
-};
 
 namespace engine::image {
 
@@ -35,109 +29,6 @@ constexpr std::uint64_t mostBlocks = UINT32_MAX;
 // How much of the data area is looked at to prove that libisofs put the files where we put their data.
 constexpr std::uint64_t mostProvedBlocks = 64;
 
-// Any number that libisofs does not use for streams of its own.
-constexpr unsigned int streamFileSystem = 0xc0;
-
-/// What stands in for the first bytes of a file's data, to prove where libisofs puts it.
-using Marker = std::array<char, 16>;
-
-Marker markerOf(std::uint32_t content)
-{
-    Marker marker{ 'd', 'a', 't', 'a', ' ', 'o', 'f', ' ', 'f', 'i', 'l', 'e' };
-    std::memcpy(marker.data() + 12, &content, sizeof content);
-    return marker;
-}
-
-/// The place of one file: what libisofs allocates as a stream, with our own members behind it.
-struct FileStream {
-    iso_stream stream;
-    std::uint64_t size;
-    std::uint64_t left; ///< bytes that libisofs has not asked for yet
-    std::uint32_t content;
-};
-
-FileStream &self(IsoStream *stream)
-{
-    return *static_cast<FileStream *>(stream->data);
-}
-
-int openStream(IsoStream *stream)
-{
-    self(stream).left = self(stream).size;
-    return 1;
-}
-
-int closeStream(IsoStream *)
-{
-    return 1;
-}
-
-off_t sizeOf(IsoStream *stream)
-{
-    return static_cast<off_t>(self(stream).size);
-}
-
-int readStream(IsoStream *stream, void *buffer, size_t size)
-{
-    FileStream &file = self(stream);
-    size = static_cast<size_t>(std::min<std::uint64_t>(size, file.left));
-    if (file.left == file.size) {
-        const Marker marker = markerOf(file.content);
-        std::memcpy(buffer, marker.data(), std::min(size, marker.size()));
-    }
-    file.left -= size;
-    return static_cast<int>(size);
-}
-
-int isRepeatable(IsoStream *)
-{
-    return 1;
-}
-
-// Names of equal numbers share their data.
-void identify(IsoStream *stream, unsigned int *fileSystem, dev_t *device, ino_t *inode)
-{
-    *fileSystem = streamFileSystem;
-    *device = 0;
-    *inode = self(stream).content;
-}
-
-void freeStream(IsoStream *)
-{
-} // the members lie in the block that libisofs frees
-
-int updateSize(IsoStream *)
-{
-    return 1;
-}
-
-IsoStreamIface streamClass{
-    1,
-    { 'u', 's', 'e', 'r' },
-    openStream,
-    closeStream,
-    sizeOf,
-    readStream,
-    isRepeatable,
-    identify,
-    freeStream,
-    updateSize,
-    nullptr,
-    nullptr,
-    nullptr,
-};
-
-IsoStream *newStream(const FolderTree &tree, const Entry &entry)
-{
-    auto *file = static_cast<FileStream *>(std::calloc(1, sizeof(FileStream)));
-    if (!file)
-        return nullptr;
-    file->stream = { &streamClass, 1, file };
-    file->size = tree.contents()[entry.first].size;
-    file->content = entry.first;
-    return &file->stream;
-}
-
 void initialize()
 {
     static std::once_flag once;
@@ -150,100 +41,6 @@ void initialize()
         iso_set_local_charset(charset, 0);
     });
 }
-
-void copyAttributes(IsoNode *node, const Entry &entry)
-{
-    iso_node_set_permissions(node, entry.mode & 07777);
-    iso_node_set_uid(node, entry.uid);
-    iso_node_set_gid(node, entry.gid);
-    iso_node_set_mtime(node, entry.modified);
-    iso_node_set_atime(node, entry.accessed);
-    iso_node_set_ctime(node, entry.changed);
-}
-
-class Builder {
-public:
-    Builder(const FolderTree &tree, ::IsoImage *image)
-        : m_tree(tree)
-        , m_image(image)
-        , m_folders(tree.entries().size())
-    {
-    }
-
-    Result<void> run()
-    {
-        IsoDir *root = iso_image_get_root(m_image);
-        copyAttributes(iso_node(root), m_tree.entries()[0]);
-        m_folders[0] = root;
-        std::vector<std::uint32_t> pending{ 0 };
-        while (!pending.empty()) {
-            const std::uint32_t folder = pending.back();
-            pending.pop_back();
-            const Entry &entry = m_tree.entries()[folder];
-            // From the last name to the first: libisofs keeps a folder as a sorted chain and
-            // looks for the place of a new node from its start.
-            for (std::uint32_t child = entry.first + entry.count; child-- > entry.first;) {
-                if (auto ok = add(child, m_folders[folder]); !ok)
-                    return ok;
-                if (S_ISDIR(m_tree.entries()[child].mode))
-                    pending.push_back(child);
-            }
-        }
-        return {};
-    }
-
-private:
-    static IsoNode *iso_node(IsoDir *folder) { return reinterpret_cast<IsoNode *>(folder); }
-
-    Result<void> add(std::uint32_t number, IsoDir *parent)
-    {
-        const Entry &entry = m_tree.entries()[number];
-        IsoNode *node = nullptr;
-        const int code = addNode(number, entry, parent, node);
-        if (code < 0) {
-            return Error{ Exit::failed,
-                quoted(m_tree.path(number)) + " cannot be put into the image: " + iso_error_to_msg(code)
-                    + "; take it out of the folder." };
-        }
-        copyAttributes(node, entry);
-        return {};
-    }
-
-    int addNode(std::uint32_t number, const Entry &entry, IsoDir *parent, IsoNode *&node)
-    {
-        const char *name = m_tree.name(entry);
-        if (S_ISDIR(entry.mode)) {
-            const int code = iso_image_add_new_dir(m_image, parent, name, &m_folders[number]);
-            node = iso_node(m_folders[number]);
-            return code;
-        }
-        if (S_ISREG(entry.mode)) {
-            IsoStream *stream = newStream(m_tree, entry);
-            IsoFile *file = nullptr;
-            const int code = stream ? iso_image_add_new_file(m_image, parent, name, stream, &file)
-                                    : static_cast<int>(ISO_OUT_OF_MEM);
-            node = reinterpret_cast<IsoNode *>(file);
-            if (code >= 0) // the heavier, the nearer to the start of the image
-                iso_node_set_sort_weight(node, -static_cast<int>(entry.first));
-            return code;
-        }
-        if (S_ISLNK(entry.mode)) {
-            IsoSymlink *link = nullptr;
-            const int code = iso_image_add_new_symlink(m_image, parent, name, m_tree.target(entry), &link);
-            node = reinterpret_cast<IsoNode *>(link);
-            return code;
-        }
-        IsoSpecial *special = nullptr;
-        const int code =
-            iso_image_add_new_special(m_image, parent, name, entry.mode, entry.special, &special);
-        node = reinterpret_cast<IsoNode *>(special);
-        return code;
-    }
-
-    const FolderTree &m_tree;
-    ::IsoImage *m_image;
-    std::vector<IsoDir *> m_folders; ///< node of each entry that is a folder
-};
 
 struct WriteOptionsRelease {
     void operator()(IsoWriteOpts *options) const { iso_write_opts_free(options); }
@@ -353,7 +150,7 @@ Result<IsoHeader> IsoHeader::make(const FolderTree &tree, const std::string &vol
     IsoHeader header;
     header.m_tree = &tree;
     header.m_image.reset(made);
-    if (auto ok = Builder(tree, made).run(); !ok)
+    if (auto ok = addTree(tree, made); !ok)
         return ok.error();
     if (auto ok = header.layOut(tree, rockRidge); !ok)
         return ok.error();

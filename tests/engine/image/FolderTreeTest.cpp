@@ -2,6 +2,7 @@
 #include "image/FolderTree.h"
 
 #include "Trees.h"
+#include "image/TreeOpener.h"
 
 #include <csignal>
 #include <set>

@@ -105,6 +105,7 @@ void AVSPDocument::windowDidLoad()
 void AVSPDocument::setUpPlaybackOfAsset(bool hasVideo)
 {
     if (hasVideo) {
+        m_ui->playerView->setQuarterTurns(player->quarterTurns());
         connect(player, &MediaPlayer::frameReady, this, &AVSPDocument::readyForDisplay);
         connect(player, &MediaPlayer::videoLost, this, &AVSPDocument::showNoVideo);
         if (player->hasPicture())

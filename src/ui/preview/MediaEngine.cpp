@@ -1,5 +1,7 @@
 #include "ui/preview/MediaEngine.h"
 
+#include "ui/preview/FramedStream.h"
+
 #include <QImage>
 #include <QThreadPool>
 
@@ -13,7 +15,7 @@
 
 namespace {
 
-constexpr std::array<std::pair<const char *, const char *>, 23> options{ {
+constexpr std::array<std::pair<const char *, const char *>, 24> options{ {
     // Nothing of a person's own configuration of other players.
     { "config", "no" },
     { "load-scripts", "no" },
@@ -31,6 +33,9 @@ constexpr std::array<std::pair<const char *, const char *>, 23> options{ {
     { "audio-display", "no" },
     { "vo", "libmpv" },
     { "hwdec", "no" },
+    // The renderer in software cannot turn a picture: it ends the program where width and height change
+    // places. Who shows the picture turns it.
+    { "video-rotate", "no" },
     { "osd-level", "0" },
     { "idle", "yes" },
     { "pause", "yes" },
@@ -91,6 +96,7 @@ void MediaEngine::startCore()
     for (const auto &[name, value] : options)
         if (const int result = mpv_set_option_string(m_core, name, value); result < 0)
             qWarning("media library: option %s: %s", name, mpv_error_string(result));
+    framed_stream::addTo(m_core);
     if (const int result = mpv_initialize(m_core); result < 0) {
         qWarning("media library: %s", mpv_error_string(result));
         mpv_terminate_destroy(std::exchange(m_core, nullptr));
@@ -162,6 +168,12 @@ void MediaEngine::setFlag(const char *property, bool value)
     int flag = value;
     if (isRunning())
         mpv_set_property_async(m_core, 0, property, MPV_FORMAT_FLAG, &flag);
+}
+
+void MediaEngine::setText(const char *property, const char *value)
+{
+    if (isRunning())
+        mpv_set_property_async(m_core, 0, property, MPV_FORMAT_STRING, static_cast<void *>(&value));
 }
 
 void MediaEngine::setNumber(const char *property, double value)

@@ -27,6 +27,7 @@ public:
     /// What came of it is told by an event with the same `request` number, if that is not 0.
     void command(const QByteArrayList &arguments, quint64 request = 0);
     void setFlag(const char *property, bool value);
+    void setText(const char *property, const char *value);
     void setNumber(const char *property, double value);
     void ask(const char *property, int format, quint64 request);
     /// Each change is an event with this number, beginning with the present value.

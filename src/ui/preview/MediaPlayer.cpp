@@ -1,5 +1,7 @@
 #include "ui/preview/MediaPlayer.h"
 
+#include "ui/preview/FramedStream.h"
+
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -27,18 +29,25 @@ bool toFlag(const void *data)
     return *static_cast<const int *>(data) != 0;
 }
 
+/// A camera that is held askew may tell any angle; the picture is turned to the nearest upright place.
+int toQuarterTurns(double degrees)
+{
+    const long turns = std::lround(degrees / 90) % 4;
+    return static_cast<int>(turns < 0 ? turns + 4 : turns);
+}
+
 /// Where containers need help. All others have an index and tell their duration.
 struct Container {
     const char *name;
     double
         seekLead; ///< seconds before a target at which to begin to decode; a guess by bitrate lands too late
     bool tellsDuration;
+    const char *readAs = nullptr; ///< the format to read it in instead
 };
 constexpr std::array containers{
-    Container{ "mpeg", 1, true },
-    Container{ "mpegts", 10, true },
-    Container{ "mpegvideo", 0, false },
-    Container{ "mjpeg", 0, false },
+    Container{ "mpeg", 1, true }, Container{ "mpegts", 10, true }, Container{ "mpegvideo", 0, false },
+    Container{ "m4v", 0, false }, Container{ "h263", 0, false }, Container{ "mjpeg", 0, false },
+    Container{ "jpeg_pipe", 0, true, "mjpeg" }, // one picture, or a film of them
 };
 
 Container containerNamed(const QByteArray &name)
@@ -49,6 +58,7 @@ Container containerNamed(const QByteArray &name)
 }
 
 constexpr double beyondEveryEnd = 1e6;
+constexpr double usualFrameRate = 25; // what the library takes where a stream does not tell
 
 } // namespace
 
@@ -82,8 +92,17 @@ void MediaPlayer::open(const QByteArray &path)
         return failLater(tr("You have no permission to read the file."));
     if (!m_engine.isRunning())
         return failLater(tr("The media library could not be started."));
+    m_path = path;
+    openAs("", path);
+}
+
+/// An empty format is left to the library.
+void MediaPlayer::openAs(const char *format, const QByteArray &address)
+{
     m_stage = Stage::Opening;
-    m_engine.command({ "loadfile", path }, Load);
+    m_hasPicture = false;
+    m_engine.setText("demuxer-lavf-format", format);
+    m_engine.command({ "loadfile", address }, Load);
 }
 
 // ---- What the library tells
@@ -161,9 +180,6 @@ void MediaPlayer::onReply(Request request, int error, const void *data, int form
     case FileFormat:
         m_library.format = isThere ? *static_cast<char *const *>(data) : "";
         break;
-    case Vid:
-        m_library.hasVideo = isThere;
-        break;
     case EofReached:
         m_library.eofReached = isThere && toFlag(data);
         break;
@@ -174,7 +190,19 @@ void MediaPlayer::onReply(Request request, int error, const void *data, int form
     case IsStill:
         m_library.isStill = isThere && toFlag(data);
         break;
-    case AudioTrack: // asked last
+    case Rotation:
+        m_library.quarterTurns = isThere ? toQuarterTurns(toDouble(data)) : 0;
+        break;
+    case FrameRate:
+        m_library.frameRate = isThere ? toDouble(data) : 0;
+        break;
+    case Duration:
+        onMeasured(isThere ? toDouble(data) : 0);
+        break;
+    case PictureFormat:
+        m_library.hasVideo = isThere;
+        break;
+    case SoundFormat: // asked last
         m_library.hasAudio = isThere;
         onAnswers();
         break;
@@ -194,7 +222,7 @@ void MediaPlayer::onRestart()
         m_stage = Stage::Returning;
         return sendSeek(0);
     case Stage::Returning:
-        return becomeReady();
+        return m_engine.ask("duration", MPV_FORMAT_DOUBLE, Duration);
     case Stage::Open:
         return onSeekEnd();
     }
@@ -221,6 +249,8 @@ void MediaPlayer::onFrame()
 void MediaPlayer::onEndOfFile(const void *data)
 {
     const auto *end = static_cast<const mpv_event_end_file *>(data);
+    if (end->reason == MPV_END_FILE_REASON_STOP)
+        return; // it is opened in another way
     const bool isStrange = end->error == MPV_ERROR_UNKNOWN_FORMAT || end->error == MPV_ERROR_NOTHING_TO_PLAY
         || end->reason == MPV_END_FILE_REASON_REDIRECT;
     if (m_status == Status::Unknown && isStrange)
@@ -232,9 +262,13 @@ void MediaPlayer::onEndOfFile(const void *data)
 void MediaPlayer::askWhatItIs()
 {
     m_engine.ask("file-format", MPV_FORMAT_STRING, FileFormat);
-    m_engine.ask("vid", MPV_FORMAT_INT64, Vid);
+    m_engine.ask("container-fps", MPV_FORMAT_DOUBLE, FrameRate);
     m_engine.ask("current-tracks/video/image", MPV_FORMAT_FLAG, IsStill);
-    m_engine.ask("aid", MPV_FORMAT_INT64, AudioTrack);
+    m_engine.ask("current-tracks/video/demux-rotation", MPV_FORMAT_DOUBLE, Rotation);
+    // What a decoder made of a track, not what the file promises: a recording that was cut off at once has
+    // tracks with nothing in them.
+    m_engine.ask("video-params/pixelformat", MPV_FORMAT_STRING, PictureFormat);
+    m_engine.ask("audio-params/format", MPV_FORMAT_STRING, SoundFormat);
 }
 
 // ---- What becomes of the file
@@ -243,14 +277,31 @@ void MediaPlayer::onAnswers()
 {
     if (m_stage != Stage::Opening)
         return;
+    const auto container = containerNamed(m_library.format);
+    if (container.readAs)
+        return openAs(container.readAs, m_path);
+    if (framed_stream::isKnown(m_library.format)) {
+        const double rate = m_library.frameRate > 0 ? m_library.frameRate : usualFrameRate;
+        return openAs("avi", framed_stream::address(m_path, m_library.format, rate));
+    }
     if (m_library.isStill || !(m_library.hasVideo || m_library.hasAudio))
         return becomeUnplayable();
-    const auto container = containerNamed(m_library.format);
     m_engine.setNumber("hr-seek-demuxer-offset", container.seekLead);
     if (container.tellsDuration)
         return becomeReady();
     m_stage = Stage::Measuring;
     sendSeek(beyondEveryEnd);
+}
+
+void MediaPlayer::onMeasured(double seconds)
+{
+    if (m_stage != Stage::Returning)
+        return;
+    m_duration = seconds;
+    if (seconds > 0)
+        becomeReady();
+    else
+        becomeUnplayable(); // a single picture
 }
 
 void MediaPlayer::becomeReady()

@@ -47,7 +47,10 @@ public:
 
     /// Whether there is a picture to draw.
     bool hasPicture() const { return m_hasPicture; }
-    /// See MediaEngine::draw.
+    /// How often the picture is to be turned by 90 degrees, clockwise, to stand upright: 0 ... 3. Known once
+    /// the file is loaded.
+    int quarterTurns() const { return m_library.quarterTurns; }
+    /// The picture as it is stored, which may lie on its side; see MediaEngine::draw.
     bool draw(QImage &image) { return m_engine.draw(image); }
 
 Q_SIGNALS:
@@ -65,8 +68,9 @@ Q_SIGNALS:
     void videoLost();
 
 private:
-    /// On the way to being ready. A file that does not tell its duration is measured: the library goes to its
-    /// end and returns, and knows every place on the way then.
+    /// On the way to being ready. A file that the library reads better in another way is opened twice. One
+    /// that does not tell its duration is measured: the library goes to its end and returns, and knows every
+    /// place on the way then.
     enum class Stage { Closed, Opening, Measuring, Returning, Open };
 
     /// Numbers that tell the library's answers apart.
@@ -80,8 +84,11 @@ private:
         Pause,
         Vid,
         FileFormat,
+        FrameRate,
         IsStill,
-        AudioTrack
+        Rotation,
+        PictureFormat,
+        SoundFormat
     };
 
     void onEvent(const mpv_event &event);
@@ -93,6 +100,8 @@ private:
     void onEndOfFile(const void *data);
     void askWhatItIs();
     void onAnswers();
+    void openAs(const char *format, const QByteArray &address);
+    void onMeasured(double seconds);
     void sendSeek(double seconds);
     void becomeReady();
     void becomeUnplayable();
@@ -109,6 +118,7 @@ private:
     bool isStepping() const { return m_stepTimer.isActive(); }
 
     MediaEngine m_engine;
+    QByteArray m_path;
     Status m_status = Status::Unknown;
     QString m_error;
     float m_volume = 1;
@@ -125,6 +135,8 @@ private:
         bool hasVideo = false;
         bool hasAudio = false;
         bool isStill = false;
+        int quarterTurns = 0;
+        double frameRate = 0; ///< 0 where it is not known
         QByteArray format;
     } m_library; ///< what the library told last
 

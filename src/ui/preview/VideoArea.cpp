@@ -13,6 +13,12 @@ void VideoArea::setPainter(std::function<bool(QImage &)> painter)
     m_painter = std::move(painter);
 }
 
+void VideoArea::setQuarterTurns(int turns)
+{
+    m_quarterTurns = turns;
+    redraw();
+}
+
 void VideoArea::showPicture(bool shown)
 {
     m_isShown = shown;
@@ -22,7 +28,8 @@ void VideoArea::showPicture(bool shown)
 void VideoArea::redraw()
 {
     if (m_painter) {
-        const auto pixels = size() * devicePixelRatioF();
+        const auto upright = size() * devicePixelRatioF();
+        const auto pixels = m_quarterTurns % 2 ? upright.transposed() : upright;
         if (m_picture.size() != pixels)
             m_picture = QImage(pixels, QImage::Format_RGB32);
         if (!m_painter(m_picture))
@@ -37,8 +44,12 @@ void VideoArea::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::black);
-    if (m_isShown && !m_picture.isNull())
-        painter.drawImage(QPoint(0, 0), m_picture);
+    if (!m_isShown || m_picture.isNull())
+        return;
+    const auto picture = m_picture.deviceIndependentSize();
+    painter.translate(rect().toRectF().center());
+    painter.rotate(m_quarterTurns * 90);
+    painter.drawImage(QRectF(QPointF(-picture.width() / 2, -picture.height() / 2), picture), m_picture);
 }
 
 void VideoArea::resizeEvent(QResizeEvent *event)

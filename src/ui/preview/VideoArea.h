@@ -14,6 +14,8 @@ public:
 
     /// What draws the present picture over a whole image of Format_RGB32; none at first.
     void setPainter(std::function<bool(QImage &)> painter);
+    /// How often what the painter draws is to be turned by 90 degrees, clockwise: 0 ... 3.
+    void setQuarterTurns(int turns);
     /// The picture has changed. It is drawn also while it is not shown, because the library waits for that.
     void redraw();
     /// Not at first.
@@ -27,6 +29,7 @@ protected:
 
 private:
     std::function<bool(QImage &)> m_painter;
-    QImage m_picture;
+    QImage m_picture; ///< as it was drawn, not turned
+    int m_quarterTurns = 0;
     bool m_isShown = false;
 };

@@ -57,10 +57,12 @@ QString PreviewFilesTest::write(const QString &name, const QByteArray &content) 
 void PreviewFilesTest::everyKindPlaysAndSeeks_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name : { "sound.wma", "sound.wav", "sound.mp3", "sound.mp2", "sound.mpga", "sound.m4a",
-             "film.wmv", "film.mov", "film.mpg", "film.mpeg", "film.mpe", "film.avi", "film.asf", "film.qt",
-             "film.mp4", "film.mpeg-4", "film.flv", "film.ts", "film.3gp", "film.m1v", "film.m2v",
-             "film.mjpg", "silent.mp4" })
+    for (const char *name :
+        { "sound.wma", "sound.wav", "sound.mp3", "sound.mp2", "sound.mpga", "sound.m4a", "film.wmv",
+            "film.mov", "film.mpg", "film.mpeg", "film.mpe", "film.avi", "film.asf", "film.qt", "film.mp4",
+            "film.mpeg-4", "film.flv", "film.ts", "film.3gp", "film.m1v", "film.m2v", "film.mjpg",
+            "silent.mp4", "film-90.mp4", "film-180.mov", "film-270.3gp", "film-90.mpeg-4", "film-270.qt",
+            "film-colours.mjpg", "film-h264.mpg", "film-slices.mpeg", "film-h265.mpg", "film-mpeg4.mpg" })
         QTest::newRow(name) << QString::fromLatin1(name);
 }
 
@@ -112,6 +114,10 @@ void PreviewFilesTest::notMedia_data()
     QTest::newRow("noise") << noise;
     QTest::newRow("zeros") << QByteArray(50'000, 0);
     QTest::newRow("still picture") << read("still.png");
+    QTest::newRow("still picture of a camera") << read("still.jpg");
+    QTest::newRow("film without a picture") << read("nothing.avi");
+    QTest::newRow("film of another kind without a picture") << read("nothing.wmv");
+    QTest::newRow("sound without a sample") << read("nothing.wav");
     QTest::newRow("film without its index") << read("film.mp4").left(60'000);
     QTest::newRow("list of files") << QByteArray("#EXTM3U\nfilm.mp4\nsound.mp3\n");
     QTest::newRow("list of segments") << QByteArray("#EXTM3U\n#EXT-X-VERSION:3\n#EXT-X-TARGETDURATION:12\n"

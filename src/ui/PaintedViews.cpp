@@ -5,6 +5,7 @@
 #include <QPalette>
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -53,6 +54,9 @@ QColor PaintedView::colour() const
 void PaintedView::paintEvent(QPaintEvent *event)
 {
     QWidget::paintEvent(event);
-    if (const auto fill = colour(); fill.isValid())
+    const auto fill = colour();
+    if (std::exchange(m_shown, fill) != fill)
+        window()->update();
+    if (fill.isValid())
         QPainter(this).fillRect(rect(), fill);
 }

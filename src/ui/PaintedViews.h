@@ -13,7 +13,9 @@
 QColor readableTextOn(const QColor &background);
 
 /// A view that fills its bounds with one colour. It asks for the colour at every redraw, so update() is
-/// enough after a change. Without a source, or with an invalid colour, it shows the window's background.
+/// enough after a change. Where it finds that the colour has changed it has the whole window redrawn, so that no
+/// part of it keeps the old colours beside the new. Without a source, or with an invalid colour, it shows the
+/// window's background.
 class PaintedView : public QWidget {
     Q_OBJECT
 public:
@@ -28,6 +30,7 @@ protected:
 
 private:
     std::function<QColor()> m_source;
+    QColor m_shown; ///< what the last redraw used
 };
 
 /// The toolbars and sub-toolbars of the tabs.

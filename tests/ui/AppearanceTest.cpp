@@ -127,6 +127,7 @@ private Q_SLOTS:
     void okKeepsTheSelection();
     void cancelLeavesEverything();
     void originalThenCancel();
+    void originalThenCancelLeavesNoPatch();
     void originalThenOk();
     void damagedColourStaysUnset();
     void strangeAlternatingValue();
@@ -612,6 +613,39 @@ void AppearanceTest::originalThenCancel()
     QVERIFY(!app.element<ListTableView>("tableviewAudioFiles")->alternatingRowColors());
     // A redraw, whatever causes it, shows the shipped colour.
     QCOMPARE(edge(app.element<QWidget>("view_Toolbar_Audio_BG")), blueGrey);
+}
+
+/// The window keeps its look until its next redraw, and that is one of all of it: a button that is redrawn
+/// under the pointer does not stand in a square of another colour.
+void AppearanceTest::originalThenCancelLeavesNoPatch()
+{
+    JobApplication app;
+    app.launch();
+    app.window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(app.window.get()));
+    open(app);
+    for (const char *well : { "colorToolbar", "colorBottomBar" })
+        inSheet<ColourWell>(app, well)->setColour(Qt::red);
+    click(app, "btnOK");
+    const auto shown = [&](const char *view, int fromRight) {
+        const auto *widget = app.element<QWidget>(view);
+        const auto place =
+            widget->mapTo(app.window.get(), QPoint(widget->width() - fromRight, widget->height() / 2));
+        return app.window->screen()->grabWindow(app.window->winId()).toImage().pixelColor(place);
+    };
+    const auto views = { "view_Toolbar_Audio_BG", "view_Toolbar_Audio_Sub_BG", "customviewButtonBurn" };
+    for (const char *view : views)
+        QTRY_COMPARE(shown(view, 1), QColor(Qt::red));
+    open(app);
+    click(app, "btnOriginal");
+    click(app, "btnCancel");
+    QTest::qWait(300);
+
+    auto *toolbar = app.element<QWidget>("view_Toolbar_Audio_BG");
+    toolbar->update(QRect(toolbar->width() - 40, 0, 20, toolbar->height()));
+    QTRY_COMPARE(shown("view_Toolbar_Audio_BG", 30), blueGrey);
+    for (const char *view : views)
+        QTRY_COMPARE(shown(view, 1), blueGrey);
 }
 
 void AppearanceTest::originalThenOk()

@@ -326,7 +326,11 @@ void AppDelegate::playSelected(const ListTableView *table)
     const int row = table->lastSelectedRow();
     if (row < 0)
         return alert(u"There is no file selected."_s, u"There is no file selected."_s);
-    if (const QString whyNot = playPreview(arrayMediaFiles.at(row).s_File_URL, window); !whyNot.isEmpty())
+    const auto tell = [this](const QString &message, const QString &informative, QWidget *over) {
+        around.questions->ask({ message, informative, { u"OK"_s } }, over);
+    };
+    if (const QString whyNot = playPreview(arrayMediaFiles.at(row).s_File_URL, window, *preferences, tell);
+        !whyNot.isEmpty())
         alert(tr("The file cannot be played."), whyNot);
 }
 

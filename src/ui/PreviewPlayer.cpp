@@ -4,6 +4,9 @@
 #include <QDialog>
 #include <QDir>
 #include <QLibrary>
+#include <QSettings>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -13,7 +16,20 @@ QString previewModuleFile()
         QCoreApplication::applicationDirPath() + "/../libexec/corvalis/corvalis_preview.so"_L1);
 }
 
-QDialog *createPreview(const QUrl &file, QWidget *parent, QString *whyNot)
+namespace {
+
+constexpr int loudest = 100;
+
+int storedVolume(const QSettings &preferences)
+{
+    bool isNumber = false;
+    const int percent = preferences.value(QLatin1StringView(previewVolumeKey)).toInt(&isNumber);
+    return isNumber ? std::clamp(percent, 0, loudest) : loudest;
+}
+
+} // namespace
+
+QDialog *createPreview(const QUrl &file, QWidget *parent, const PreviewAlert &alert, QString *whyNot)
 {
     // The module stays loaded when this object goes.
     QLibrary module(previewModuleFile());
@@ -25,13 +41,19 @@ QDialog *createPreview(const QUrl &file, QWidget *parent, QString *whyNot)
                       .arg(module.errorString());
         return nullptr;
     }
-    return reinterpret_cast<CreatePreview>(function)(file, parent);
+    return reinterpret_cast<CreatePreview>(function)(file, parent, alert);
 }
 
-QString playPreview(const QUrl &file, QWidget *parent)
+QString playPreview(const QUrl &file, QWidget *parent, QSettings &preferences, const PreviewAlert &alert)
 {
     QString whyNot;
-    if (auto *window = createPreview(file, parent, &whyNot)) {
+    if (auto *window = createPreview(file, parent, alert, &whyNot)) {
+        window->setProperty("volume", static_cast<float>(storedVolume(preferences)) / loudest);
+        QObject::connect(window, &QDialog::finished, window, [window, &preferences] {
+            const int percent = qRound(window->property("volume").toFloat() * loudest);
+            if (percent != storedVolume(preferences))
+                preferences.setValue(QLatin1StringView(previewVolumeKey), percent);
+        });
         window->setAttribute(Qt::WA_DeleteOnClose);
         window->setWindowModality(Qt::ApplicationModal);
         window->show();

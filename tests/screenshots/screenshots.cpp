@@ -147,7 +147,7 @@ private:
     {
         QString whyNot;
         const std::unique_ptr<QDialog> player(
-            createPreview(QUrl::fromLocalFile(m_media + u"/Seaside.mov"_s), nullptr, &whyNot));
+            createPreview(QUrl::fromLocalFile(m_media + u"/Seaside.mov"_s), nullptr, {}, &whyNot));
         if (!player)
             qFatal("%s", qPrintable(whyNot));
         player->move(0, 0);

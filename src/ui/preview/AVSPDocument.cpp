@@ -5,7 +5,8 @@
 #include "ui_AVSPDocument.h"
 
 #include <QKeyEvent>
-#include <QMessageBox>
+#include <QMimeDatabase>
+#include <QScreen>
 #include <QTimer>
 
 #include <algorithm>
@@ -21,6 +22,9 @@ namespace {
 constexpr double keyStep = 5;
 constexpr double rateStep = 2;
 constexpr float volumeStep = 0.05F;
+constexpr QSize smallestFilm(440, 240);
+constexpr QSize smallestSound(440, 0);
+constexpr QSize frameOfWindow(16, 48); // about; it is known only once the window stands
 
 /// The file's name in bytes. A URL keeps those that are no UTF-8 as they are, a text would lose them.
 QByteArray localPath(const QUrl &url)
@@ -40,21 +44,22 @@ QString titleOf(const QUrl &url)
     return name;
 }
 
-QString timeText(double seconds)
+/// By its name alone, so that the window need not change its shape once the file is known.
+bool looksLikeSound(const QUrl &url)
 {
-    const auto whole = static_cast<qint64>(seconds);
-    const auto twoDigits = [](qint64 value) { return u"%1"_s.arg(value, 2, 10, QChar(u'0')); };
-    return whole < 3600
-        ? u"%1:%2"_s.arg(whole / 60).arg(twoDigits(whole % 60))
-        : u"%1:%2:%3"_s.arg(whole / 3600).arg(twoDigits(whole / 60 % 60), twoDigits(whole % 60));
+    return QMimeDatabase()
+        .mimeTypeForFile(url.fileName(), QMimeDatabase::MatchExtension)
+        .name()
+        .startsWith("audio/"_L1);
 }
 
 } // namespace
 
-AVSPDocument::AVSPDocument(const QUrl &file, QWidget *parent)
+AVSPDocument::AVSPDocument(const QUrl &file, QWidget *parent, const PreviewAlert &alert)
     : QDialog(parent)
     , s_File_URL(file)
     , m_ui(std::make_unique<Ui::AVSPDocument>())
+    , m_alert(alert)
 {
     m_ui->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -62,7 +67,6 @@ AVSPDocument::AVSPDocument(const QUrl &file, QWidget *parent)
     m_ui->playerView->setFocus(); // else whatever is enabled while the file is loading takes the keys
     giveSigns();
     windowDidLoad();
-    resize(m_ui->playerView->sizeHint() + QSize(0, m_ui->controls->sizeHint().height()));
 }
 
 AVSPDocument::~AVSPDocument()
@@ -77,16 +81,12 @@ void AVSPDocument::windowDidLoad()
     m_ui->unplayableLabel->hide();
     m_ui->noVideoLabel->hide();
     m_ui->failureLabel->hide();
-    m_ui->loadingSpinner->setColour(Qt::white);
-    // These lie on black whatever the desktop's colours are.
     for (auto *label : { m_ui->unplayableLabel, m_ui->noVideoLabel, m_ui->failureLabel }) {
         auto larger = label->font();
         larger.setPointSizeF(larger.pointSizeF() * 1.2);
         label->setFont(larger);
-        auto onBlack = label->palette();
-        onBlack.setColor(QPalette::WindowText, QColor(230, 230, 230));
-        label->setPalette(onBlack);
     }
+    takeShape(!looksLikeSound(s_File_URL));
     m_ui->loadingSpinner->start();
     enableControls(false, tr("The file is being opened"));
     player = new MediaPlayer(this);
@@ -102,8 +102,31 @@ void AVSPDocument::windowDidLoad()
     player->open(localPath(s_File_URL));
 }
 
+/// A film gets a black area of its own shape, a sound a small window in the desktop's colours.
+void AVSPDocument::takeShape(bool ofFilm)
+{
+    m_ui->playerView->setBlack(ofFilm);
+    auto onGround = palette();
+    if (ofFilm)
+        onGround.setColor(QPalette::WindowText, QColor(230, 230, 230)); // whatever the desktop's colours are
+    for (auto *label : { m_ui->unplayableLabel, m_ui->noVideoLabel, m_ui->failureLabel })
+        label->setPalette(ofFilm ? onGround : QPalette());
+    m_ui->loadingSpinner->setColour(onGround.color(QPalette::WindowText));
+    setMinimumSize((ofFilm ? smallestFilm : smallestSound).boundedTo(room()));
+    resize((m_ui->playerView->sizeHint() + QSize(0, m_ui->controls->sizeHint().height())).boundedTo(room()));
+}
+
+/// The largest size at which all of the window is on the screen.
+QSize AVSPDocument::room() const
+{
+    const QWidget *where = parentWidget() ? parentWidget() : this;
+    return where->screen()->availableGeometry().size() - frameOfWindow;
+}
+
 void AVSPDocument::setUpPlaybackOfAsset(bool hasVideo)
 {
+    if (hasVideo != m_ui->playerView->isBlack())
+        takeShape(hasVideo);
     if (hasVideo) {
         m_ui->playerView->setQuarterTurns(player->quarterTurns());
         connect(player, &MediaPlayer::frameReady, this, &AVSPDocument::readyForDisplay);
@@ -140,11 +163,9 @@ void AVSPDocument::stopLoadingAnimationAndHandleError(const QString &error)
         return;
     qWarning().noquote() << "preview:" << s_File_URL.toDisplayString() << error;
     const auto text = tr("Video could not be played.");
-    auto *alert = new QMessageBox(QMessageBox::NoIcon, windowTitle(), text, QMessageBox::Ok, this);
-    alert->setObjectName(u"failedAlert"_s);
-    alert->setAttribute(Qt::WA_DeleteOnClose);
-    alert->setInformativeText(text);
-    alert->open();
+    // It is gone only when a person pressed its button, and whoever told of the error is to be done by then.
+    QMetaObject::invokeMethod(
+        this, [this, text] { m_alert(text, text, this); }, Qt::QueuedConnection);
 }
 
 // ---- What the player tells
@@ -219,7 +240,7 @@ void AVSPDocument::setCurrentTime(double seconds)
 
 float AVSPDocument::volume() const
 {
-    return player ? player->volume() : 0;
+    return player ? player->volume() : m_lastVolume;
 }
 
 void AVSPDocument::setVolume(float volume)
@@ -262,8 +283,10 @@ void AVSPDocument::rewind()
 
 void AVSPDocument::jump(double seconds)
 {
-    if (m_ui->playPauseButton->isEnabled())
-        setCurrentTime(std::clamp(currentTime() + seconds, 0.0, duration()));
+    if (!m_ui->playPauseButton->isEnabled())
+        return;
+    player->seek(currentTime() + seconds);
+    observeTime();
 }
 
 // ---- Closing
@@ -281,6 +304,7 @@ void AVSPDocument::windowWillClose()
     delete std::exchange(timeObserverToken, nullptr);
     m_ui->playerView->setPainter({});
     m_ui->playerView->showPicture(false);
+    m_lastVolume = player->volume();
     player->disconnect();
     delete std::exchange(player, nullptr);
     enableControls(false);
@@ -298,8 +322,9 @@ void AVSPDocument::connectControls()
         [this](int percent) { setVolume(static_cast<float>(percent) / 100); });
     connect(this, &AVSPDocument::volumeChanged, m_ui->volumeSlider,
         [this](float value) { m_ui->volumeSlider->setValue(qRound(value * 100)); });
-    for (auto *button : { m_ui->playPauseButton, m_ui->fastForwardButton, m_ui->rewindButton })
-        button->installEventFilter(this);
+    for (QWidget *control : std::initializer_list<QWidget *>{
+             m_ui->playPauseButton, m_ui->fastForwardButton, m_ui->rewindButton, m_ui->timeSlider })
+        control->installEventFilter(this);
 }
 
 void AVSPDocument::enableControls(bool enabled, const QString &whyNot)
@@ -308,7 +333,7 @@ void AVSPDocument::enableControls(bool enabled, const QString &whyNot)
         { m_ui->playPauseButton, tr("Play or pause (Space)") },
         { m_ui->fastForwardButton, tr("Fast forward; each press is faster") },
         { m_ui->rewindButton, tr("Rewind; each press is faster") },
-        { m_ui->timeSlider, tr("Position (Left and Right)") },
+        { m_ui->timeSlider, tr("Position (Left and Right: five seconds)") },
     };
     for (const auto &[control, tip] : controls) {
         control->setEnabled(enabled);
@@ -340,7 +365,8 @@ void AVSPDocument::changeEvent(QEvent *event)
         giveSigns();
 }
 
-/// A button would give the focus to its neighbour when an arrow key is pressed.
+/// An arrow key does the same everywhere. A button would give the focus to its neighbour, and the slider
+/// would take all four for itself.
 bool AVSPDocument::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress) {

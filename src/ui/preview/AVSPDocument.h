@@ -1,6 +1,8 @@
 // The preview player's window.
 #pragma once
 
+#include "ui/PreviewPlayer.h"
+
 #include <QDialog>
 #include <QUrl>
 
@@ -19,12 +21,12 @@ class AVSPDocument : public QDialog {
     Q_PROPERTY(double duration READ duration NOTIFY durationChanged)
     /// Seconds; setting it goes to the whole second, exactly.
     Q_PROPERTY(double currentTime READ currentTime WRITE setCurrentTime NOTIFY currentTimeChanged)
-    /// 0 silent ... 1 as recorded.
+    /// 0 silent ... 1 as recorded. After the window was closed, what it was last.
     Q_PROPERTY(float volume READ volume WRITE setVolume NOTIFY volumeChanged)
     /// 1 is normal, 0 stands still, below 0 is backward.
     Q_PROPERTY(double rate READ rate NOTIFY rateChanged)
 public:
-    explicit AVSPDocument(const QUrl &file, QWidget *parent = nullptr);
+    AVSPDocument(const QUrl &file, QWidget *parent, const PreviewAlert &alert);
     ~AVSPDocument() override;
 
     const QUrl s_File_URL;
@@ -62,6 +64,8 @@ private:
     void assetIsUnplayable();
     void stopLoadingAnimationAndHandleError(const QString &error = {});
     void showNoVideo();
+    void takeShape(bool ofFilm);
+    QSize room() const;
     void observeRate(double rate);
     void observeStatus();
     void observeDuration(double seconds);
@@ -74,6 +78,8 @@ private:
     void jump(double seconds);
 
     std::unique_ptr<Ui::AVSPDocument> m_ui;
+    const PreviewAlert m_alert;
     QTimer *timeObserverToken = nullptr;
+    float m_lastVolume = 1;
     bool m_isClosed = false;
 };

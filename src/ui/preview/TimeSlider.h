@@ -2,9 +2,13 @@
 #pragma once
 
 #include <QSlider>
+#include <QString>
+
+/// A time as a clock shows it, in whole seconds: 0:07, 12:34, 1:02:03.
+QString timeText(double seconds);
 
 /// Its value is a place in milliseconds, so that it moves smoothly in a short file; everyone else talks to it
-/// in seconds. A press on the groove takes the handle there.
+/// in seconds. A press on the groove takes the handle there. A screen reader is told times, too.
 class TimeSlider : public QSlider {
     Q_OBJECT
     Q_PROPERTY(double seconds READ seconds WRITE setSeconds)

@@ -25,6 +25,18 @@ void VideoArea::showPicture(bool shown)
     update();
 }
 
+void VideoArea::setBlack(bool black)
+{
+    m_isBlack = black;
+    updateGeometry();
+    update();
+}
+
+QSize VideoArea::sizeHint() const
+{
+    return m_isBlack ? QSize(720, 405) : QWidget::sizeHint();
+}
+
 void VideoArea::redraw()
 {
     if (m_painter) {
@@ -43,7 +55,7 @@ void VideoArea::redraw()
 void VideoArea::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), Qt::black);
+    painter.fillRect(rect(), m_isBlack ? QBrush(Qt::black) : palette().window());
     if (!m_isShown || m_picture.isNull())
         return;
     const auto picture = m_picture.deviceIndependentSize();

@@ -1,4 +1,4 @@
-// The black area in which a film is drawn.
+// The area in which a film is drawn.
 #pragma once
 
 #include <QImage>
@@ -6,7 +6,8 @@
 
 #include <functional>
 
-/// Black, with the picture in it once it may be seen. The picture keeps its proportions.
+/// Black, with the picture in it once it may be seen. The picture keeps its proportions. Where there is no
+/// picture to come it is as small as what lies on it, in the window's colour.
 class VideoArea : public QWidget {
     Q_OBJECT
 public:
@@ -20,8 +21,11 @@ public:
     void redraw();
     /// Not at first.
     void showPicture(bool shown);
+    /// Black at first.
+    void setBlack(bool black);
+    bool isBlack() const { return m_isBlack; }
 
-    QSize sizeHint() const override { return { 720, 405 }; }
+    QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -32,4 +36,5 @@ private:
     QImage m_picture; ///< as it was drawn, not turned
     int m_quarterTurns = 0;
     bool m_isShown = false;
+    bool m_isBlack = true;
 };

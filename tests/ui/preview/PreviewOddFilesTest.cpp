@@ -33,7 +33,7 @@ void PreviewOddFilesTest::oddFilesDoNoHarm()
     PreviewWindow player(path);
     QTRY_VERIFY(!player.isSpinning());
     QVERIFY(!player.showsUnplayable());
-    QVERIFY(!player.alert());
+    QVERIFY(!player.hasAlerted());
     QTRY_VERIFY(player.isReady());
     player.play()->click();
     for (int step = 0; step < 12; ++step) {
@@ -48,7 +48,7 @@ void PreviewOddFilesTest::oddFilesDoNoHarm()
     player.setCurrentTime(0);
     player.forward()->click();
     QTest::qWait(100);
-    QVERIFY(!player.alert());
+    QVERIFY(!player.hasAlerted());
 }
 
 void PreviewOddFilesTest::streamCutToAnyLength_data()
@@ -72,7 +72,7 @@ void PreviewOddFilesTest::streamCutToAnyLength()
     beginning.close();
     PreviewWindow player(beginning.fileName());
     QTRY_VERIFY(!player.isSpinning());
-    QVERIFY(player.isReady() || player.showsUnplayable() || player.alert());
+    QVERIFY(player.isReady() || player.showsUnplayable() || player.hasAlerted());
 }
 
 QTEST_MAIN(PreviewOddFilesTest)

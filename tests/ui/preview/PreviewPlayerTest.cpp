@@ -4,6 +4,8 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QScopeGuard>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -28,8 +30,16 @@ private Q_SLOTS:
     void slidersFollow();
     void keys();
     void keysWhereverTheFocusIs();
+    void keysGoFiveSecondsFromAnyPlace();
+    void keysOfThePositionSlider();
     void everythingHasAName();
+    void positionIsToldAsATime();
     void opensInTheShapeOfAFilm();
+    void opensSmallForASound_data();
+    void opensSmallForASound();
+    void soundThatIsNamedAsAFilm();
+    void filmThatIsNamedAsASound();
+    void fitsOnTheScreen();
     void propertiesTellTheirChanges();
     void closingTakesEverythingAway();
 
@@ -369,6 +379,49 @@ void PreviewPlayerTest::keysWhereverTheFocusIs()
     QVERIFY(!player->isVisible());
 }
 
+void PreviewPlayerTest::keysGoFiveSecondsFromAnyPlace()
+{
+    PreviewWindow player(file("film.mp4"));
+    QTRY_VERIFY(player.isReady());
+    player.play()->click();
+    QTRY_VERIFY(player.currentTime() > 0.55 && player.currentTime() < 0.95);
+    player.play()->click();
+    const double before = player.currentTime();
+    QTest::keyClick(player.window(), Qt::Key_Right);
+    QCOMPARE(player.currentTime(), before + 5);
+    QTest::keyClick(player.window(), Qt::Key_Right);
+    QCOMPARE(player.currentTime(), before + 10);
+    QTest::keyClick(player.window(), Qt::Key_Left);
+    QCOMPARE(player.currentTime(), before + 5);
+    QTRY_VERIFY(std::abs(player.pictureTime() - player.currentTime()) < 0.1);
+}
+
+void PreviewPlayerTest::keysOfThePositionSlider()
+{
+    PreviewWindow player(file("film.mp4"));
+    QTRY_VERIFY(player.isReady());
+    auto *slider = player.find<QAbstractSlider>("timeSlider");
+    slider->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(slider, Qt::Key_Right);
+    QCOMPARE(player.currentTime(), 5.0);
+    QTest::keyClick(slider, Qt::Key_Right);
+    QTest::keyClick(slider, Qt::Key_Left);
+    QCOMPARE(player.currentTime(), 5.0);
+    QTest::keyClick(slider, Qt::Key_Down);
+    QCOMPARE(player->property("volume").toFloat(), 0.95F);
+    QTest::keyClick(slider, Qt::Key_Up);
+    QCOMPARE(player->property("volume").toFloat(), 1.0F);
+    QCOMPARE(player.currentTime(), 5.0);
+    QTest::keyClick(slider, Qt::Key_End);
+    QCOMPARE(player.currentTime(), std::trunc(player.duration()));
+    QTest::keyClick(slider, Qt::Key_Home);
+    QCOMPARE(player.currentTime(), 0.0);
+
+    auto *volume = player.find<QAbstractSlider>("volumeSlider");
+    QTest::keyClick(volume, Qt::Key_Down);
+    QCOMPARE(player->property("volume").toFloat(), 0.95F);
+}
+
 void PreviewPlayerTest::everythingHasAName()
 {
     PreviewWindow player(file("film.mp4"));
@@ -404,6 +457,81 @@ void PreviewPlayerTest::opensInTheShapeOfAFilm()
     player->resize(500, 500);
     QTRY_COMPARE(player.view()->width(), 500);
     QVERIFY(player.view()->height() > 400);
+}
+
+void PreviewPlayerTest::positionIsToldAsATime()
+{
+    PreviewWindow player(file("film.mp4"));
+    QTRY_VERIFY(player.isReady());
+    auto *slider = player.find<QAbstractSlider>("timeSlider");
+    auto *interface = QAccessible::queryAccessibleInterface(slider);
+    QCOMPARE(interface->role(), QAccessible::Slider);
+    QCOMPARE(interface->text(QAccessible::Name), u"Position"_s);
+    player.setCurrentTime(7);
+    QCOMPARE(interface->text(QAccessible::Value), u"0:07 of 0:12"_s);
+    QCOMPARE(interface->text(QAccessible::Description), u"0:07 of 0:12"_s);
+    auto *value = interface->valueInterface();
+    QVERIFY(value);
+    QCOMPARE(value->currentValue().toDouble(), 7.0);
+    QCOMPARE(value->maximumValue().toDouble(), player.duration());
+    value->setCurrentValue(3.0);
+    QCOMPARE(player.currentTime(), 3.0);
+}
+
+void PreviewPlayerTest::opensSmallForASound_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : { "sound.mp3", "sound.wav", "sound.wma", "sound.m4a", "sound.mp2", "sound.mpga" })
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+/// No black, from the first moment on, and everything that is said can be read.
+void PreviewPlayerTest::opensSmallForASound()
+{
+    QFETCH(QString, name);
+    PreviewWindow player(m_folder.filePath(name));
+    const QSize first = player->size();
+    QVERIFY2(first.height() < 200, qPrintable(QString::number(first.height())));
+    QTRY_VERIFY(player.isReady() && player.showsNoVideo());
+    QCOMPARE(player->size(), first);
+    const auto picture = player.view()->grab().toImage();
+    QCOMPARE(picture.pixelColor(2, 2), player->palette().color(QPalette::Window));
+    auto *label = player.find<QLabel>("noVideoLabel");
+    QCOMPARE(label->palette().color(QPalette::WindowText), player->palette().color(QPalette::WindowText));
+    QVERIFY(label->height() >= label->heightForWidth(label->width()));
+}
+
+void PreviewPlayerTest::soundThatIsNamedAsAFilm()
+{
+    QVERIFY(QFile::copy(file("sound.m4a"), file("really-sound.mp4")));
+    PreviewWindow player(file("really-sound.mp4"));
+    QTRY_VERIFY(player.isReady() && player.showsNoVideo());
+    QVERIFY(player->height() < 200);
+}
+
+void PreviewPlayerTest::filmThatIsNamedAsASound()
+{
+    QVERIFY(QFile::copy(file("film.mp4"), file("really-film.m4a")));
+    PreviewWindow player(file("really-film.m4a"));
+    QTRY_VERIFY(player.isReady() && !player.isSpinning());
+    QCOMPARE(player.view()->size(), QSize(720, 405));
+    QTRY_VERIFY(std::abs(player.pictureTime()) < 0.2);
+}
+
+/// The screen of the platform without a screen is 800 by 800; a person's font makes the controls larger than
+/// that.
+void PreviewPlayerTest::fitsOnTheScreen()
+{
+    const auto font = QApplication::font();
+    const auto restore = qScopeGuard([font] { QApplication::setFont(font); });
+    auto huge = font;
+    huge.setPointSize(130);
+    QApplication::setFont(huge);
+    PreviewWindow player(file("film.mp4"));
+    QTRY_VERIFY(player.isReady());
+    const auto room = player->screen()->availableGeometry();
+    QVERIFY(player->sizeHint().height() > room.height());
+    QVERIFY2(player->height() <= room.height(), qPrintable(QString::number(player->height())));
 }
 
 void PreviewPlayerTest::propertiesTellTheirChanges()

@@ -9,8 +9,6 @@
 #include <QFile>
 #include <QImage>
 #include <QLabel>
-#include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QUrl>
@@ -22,7 +20,12 @@
 class PreviewWindow {
 public:
     explicit PreviewWindow(const QUrl &url)
-        : m_window(createPreview(url, nullptr, &whyNot))
+        : m_window(createPreview(
+            url, nullptr,
+            [this](const QString &message, const QString &informative, QWidget *) {
+                alerts.append({ message, informative });
+            },
+            &whyNot))
     {
         if (m_window)
             m_window->show();
@@ -35,6 +38,7 @@ public:
     QDialog *operator->() const { return m_window.get(); }
     QDialog *window() const { return m_window.get(); }
     QString whyNot;
+    QList<std::pair<QString, QString>> alerts; ///< both texts of each
 
     template <class T>
     T *find(const char *name) const
@@ -48,7 +52,7 @@ public:
     bool isSpinning() const { return find<QWidget>("loadingSpinner")->property("spinning").toBool(); }
     bool showsUnplayable() const { return find<QLabel>("unplayableLabel")->isVisible(); }
     bool showsNoVideo() const { return find<QLabel>("noVideoLabel")->isVisible(); }
-    QPointer<QMessageBox> alert() const { return find<QMessageBox>("failedAlert"); }
+    bool hasAlerted() const { return !alerts.isEmpty(); }
     bool isReady() const { return play()->isEnabled(); }
 
     double duration() const { return m_window->property("duration").toDouble(); }

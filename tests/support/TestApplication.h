@@ -183,7 +183,8 @@ public:
                                             "1  CORVALIS Virtual Recorder  1.0   Virtual   Supported\n";
 };
 
-/// Makes the HOME of the running test as it is before the program's first start.
+/// Makes the HOME of the running test as it is before the program's first start. OwnHome.cpp sees to it that it
+/// is no person's.
 inline void emptyHome()
 {
     for (const auto place : { QStandardPaths::DocumentsLocation, QStandardPaths::ConfigLocation })

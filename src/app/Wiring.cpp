@@ -1,6 +1,7 @@
 // What happens when a button, a menu item, a tab or a table is used: one row each.
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
+#include "compilation/ListHeader.h"
 #include "compilation/ListTableModel.h"
 #include "compilation/SpaceOccupiedView.h"
 #include "kit/SheetStage.h"
@@ -247,7 +248,7 @@ void AppDelegate::arrangeColumns(ListTableView *table, int wideColumn)
     const int unit = table->fontMetrics().averageCharWidth();
     for (int column = 0; column < header->count(); ++column)
         header->resizeSection(column, unit * (column == 0 ? 44 : 18));
-    header->setMinimumSectionSize(unit * 8);
+    header->setMinimumSectionSize(static_cast<ListHeader *>(header)->widestHeading());
     header->setSectionResizeMode(wideColumn, QHeaderView::Stretch);
 }
 

@@ -1,38 +1,22 @@
 #include "compilation/ListTableView.h"
 
+#include "compilation/ListHeader.h"
+
 #include <QDragEnterEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
-#include <QProxyStyle>
 
 #include <algorithm>
-
-namespace {
-
-/// The desktop's style with more room left and right of the texts.
-class RoomyStyle : public QProxyStyle {
-public:
-    using QProxyStyle::QProxyStyle;
-
-    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
-    {
-        constexpr int room = 8;
-        const bool isMargin = metric == PM_HeaderMargin || metric == PM_FocusFrameHMargin;
-        return isMargin ? room : QProxyStyle::pixelMetric(metric, option, widget);
-    }
-};
-
-} // namespace
 
 ListTableView::ListTableView(QWidget *parent)
     : QTableView(parent)
 {
-    auto *roomy = new RoomyStyle;
-    roomy->setParent(this);
-    setStyle(roomy);
-    horizontalHeader()->setStyle(roomy);
+    auto *style = new ListStyle;
+    style->setParent(this);
+    setStyle(style);
+    setHorizontalHeader(new ListHeader(style, this));
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
@@ -47,10 +31,6 @@ ListTableView::ListTableView(QWidget *parent)
     setHorizontalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 12);
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setSectionsClickable(true);
-    horizontalHeader()->setFixedHeight(fontMetrics().height() + 12);
-    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     connect(this, &QTableView::doubleClicked, this, &ListTableView::rowOpened);
 }
 

@@ -46,6 +46,9 @@ private Q_SLOTS:
     void sortData_data();
     void sortData();
     void sortFromTheMenu();
+    void everyClickSorts();
+    void theMarkStandsBesideTheHeading_data();
+    void theMarkStandsBesideTheHeading();
     void flagsAreShared();
     void dataSortLeavesTheOtherFlags();
     void leavingAColumnResetsIt();
@@ -230,6 +233,72 @@ void TablesTest::sortFromTheMenu()
     QCOMPARE(column(0), QStringList({ u"a"_s, u"b"_s }));
     person::choose(m_app->window.get(), "menuitemSort2");
     QCOMPARE(column(0), QStringList({ u"b"_s, u"a"_s }));
+}
+
+// The second of two quick clicks arrives as a double click.
+void TablesTest::everyClickSorts()
+{
+    show({ file(u"b"_s), file(u"a"_s) });
+    const QHeaderView *header = table()->horizontalHeader();
+    const QPoint place = header->viewport()->mapTo(m_app->window.get(), QPoint(30, header->height() / 2));
+    QSignalSpy reloads(table()->model(), &QAbstractItemModel::modelReset);
+    for (int sorts = 2; sorts <= 6; sorts += 2) {
+        QTest::mouseDClick(m_app->window->windowHandle(), Qt::LeftButton, {}, place);
+        QCOMPARE(reloads.size(), sorts);
+        QCOMPARE(column(0), QStringList({ u"b"_s, u"a"_s }));
+    }
+    // With another button it is no click on a heading.
+    QTest::mouseDClick(m_app->window->windowHandle(), Qt::RightButton, {}, place);
+    QCOMPARE(reloads.size(), 6);
+}
+
+void TablesTest::theMarkStandsBesideTheHeading_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("left") << 0 << Qt::LeftToRight;
+    QTest::newRow("right") << 1 << Qt::LeftToRight;
+    QTest::newRow("right to left") << 0 << Qt::RightToLeft;
+    QTest::newRow("right to left, number") << 2 << Qt::RightToLeft;
+}
+
+/// The smallest rectangle around what differs between two pictures of the same size.
+static QRect difference(const QImage &a, const QImage &b)
+{
+    QRect changed;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            if (a.pixel(x, y) != b.pixel(x, y))
+                changed |= QRect(x, y, 1, 1);
+        }
+    }
+    return changed;
+}
+
+void TablesTest::theMarkStandsBesideTheHeading()
+{
+    QFETCH(int, column);
+    QFETCH(Qt::LayoutDirection, direction);
+    table()->setLayoutDirection(direction);
+    show({ file(u"a"_s) });
+    QHeaderView *header = table()->horizontalHeader();
+    const int width = header->sectionSize(column);
+    const QRect place(header->sectionViewportPosition(column), 0, width, header->height());
+    const auto picture = [&] { return header->viewport()->grab(place).toImage(); };
+    person::clickHeading(table(), column);
+    const QImage marked = picture();
+    m_app->controller->forgetSorting();
+    const QRect mark = difference(marked, picture());
+    // All that changes is a small mark, at the height of the text and not on it.
+    QVERIFY2(mark.width() >= 5 && mark.width() < 16, qPrintable(QString::number(mark.width())));
+    QVERIFY(mark.height() >= 3 && mark.height() < 16);
+    QVERIFY2(
+        qAbs(mark.center().y() - header->height() / 2) <= 2, qPrintable(QString::number(mark.center().y())));
+    const int text = header->fontMetrics().horizontalAdvance(
+        table()->model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+    const bool textAtLeft = (column == 0) == (direction == Qt::LeftToRight);
+    const int gap = textAtLeft ? mark.left() - (8 + text) : width - 8 - text - mark.right() - 1;
+    QVERIFY2(gap >= 2 && gap <= 12, qPrintable(QString::number(gap)));
 }
 
 void TablesTest::flagsAreShared()

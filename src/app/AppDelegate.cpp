@@ -123,6 +123,7 @@ void AppDelegate::applicationDidFinishLaunching()
     schedule(timerSetAlternatingRows, &AppDelegate::TimerSetAlternatingRowsRoutine);
     schedule(timerForceColorsAtStartup, &AppDelegate::TimerForceColorsAtStartupRoutine);
     window->setWindowTitle(u"Corvalis"_s);
+    focusList();
     window->show();
     window->raise();
     window->activateWindow();

@@ -288,6 +288,7 @@ private:
     void reorderList(const ListTableView *table, const QList<qsizetype> &order, QList<int> &selected);
     static void reloadTable(ListTableView *table);
     void refreshTable(const ListTableView *table); ///< the list kind's refresh
+    void focusList(); ///< gives the list of the selected tab the keyboard; elsewhere it stays where it is
 
     // ---- Running tools (runner/)
     QByteArray captureTool(const QString &program, const QStringList &arguments,

@@ -5,8 +5,11 @@
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
+<<<<<<< HEAD
 #include <QKeyEvent>
 #include <QTabBar>
+=======
+>>>>>>> 58d38d7 (Give the list the keyboard, and let arrows on the tabs only move the focus)
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
@@ -16,12 +19,12 @@ MainWindow::MainWindow(QWidget *parent)
     m_stage = new SheetStage(m_ui->centralwidget);
     addAction(m_ui->menuitemQuit); // also for the alerts, which take over what works everywhere in the window
     m_ui->menuitemVirtualSeparator->setSeparator(true);
-    m_ui->tabviewMain->tabBar()->installEventFilter(this);
     setMinimumSize(AppDelegate::windowWillResize_toSize({ 0, 0 }));
 }
 
 MainWindow::~MainWindow() = default;
 
+<<<<<<< HEAD
 /// A turn of the wheel over the tabs would choose another page, and with that empty the lists.
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
@@ -42,6 +45,8 @@ void MainWindow::keyPressEvent(QKeyEvent *event)
     QCoreApplication::sendEvent(receiver, &again);
 }
 
+=======
+>>>>>>> 58d38d7 (Give the list the keyboard, and let arrows on the tabs only move the focus)
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     event->accept();

@@ -186,6 +186,7 @@ void AppDelegate::didSelectTab(int index)
     for (int i = 0; i < 5; ++i)
         items[i]->setChecked(i == index);
     offerListActions(index);
+    focusList();
 }
 
 void AppDelegate::offerKinds(int tab)

@@ -187,6 +187,7 @@ void AppDelegate::mediaFilesAdded(ListKind kind, const QList<NodeMediaFile> &rec
         refreshTableAudioFiles();
     else
         refreshTableVideoFiles();
+    focusList();
     Q_EMIT addingEnded();
 }
 
@@ -225,6 +226,7 @@ void AppDelegate::addDataFolder(const QString &path)
     arrayDataFolders.append(compilation::folderRecord(path, folderSize(path)));
     forgetSorting();
     refreshTableDataFolders();
+    focusList();
 }
 
 bool AppDelegate::listTakes(int tab, const QUrl &url) const

@@ -45,6 +45,12 @@ ListTableView *AppDelegate::selectedTable() const
     return tab < tables.size() ? tables[tab] : nullptr;
 }
 
+void AppDelegate::focusList()
+{
+    if (ListTableView *const table = selectedTable())
+        table->setFocus(Qt::OtherFocusReason);
+}
+
 void AppDelegate::refreshTable(const ListTableView *table)
 {
     if (table == ui->tableviewAudioFiles)

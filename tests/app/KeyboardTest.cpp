@@ -1,5 +1,6 @@
 // The program without a mouse and without eyes: shortcuts, tab order, names and tooltips.
 #include "app/BarButton.h"
+#include "app/TabView.h"
 #include "app/Window_Activity_Log.h"
 #include "app/Window_Alert.h"
 #include "app/Window_New_Disc.h"
@@ -53,6 +54,9 @@ private Q_SLOTS:
     void tabOrder_data();
     void tabOrder();
     void enterAndSpacePress();
+    void theListHasTheKeyboard();
+    void arrowsOnTheTabsKeepTheList();
+    void theFocusedTabIsMarked();
     void everySheetHasNames();
 
 private:
@@ -282,6 +286,70 @@ void KeyboardTest::enterAndSpacePress()
     m_app->element<BarButton>("btnMP3DVD")->setFocus();
     person::press(QKeySequence(Qt::Key_Return));
     QTRY_COMPARE(m_app->element<BarButton>("btnBurn")->text(), u"Burn MP3 DVD"_s);
+}
+
+void KeyboardTest::theListHasTheKeyboard()
+{
+    const auto shown = [this] { return static_cast<QWidget *>(m_app->controller->selectedTable()); };
+    QCOMPARE(m_app->window->focusWidget(), shown());
+    for (const int tab : { 1, 2, 0 }) {
+        person::clickTab(m_app->element<QTabWidget>("tabviewMain"), tab);
+        QCOMPARE(m_app->window->focusWidget(), shown());
+    }
+    person::press(QKeySequence(u"Ctrl+2"_s));
+    QTRY_COMPARE(m_app->window->focusWidget(), m_app->element<QWidget>("tableviewVideoFiles"));
+    m_app->element<BarButton>("btnVideoBluray")->setFocus();
+    QSignalSpy added(m_app->controller.get(), &AppDelegate::addingEnded);
+    m_app->controller->addMediaFiles(AppDelegate::ListKind::Video, { QUrl::fromLocalFile(u"/x/0.mp4"_s) });
+    QVERIFY(added.wait());
+    QTRY_COMPARE(m_app->window->focusWidget(), shown());
+    // What has no list leaves the keyboard on the tab that was chosen with it.
+    m_app->element<QTabWidget>("tabviewMain")->tabBar()->setFocus();
+    m_app->window->activateWindow();
+    QTRY_VERIFY(m_app->element<QTabWidget>("tabviewMain")->tabBar()->hasFocus());
+    for (int presses = 0; presses < 2; ++presses)
+        person::press(QKeySequence(Qt::Key_Right));
+    person::press(QKeySequence(Qt::Key_Space));
+    QTRY_COMPARE(m_app->element<QTabWidget>("tabviewMain")->currentIndex(), 3);
+    QCOMPARE(m_app->window->focusWidget(), m_app->element<QTabWidget>("tabviewMain")->tabBar());
+}
+
+void KeyboardTest::arrowsOnTheTabsKeepTheList()
+{
+    auto *tabs = m_app->element<QTabWidget>("tabviewMain");
+    m_app->controller->arrayMediaFiles = QList<NodeMediaFile>(2);
+    m_app->controller->refreshTableAudioFiles();
+    tabs->tabBar()->setFocus();
+    const auto focused = [tabs] { return static_cast<TabBar *>(tabs->tabBar())->focusedTab(); };
+    const std::pair<Qt::Key, int> moves[] = { { Qt::Key_Right, 1 }, { Qt::Key_Right, 2 }, { Qt::Key_End, 4 },
+        { Qt::Key_Right, 4 }, { Qt::Key_Left, 3 }, { Qt::Key_Home, 0 }, { Qt::Key_Left, 0 } };
+    for (const auto &[key, expected] : moves) {
+        person::press(QKeySequence(key));
+        QCOMPARE(focused(), expected);
+        QCOMPARE(tabs->currentIndex(), 0);
+        QCOMPARE(m_app->controller->arrayMediaFiles.size(), 2);
+    }
+    person::press(QKeySequence(Qt::Key_Right));
+    person::press(QKeySequence(Qt::Key_Return));
+    QTRY_COMPARE(tabs->currentIndex(), 1);
+    QVERIFY(m_app->controller->arrayMediaFiles.isEmpty());
+    // Coming back, the keyboard begins at the page that is shown.
+    QCOMPARE(focused(), -1);
+    tabs->tabBar()->setFocus();
+    QCOMPARE(focused(), 1);
+}
+
+void KeyboardTest::theFocusedTabIsMarked()
+{
+    QTabBar *bar = m_app->element<QTabWidget>("tabviewMain")->tabBar();
+    const auto picture = [bar](int tab) { return bar->grab(bar->tabRect(tab)).toImage(); };
+    bar->setFocus();
+    const QImage audio = picture(0);
+    const QImage data = picture(2);
+    person::press(QKeySequence(Qt::Key_Right));
+    person::press(QKeySequence(Qt::Key_Right));
+    QVERIFY(picture(2) != data);
+    QVERIFY(picture(0) != audio);
 }
 
 void KeyboardTest::everySheetHasNames()

@@ -166,17 +166,19 @@ public:
     // ---- Adding and removing (compilation/)
     enum class ListKind { Audio, Video };
     static const QStringList &acceptedExtensions(ListKind kind);
-    void addMediaFiles(ListKind kind, const QList<QUrl> &urls); ///< returns at once; addingEnded() follows
+    /// Returns at once; addingEnded() follows. They come before the row `before`, -1: behind the last one.
+    void addMediaFiles(ListKind kind, const QList<QUrl> &urls, int before = -1);
     void addMediaFolder(ListKind kind, const QString &folder);
-    void addDataFolder(const QString &path);
+    void addDataFolder(const QString &path, int before = -1); ///< before this row, -1: behind the last one
     void OnActionAudioAddFiles(), OnActionAudioAddFolder(), OnActionAudioDelete(), OnActionAudioClear(),
         OnActionAudioPlay(), OnActionAudioNewDisc(), OnActionAudioCopyDisc();
     void OnActionVideoAddFiles(), OnActionVideoAddFolder(), OnActionVideoDelete(), OnActionVideoClear(),
         OnActionVideoPlay(), OnActionVideoNewDisc(), OnActionVideoCopyDisc(), OnActionVideoSettings();
     void OnActionDataAddFolder(), OnActionDataDelete(), OnActionDataClear(), OnActionDataNewDisc(),
         OnActionDataCopyDisc();
-    void addDroppedFiles(const QList<QUrl> &urls); ///< onto the selected tab; tells what does not fit
+    void addDroppedFiles(const QList<QUrl> &urls, int before); ///< onto the selected tab; tells what does not fit
     void moveSelectedEntries(int by); ///< up (-1) or down (1) in the list of the selected tab
+    void moveSelectedEntriesBefore(int row); ///< of the same list; the number of rows is behind the last
 
     // ---- Tables, sorting, gauge (compilation/)
     qsizetype numberOfRowsInTableView(const ListTableView *table) const;
@@ -279,13 +281,17 @@ private:
     QList<QUrl> mediaIn(ListKind kind, const QString &folder); ///< the accepted files; tells what is no text
     struct Measuring; ///< of the files that are being added
     void mediaFileMeasured(Measuring &measuring, const NodeMediaFile &record);
-    void mediaFilesAdded(ListKind kind, const QList<NodeMediaFile> &records);
+    void mediaFilesAdded(ListKind kind, const Measuring &measuring);
+    template <class Record>
+    void insertRecords(ListTableView *table, QList<Record> &list, const QList<Record> &records, int before);
     template <class Record>
     void deleteSelected(ListTableView *table, QList<Record> &list);
     void playSelected(const ListTableView *table);
     bool listTakes(int tab, const QUrl &url) const; ///< whether it can go on the tab's list
     void forgetSorting(); ///< no heading claims any more that the list is in its order
     void reorderList(const ListTableView *table, const QList<qsizetype> &order, QList<int> &selected);
+    void showReordered(ListTableView *table, const QList<qsizetype> &order, QList<int> selected);
+    void showListMenu(ListTableView *table, const QPoint &place, bool forRows); ///< at a place on the screen
     static void reloadTable(ListTableView *table);
     void refreshTable(const ListTableView *table); ///< the list kind's refresh
     void focusList(); ///< gives the list of the selected tab the keyboard; elsewhere it stays where it is

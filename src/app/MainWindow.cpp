@@ -5,11 +5,7 @@
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
-<<<<<<< HEAD
 #include <QKeyEvent>
-#include <QTabBar>
-=======
->>>>>>> 58d38d7 (Give the list the keyboard, and let arrows on the tabs only move the focus)
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
@@ -24,14 +20,6 @@ MainWindow::MainWindow(QWidget *parent)
 
 MainWindow::~MainWindow() = default;
 
-<<<<<<< HEAD
-/// A turn of the wheel over the tabs would choose another page, and with that empty the lists.
-bool MainWindow::eventFilter(QObject *watched, QEvent *event)
-{
-    const bool wheelOverTabs = event->type() == QEvent::Wheel && watched == m_ui->tabviewMain->tabBar();
-    return wheelOverTabs || QMainWindow::eventFilter(watched, event);
-}
-
 /// Keys that nothing has taken: a click behind an alert gave this window the keyboard.
 void MainWindow::keyPressEvent(QKeyEvent *event)
 {
@@ -45,8 +33,6 @@ void MainWindow::keyPressEvent(QKeyEvent *event)
     QCoreApplication::sendEvent(receiver, &again);
 }
 
-=======
->>>>>>> 58d38d7 (Give the list the keyboard, and let arrows on the tabs only move the focus)
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     event->accept();

@@ -10,6 +10,7 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QHeaderView>
+#include <QMenu>
 
 using namespace Qt::StringLiterals;
 
@@ -222,6 +223,9 @@ void AppDelegate::connectLists()
             tableView_sortDescriptorsDidChange(table);
         });
         connect(table, &ListTableView::filesDropped, this, &AppDelegate::addDroppedFiles);
+        connect(table, &ListTableView::rowsDropped, this, &AppDelegate::moveSelectedEntriesBefore);
+        connect(table, &ListTableView::menuWanted, this,
+            [this, table](const QPoint &place, bool forRows) { showListMenu(table, place, forRows); });
         if (row.open)
             connect(table, &ListTableView::rowOpened, this, row.open);
     }
@@ -240,6 +244,28 @@ void AppDelegate::connectLists()
         if (ListTableView *table = selectedTable())
             table->selectAll();
     });
+}
+
+void AppDelegate::showListMenu(ListTableView *table, const QPoint &place, bool forRows)
+{
+    QAction *const sort = ui->submenuSort->menuAction();
+    // Null: a line.
+    QList<QAction *> wanted{ ui->menuitemAddFiles, ui->menuitemAddFolder };
+    if (forRows) {
+        wanted = { ui->menuitemPlay, ui->menuitemDelete, nullptr, ui->menuitemMoveUp, ui->menuitemMoveDown,
+            nullptr, ui->menuitemSelectAll, sort, ui->menuitemClear };
+    } else if (table->model()->rowCount() > 0) {
+        wanted += { nullptr, ui->menuitemSelectAll, sort, ui->menuitemClear };
+    }
+    auto *const menu = new QMenu(table);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (QAction *action : std::as_const(wanted)) {
+        if (!action)
+            menu->addSeparator();
+        else if (action->isEnabled())
+            menu->addAction(action);
+    }
+    menu->popup(place);
 }
 
 void AppDelegate::arrangeColumns(ListTableView *table, int wideColumn)

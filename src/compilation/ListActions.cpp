@@ -46,12 +46,14 @@ QString namesOf(const QList<QUrl> &urls)
 } // namespace
 
 struct AppDelegate::Measuring {
-    explicit Measuring(const QList<QUrl> &files)
+    Measuring(const QList<QUrl> &files, int row)
         : urls(files)
+        , before(row)
     {
     }
 
     const QList<QUrl> urls;
+    const int before; ///< the row before which they go; -1: behind the last one
     QList<NodeMediaFile> records; ///< of the first of them; touched on the GUI thread only
     std::atomic<bool> stop = false;
 };
@@ -131,7 +133,7 @@ QList<QUrl> AppDelegate::mediaIn(ListKind kind, const QString &folder)
     return urls;
 }
 
-void AppDelegate::addMediaFiles(ListKind kind, const QList<QUrl> &urls)
+void AppDelegate::addMediaFiles(ListKind kind, const QList<QUrl> &urls, int before)
 {
     if (urls.isEmpty())
         return;
@@ -140,7 +142,7 @@ void AppDelegate::addMediaFiles(ListKind kind, const QList<QUrl> &urls)
     windowUniqueProgress->progressBar()->setRange(0, static_cast<int>(urls.size()));
     windowUniqueProgress->progressBar()->setValue(0);
     windowUniqueProgress->showItem(urls.first().fileName(), 1, urls.size());
-    const auto measuring = std::make_shared<Measuring>(urls);
+    const auto measuring = std::make_shared<Measuring>(urls, before);
     connect(windowUniqueProgress, &WorkSheet::stopRequested, this, [measuring] { measuring->stop = true; });
     windowUniqueProgress->beginSheet();
     // The task only measures. The records travel to the GUI thread one by one and go onto the list
@@ -158,7 +160,7 @@ void AppDelegate::addMediaFiles(ListKind kind, const QList<QUrl> &urls)
                 Qt::QueuedConnection);
         }
         QMetaObject::invokeMethod(
-            this, [this, kind, measuring] { mediaFilesAdded(kind, measuring->records); },
+            this, [this, kind, measuring] { mediaFilesAdded(kind, *measuring); },
             Qt::QueuedConnection);
     });
 }
@@ -176,19 +178,30 @@ void AppDelegate::mediaFileMeasured(Measuring &measuring, const NodeMediaFile &r
     Q_EMIT addingProgressed(done, count);
 }
 
-void AppDelegate::mediaFilesAdded(ListKind kind, const QList<NodeMediaFile> &records)
+void AppDelegate::mediaFilesAdded(ListKind kind, const Measuring &measuring)
 {
-    arrayMediaFiles.append(records);
-    forgetSorting();
     if (windowUniqueProgress)
         windowUniqueProgress->endSheet();
     windowUniqueProgress = nullptr;
-    if (kind == ListKind::Audio)
-        refreshTableAudioFiles();
-    else
-        refreshTableVideoFiles();
-    focusList();
+    insertRecords(kind == ListKind::Audio ? ui->tableviewAudioFiles : ui->tableviewVideoFiles,
+        arrayMediaFiles, measuring.records, measuring.before);
     Q_EMIT addingEnded();
+}
+
+template <class Record>
+void AppDelegate::insertRecords(
+    ListTableView *table, QList<Record> &list, const QList<Record> &records, int before)
+{
+    const qsizetype at = before < 0 ? list.size() : qMin(qsizetype(before), list.size());
+    QList<int> selected = table->selectedRows();
+    for (int &row : selected)
+        row += row >= at ? static_cast<int>(records.size()) : 0;
+    list = list.first(at) + records + list.sliced(at);
+    forgetSorting();
+    refreshTable(table);
+    table->selectRows(selected);
+    table->showRows(static_cast<int>(at), static_cast<int>(at + records.size()) - 1);
+    focusList();
 }
 
 void AppDelegate::OnActionAudioAddFiles()
@@ -221,12 +234,10 @@ void AppDelegate::OnActionDataAddFolder()
         addDataFolder(QDir::cleanPath(chosen.first().toLocalFile()));
 }
 
-void AppDelegate::addDataFolder(const QString &path)
+void AppDelegate::addDataFolder(const QString &path, int before)
 {
-    arrayDataFolders.append(compilation::folderRecord(path, folderSize(path)));
-    forgetSorting();
-    refreshTableDataFolders();
-    focusList();
+    insertRecords(ui->tableviewDataFolders, arrayDataFolders,
+        { compilation::folderRecord(path, folderSize(path)) }, before);
 }
 
 bool AppDelegate::listTakes(int tab, const QUrl &url) const
@@ -240,7 +251,7 @@ bool AppDelegate::listTakes(int tab, const QUrl &url) const
     return info.isFile() && accepted.contains(info.suffix(), Qt::CaseInsensitive);
 }
 
-void AppDelegate::addDroppedFiles(const QList<QUrl> &urls)
+void AppDelegate::addDroppedFiles(const QList<QUrl> &urls, int before)
 {
     const int tab = ui->tabviewMain->currentIndex();
     const ListKind kind = tab == 0 ? ListKind::Audio : ListKind::Video;
@@ -264,9 +275,9 @@ void AppDelegate::addDroppedFiles(const QList<QUrl> &urls)
     if (!unreadable.isEmpty())
         alert(Questions::unusableFiles(), Questions::unreadableNamesText() + u"\n\n"_s + namesOf(unreadable));
     if (tab != 2)
-        return addMediaFiles(kind, taken);
+        return addMediaFiles(kind, taken, before);
     for (const QUrl &url : std::as_const(taken))
-        addDataFolder(QDir::cleanPath(url.toLocalFile()));
+        addDataFolder(QDir::cleanPath(url.toLocalFile()), before < 0 ? before : before++);
 }
 
 template <class Record>
@@ -286,8 +297,8 @@ void AppDelegate::deleteSelected(ListTableView *table, QList<Record> &list)
         list = kept;
     }
     refreshTable(table);
-    if (!rows.isEmpty())
-        table->setCurrentRow(rows.first());
+    if (!rows.isEmpty() && !list.isEmpty())
+        table->selectRows({ qMin(rows.first(), static_cast<int>(list.size()) - 1) });
 }
 
 void AppDelegate::OnActionAudioDelete()

@@ -10,9 +10,15 @@ int ListStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const
     return isMargin ? room : QProxyStyle::pixelMetric(metric, option, widget);
 }
 
+/// Cells have their text a unit further in than the room beside it (PM_FocusFrameHMargin + 1).
+QRect ListStyle::textOf(const QStyleOptionHeader &heading)
+{
+    return heading.rect.adjusted(room + 1, 0, -room - 1, 0);
+}
+
 QRect ListStyle::markOf(const QStyleOptionHeader &heading)
 {
-    const QRect line = heading.rect.adjusted(room, 0, -room, 0);
+    const QRect line = textOf(heading);
     const int size = heading.fontMetrics.xHeight() + 2;
     const int text = heading.fontMetrics.horizontalAdvance(heading.text);
     const int behind = qMin(text + markRoom - size, line.width() - size);
@@ -32,7 +38,7 @@ void ListStyle::drawControl(
     painter->setClipRect(heading->rect);
     drawControl(CE_HeaderSection, heading, painter, widget);
     QStyleOptionHeaderV2 part(*heading);
-    part.rect.adjust(room, 0, -room, 0);
+    part.rect = textOf(*heading);
     drawControl(CE_HeaderLabel, &part, painter, widget);
     if (heading->sortIndicator != QStyleOptionHeader::None) {
         part.rect = markOf(*heading);

@@ -9,14 +9,16 @@
 class ListStyle : public QProxyStyle {
     Q_OBJECT
 public:
-    static constexpr int room = 8; ///< left and right of a text
-    static constexpr int markRoom = 20; ///< for the sort mark and what parts it from the text
+    static constexpr int room =
+        8; ///< left and right of the text of a cell; that of a heading stands above it
+    static constexpr int markRoom = 18; ///< for the sort mark and what parts it from the text
 
     int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
         const QWidget *widget) const override;
 
 private:
+    static QRect textOf(const QStyleOptionHeader &heading);
     static QRect markOf(const QStyleOptionHeader &heading);
 };
 

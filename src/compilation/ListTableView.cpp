@@ -2,13 +2,29 @@
 
 #include "compilation/ListHeader.h"
 
+#include <QContextMenuEvent>
+#include <QCoreApplication>
+#include <QDrag>
 #include <QDragEnterEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QScrollBar>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The MIME type of rows under way to another place in their list.
+QString rowsFormat()
+{
+    return u"application/x-corvalis-rows"_s;
+}
+
+} // namespace
 
 ListTableView::ListTableView(QWidget *parent)
     : QTableView(parent)
@@ -25,7 +41,7 @@ ListTableView::ListTableView(QWidget *parent)
     setTextElideMode(Qt::ElideMiddle);
     setTabKeyNavigation(false);
     setAcceptDrops(true);
-    setDragDropMode(DropOnly);
+    setDragDropMode(DragDrop);
     setDropIndicatorShown(false);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollMode(ScrollPerPixel);
@@ -79,12 +95,6 @@ void ListTableView::selectRows(const QList<int> &rows)
         selectionModel()->setCurrentIndex(model()->index(rows.last(), 0), QItemSelectionModel::NoUpdate);
 }
 
-void ListTableView::setCurrentRow(int row)
-{
-    const QModelIndex index = model()->index(qMin(row, model()->rowCount() - 1), 0);
-    selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
-}
-
 int ListTableView::lastSelectedRow() const
 {
     const QList<int> rows = selectedRows();
@@ -94,12 +104,49 @@ int ListTableView::lastSelectedRow() const
     return rows.isEmpty() ? -1 : rows.last();
 }
 
+void ListTableView::showRows(int first, int last)
+{
+    for (const int row : { last, first })
+        scrollTo(model()->index(row, qMax(0, currentIndex().column())));
+}
+
+void ListTableView::keepPlace(const std::function<void()> &change)
+{
+    const QList<int> selected = selectedRows();
+    const QModelIndex current = currentIndex();
+    const int place = verticalScrollBar()->value();
+    const bool scrolls = hasAutoScroll();
+    change();
+    setAutoScroll(false); // to the current row
+    selectRows(selected.first(std::ranges::lower_bound(selected, model()->rowCount()) - selected.begin()));
+    selectionModel()->setCurrentIndex(
+        model()->index(qMin(current.row(), model()->rowCount() - 1), current.column()),
+        QItemSelectionModel::NoUpdate);
+    setAutoScroll(scrolls);
+    updateGeometries(); // gives the scroll bar its range
+    verticalScrollBar()->setValue(place);
+}
+
+QModelIndex ListTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const int rows = model()->rowCount();
+    if (rows == 0 || (action != MoveHome && action != MoveEnd))
+        return QTableView::moveCursor(action, modifiers);
+    return model()->index(action == MoveHome ? 0 : rows - 1, qMax(0, currentIndex().column()));
+}
+
 void ListTableView::paintEvent(QPaintEvent *event)
 {
     QTableView::paintEvent(event);
-    if (!model() || model()->rowCount() > 0)
-        return;
     QPainter painter(viewport());
+    if (model() && model()->rowCount() == 0)
+        paintHint(painter);
+    if (m_dropPlace)
+        paintDropLine(painter);
+}
+
+void ListTableView::paintHint(QPainter &painter) const
+{
     QColor hint = palette().color(QPalette::Text);
     hint.setAlphaF(0.7F);
     painter.setPen(hint);
@@ -107,38 +154,167 @@ void ListTableView::paintEvent(QPaintEvent *event)
         viewport()->rect().adjusted(16, 16, -16, -16), Qt::AlignCenter | Qt::TextWordWrap, m_emptyHint);
 }
 
+/// A frame around the list, which says that it takes what is held over it, and a line between two rows.
+void ListTableView::paintDropLine(QPainter &painter) const
+{
+    constexpr int thickness = 2;
+    const QColor colour = palette().color(QPalette::Active, QPalette::Highlight);
+    painter.setPen(QPen(colour, thickness, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+    const int rows = model()->rowCount();
+    if (rows == 0)
+        return;
+    const int before = rowBefore(*m_dropPlace);
+    const int y = before < rows ? visualRect(model()->index(before, 0)).top()
+                                : visualRect(model()->index(rows - 1, 0)).bottom() + 1;
+    painter.fillRect(0, y - thickness / 2, viewport()->width(), thickness, colour);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(colour);
+    for (const int x : { 0, viewport()->width() })
+        painter.drawEllipse(QPoint(x, y), 2 * thickness, 2 * thickness);
+}
+
 void ListTableView::keyPressEvent(QKeyEvent *event)
 {
-    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && currentIndex().isValid())
-        Q_EMIT rowOpened();
+    const bool row = currentIndex().isValid();
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const bool nothingSelected = !selectionModel()->hasSelection();
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && row)
+        return Q_EMIT rowOpened();
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
+        return wantMenuFromKeyboard();
+    // The first row has the keyboard as soon as the list has it, but is not selected: that is the first step.
+    if (event->key() == Qt::Key_Down && plain && nothingSelected && currentIndex().row() <= 0)
+        return selectRow(0);
+    QTableView::keyPressEvent(event);
+    const bool toTheTop =
+        event->key() == Qt::Key_Up || event->key() == Qt::Key_Home || event->key() == Qt::Key_PageUp;
+    if (toTheTop && plain && nothingSelected && row)
+        selectRow(currentIndex().row());
+}
+
+void ListTableView::contextMenuEvent(QContextMenuEvent *event)
+{
+    event->accept();
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        wantMenuFromKeyboard();
     else
-        QTableView::keyPressEvent(event);
+        Q_EMIT menuWanted(event->globalPos(), indexAt(event->pos()).isValid());
+}
+
+/// Below the row that the menu is for, or in the corner of the list.
+void ListTableView::wantMenuFromKeyboard()
+{
+    const int row = lastSelectedRow();
+    if (row < 0)
+        return Q_EMIT menuWanted(viewport()->mapToGlobal(QPoint(8, 8)), false);
+    const QModelIndex index = model()->index(row, 0);
+    scrollTo(index);
+    Q_EMIT menuWanted(viewport()->mapToGlobal(visualRect(index).bottomLeft() + QPoint(8, 1)), true);
+}
+
+/// Tells this list from others and from those of another Corvalis.
+QByteArray ListTableView::ownMark() const
+{
+    return QByteArray::number(QCoreApplication::applicationPid()) + ' ' + objectName().toUtf8();
+}
+
+std::unique_ptr<QMimeData> ListTableView::selectedRowsData() const
+{
+    auto rows = std::make_unique<QMimeData>();
+    rows->setData(rowsFormat(), ownMark());
+    return rows;
+}
+
+/// The name of the row under way, or how many there are.
+QPixmap ListTableView::dragPicture() const
+{
+    const QList<int> rows = selectedRows();
+    const QString name = model()->index(rows.first(), 0).data().toString().simplified();
+    const QString text = rows.size() == 1 ? fontMetrics().elidedText(name, Qt::ElideMiddle, 300)
+                                          : tr("%1 rows").arg(rows.size());
+    const QSize size(fontMetrics().horizontalAdvance(text) + 24, fontMetrics().height() + 12);
+    QPixmap picture(size * devicePixelRatioF());
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    picture.fill(palette().color(QPalette::Active, QPalette::Highlight));
+    QPainter painter(&picture);
+    painter.setFont(font());
+    painter.setPen(palette().color(QPalette::Active, QPalette::HighlightedText));
+    painter.drawText(QRect(QPoint(), size), Qt::AlignCenter, text);
+    return picture;
+}
+
+void ListTableView::startDrag(Qt::DropActions)
+{
+    if (selectedRows().isEmpty())
+        return;
+    auto *const drag = new QDrag(this);
+    drag->setMimeData(selectedRowsData().release());
+    drag->setPixmap(dragPicture());
+    drag->exec(Qt::MoveAction);
 }
 
 // What is dropped stays where it lies. A file manager that offers to move it, and is told that this was
 // done, may remove it.
-bool ListTableView::takes(QDropEvent *event)
+bool ListTableView::takes(QDropEvent *event) const
 {
     const Qt::DropActions possible = event->possibleActions();
-    if (!event->mimeData()->hasUrls() || !(possible & (Qt::CopyAction | Qt::LinkAction)))
+    const bool ownRows = event->mimeData()->data(rowsFormat()) == ownMark();
+    if (!ownRows && (!event->mimeData()->hasUrls() || !(possible & (Qt::CopyAction | Qt::LinkAction))))
         return false;
-    event->setDropAction(possible & Qt::CopyAction ? Qt::CopyAction : Qt::LinkAction);
+    event->setDropAction(ownRows        ? Qt::MoveAction
+            : possible & Qt::CopyAction ? Qt::CopyAction
+                                        : Qt::LinkAction);
     event->accept();
     return true;
 }
 
+int ListTableView::rowBefore(const QPoint &place) const
+{
+    const int row = rowAt(place.y());
+    if (row < 0)
+        return model()->rowCount();
+    return place.y() <= visualRect(model()->index(row, 0)).center().y() ? row : row + 1;
+}
+
+void ListTableView::showWhere(QDropEvent *event)
+{
+    if (!takes(event))
+        return;
+    m_dropPlace = event->position().toPoint();
+    const int margin = autoScrollMargin();
+    if (!viewport()->rect().adjusted(0, margin, 0, -margin).contains(*m_dropPlace))
+        startAutoScroll();
+    viewport()->update();
+}
+
 void ListTableView::dragEnterEvent(QDragEnterEvent *event)
 {
-    takes(event);
+    showWhere(event);
 }
 
 void ListTableView::dragMoveEvent(QDragMoveEvent *event)
 {
-    takes(event);
+    showWhere(event);
+}
+
+void ListTableView::dragLeaveEvent(QDragLeaveEvent *)
+{
+    stopAutoScroll();
+    m_dropPlace.reset();
+    viewport()->update();
 }
 
 void ListTableView::dropEvent(QDropEvent *event)
 {
-    if (takes(event))
-        Q_EMIT filesDropped(event->mimeData()->urls());
+    const int before = rowBefore(event->position().toPoint());
+    stopAutoScroll();
+    m_dropPlace.reset();
+    viewport()->update();
+    if (!takes(event))
+        return;
+    if (event->mimeData()->hasUrls())
+        Q_EMIT filesDropped(event->mimeData()->urls(), before);
+    else
+        Q_EMIT rowsDropped(before);
 }

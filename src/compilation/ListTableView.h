@@ -4,8 +4,14 @@
 #include <QTableView>
 #include <QUrl>
 
-/// A table of whole rows that says in its middle how to begin while it is empty, and takes files
-/// and folders dropped on it.
+#include <functional>
+#include <memory>
+#include <optional>
+
+class QMimeData;
+
+/// A table of whole rows that says in its middle how to begin while it is empty. Files and folders can be
+/// dropped on it, and its own rows be dragged to another place; a line shows between which rows.
 class ListTableView : public QTableView {
     Q_OBJECT
     Q_PROPERTY(QString emptyHint READ emptyHint WRITE setEmptyHint)
@@ -26,26 +32,49 @@ public:
     QList<int> selectedRows() const;
     /// Replaces the selection with these rows, which are in ascending order.
     void selectRows(const QList<int> &rows);
-    /// Lets the keyboard go on from this row, or the last one where there are fewer, without selecting it.
-    void setCurrentRow(int row);
     /// The row selected last, -1 without a selection.
     int lastSelectedRow() const;
+    /// Scrolls as little as shows these rows, the first of them in any case.
+    void showRows(int first, int last);
+    /// Runs `change`, which makes the model say that any row may be another one, and keeps which rows are
+    /// selected, where the keyboard goes on, and what is scrolled to.
+    void keepPlace(const std::function<void()> &change);
+
+    /// What a drag of the selected rows carries. Only this list takes it.
+    std::unique_ptr<QMimeData> selectedRowsData() const;
 
 Q_SIGNALS:
-    void filesDropped(const QList<QUrl> &urls);
+    /// Files were let go before the row `before`; behind the last one it is the number of rows.
+    void filesDropped(const QList<QUrl> &urls, int before);
+    /// The selected rows were let go before the row `before`.
+    void rowsDropped(int before);
     /// A row was opened: double click or Enter.
     void rowOpened();
+    /// A context menu is wanted, at `place` on the screen: for the selected rows, or for the whole list.
+    void menuWanted(const QPoint &place, bool forRows);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void startDrag(Qt::DropActions supported) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 
 private:
-    static bool takes(QDropEvent *event);
+    QByteArray ownMark() const;
+    bool takes(QDropEvent *event) const;
+    void showWhere(QDropEvent *event);
+    int rowBefore(const QPoint &place) const;
+    void paintHint(QPainter &painter) const;
+    void paintDropLine(QPainter &painter) const;
+    QPixmap dragPicture() const;
+    void wantMenuFromKeyboard();
 
     QString m_emptyHint;
     int m_selectedColumn = -1;
+    std::optional<QPoint> m_dropPlace; ///< where in the viewport something is held that would be taken
 };

@@ -70,7 +70,7 @@ QColor AppDelegate::cellTextColour() const
 
 void AppDelegate::reloadTable(ListTableView *table)
 {
-    static_cast<ListTableModel *>(table->model())->reload();
+    table->keepPlace([table] { static_cast<ListTableModel *>(table->model())->reload(); });
 }
 
 void AppDelegate::refreshTableAudioFiles()
@@ -182,8 +182,25 @@ void AppDelegate::moveSelectedEntries(int by)
     for (const int row : std::as_const(selected))
         order.swapItemsAt(row, row + by);
     std::ranges::sort(selected);
+    showReordered(table, order, selected);
+}
+
+void AppDelegate::moveSelectedEntriesBefore(int row)
+{
+    ListTableView *const table = selectedTable();
+    if (!table || table->selectedRows().isEmpty())
+        return;
+    const qsizetype rows = table->model()->rowCount();
+    const QList<qsizetype> order = compilation::orderWithRowsBefore(rows, table->selectedRows(), row);
+    if (!std::ranges::is_sorted(order))
+        showReordered(table, order, table->selectedRows());
+}
+
+void AppDelegate::showReordered(ListTableView *table, const QList<qsizetype> &order, QList<int> selected)
+{
     reorderList(table, order, selected);
     forgetSorting();
     refreshTable(table);
     table->selectRows(selected);
+    table->showRows(selected.first(), selected.last());
 }

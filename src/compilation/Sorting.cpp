@@ -4,6 +4,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <functional>
 #include <future>
 #include <iterator>
 #include <numeric>
@@ -75,6 +76,18 @@ QList<qsizetype> sortedOrder(const QStringList &texts, bool ascending)
     order.reserve(texts.size());
     std::ranges::merge(head.order, tail.order, std::back_inserter(order),
         [&](qsizetype a, qsizetype b) { return precedes(key(a), key(b), ascending); });
+    return order;
+}
+
+QList<qsizetype> orderWithRowsBefore(qsizetype count, const QList<int> &rows, qsizetype before)
+{
+    QList<qsizetype> order(count);
+    std::iota(order.begin(), order.end(), qsizetype(0));
+    const auto isMoved = [&rows](qsizetype position) { return std::ranges::binary_search(rows, position); };
+    // Those before the place give way to its front, those behind it to its back.
+    const auto place = order.begin() + before;
+    std::stable_partition(order.begin(), place, std::not_fn(isMoved));
+    std::stable_partition(place, order.end(), isMoved);
     return order;
 }
 

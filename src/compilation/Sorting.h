@@ -12,6 +12,10 @@ namespace compilation {
 /// Descending compares the second with the first.
 QList<qsizetype> sortedOrder(const QStringList &texts, bool ascending);
 
+/// The order of `count` positions in which `rows`, which are ascending, stand together before the one that
+/// was at `before`; at the end where it is `count`.
+QList<qsizetype> orderWithRowsBefore(qsizetype count, const QList<int> &rows, qsizetype before);
+
 /// `list` in the given order of its positions, each of which occurs once.
 template <class T>
 QList<T> reordered(QList<T> list, const QList<qsizetype> &order)

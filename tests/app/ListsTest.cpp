@@ -11,6 +11,7 @@
 #include "writing/StatusSheets.h"
 
 #include <QAbstractItemModelTester>
+#include <QMenu>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QRegularExpression>
@@ -112,6 +113,21 @@ private Q_SLOTS:
     void playNothing();
     void playPanelsOfADataTabAreOff();
     void movingRows();
+    void selectionAfterDeleting();
+    void selectionSurvives();
+    void rowsStayInView();
+    void keysGoByRows();
+    void rowsAreDragged_data();
+    void rowsAreDragged();
+    void aDragBeginsOnAnyRow();
+    void draggedToWhereTheyAre();
+    void dragOfOtherRows();
+    void dropBetweenRows();
+    void dropBetweenFolders();
+    void theDropLine();
+    void contextMenu_data();
+    void contextMenu();
+    void contextMenuActs();
     void dropOnAudio();
     void dropOnData();
     void dropOfAnAlbum();
@@ -129,6 +145,11 @@ private:
     /// listed.
     void addFiles(const char *button, const QStringList &names);
     void addNumbered(int count);
+    void listNumbered(int count); ///< puts them on the list as if added
+    void select(const QList<int> &rows) const;
+    /// Lets something go over the audio list, above the middle of a row or below the last.
+    bool letGo(const QMimeData *data, int before, Qt::DropActions actions) const;
+    QPoint placeBefore(int row) const;
     bool awaitAdded() const
     {
         return QTest::qWaitFor([this] { return !m_app->controller->windowUniqueProgress; }, 20'000);
@@ -708,7 +729,6 @@ void ListsTest::deleting()
     QCOMPARE(audio()->currentIndex().row(),
         qMin(*std::ranges::min_element(rows), static_cast<int>(left.size()) - 1));
     QCOMPARE(m_app->controller->i_Audio_Total_Duration_in_Seconds, 205 * left.size());
-    QVERIFY(audio()->selectedRows().isEmpty());
 }
 
 void ListsTest::deletingFoldersWithTheKey()
@@ -844,6 +864,340 @@ void ListsTest::movingRows()
     person::press(QKeySequence(u"Alt+Down"_s));
     QTRY_COMPARE(column(audio(), 0), QStringList({ u"0.mp3"_s, u"2.mp3"_s, u"3.mp3"_s, u"1.mp3"_s }));
     QCOMPARE(audio()->selectedRows(), QList<int>({ 1, 2 }));
+}
+
+void ListsTest::listNumbered(int count)
+{
+    m_app->controller->arrayMediaFiles.clear();
+    for (int i = 0; i < count; ++i) {
+        m_app->controller->arrayMediaFiles.append(NodeMediaFile());
+        m_app->controller->arrayMediaFiles.last().s_File_Name_With_Extension = QString::number(i);
+    }
+    m_app->controller->refreshTableAudioFiles();
+}
+
+void ListsTest::select(const QList<int> &rows) const
+{
+    audio()->clearSelection();
+    for (const int row : rows)
+        person::clickRow(audio(), audio()->model()->index(row, 0), Qt::ControlModifier);
+}
+
+QPoint ListsTest::placeBefore(int row) const
+{
+    const int rows = audio()->model()->rowCount();
+    const QRect last = audio()->visualRect(audio()->model()->index(qMin(row, rows - 1), 0));
+    return { 40, row < rows ? last.top() + 2 : last.bottom() - 2 };
+}
+
+bool ListsTest::letGo(const QMimeData *data, int before, Qt::DropActions actions) const
+{
+    const QPoint place = placeBefore(before);
+    QDragEnterEvent enter(place, actions, data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(audio()->viewport(), &enter);
+    QDragMoveEvent move(place, actions, data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(audio()->viewport(), &move);
+    if (!move.isAccepted())
+        return false;
+    QDropEvent drop(place, actions, data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(audio()->viewport(), &drop);
+    return drop.isAccepted();
+}
+
+void ListsTest::selectionAfterDeleting()
+{
+    listNumbered(5);
+    select({ 1, 3 });
+    person::press(QKeySequence(Qt::Key_Delete));
+    QTRY_COMPARE(column(audio(), 0), QStringList({ u"0"_s, u"2"_s, u"4"_s }));
+    QCOMPARE(audio()->selectedRows(), QList<int>{ 1 });
+    for (const auto &left : { QStringList{ u"0"_s, u"4"_s }, QStringList{ u"0"_s }, QStringList() }) {
+        person::press(QKeySequence(Qt::Key_Delete));
+        QTRY_COMPARE(column(audio(), 0), left);
+        QCOMPARE(audio()->selectedRows(), left.isEmpty() ? QList<int>() : QList<int>{ int(left.size()) - 1 });
+    }
+}
+
+void ListsTest::selectionSurvives()
+{
+    addNumbered(4);
+    select({ 1, 2 });
+    click("btnMP3DVD");
+    QCOMPARE(audio()->selectedRows(), QList<int>({ 1, 2 }));
+    makeFile(media(u"more.mp3"_s));
+    addFiles("toolbar_btn_Audio_Add_Files", { u"more.mp3"_s });
+    QCOMPARE(audio()->selectedRows(), QList<int>({ 1, 2 }));
+    QMimeData data;
+    data.setUrls({ QUrl::fromLocalFile(media(u"more.mp3"_s)) });
+    QVERIFY(letGo(&data, 2, Qt::CopyAction));
+    QVERIFY(awaitAdded());
+    QCOMPARE(audio()->selectedRows(), QList<int>({ 1, 3 })); // still the same files
+    click("toolbar_btn_Audio_Clear");
+    QCOMPARE(audio()->selectedRows(), QList<int>());
+    addFiles("toolbar_btn_Audio_Add_Files", { u"more.mp3"_s });
+    QCOMPARE(audio()->selectedRows(), QList<int>());
+}
+
+void ListsTest::rowsStayInView()
+{
+    listNumbered(200);
+    const auto isInView = [this](int row) {
+        const QRect place = audio()->visualRect(audio()->model()->index(row, 0));
+        return audio()->viewport()->rect().contains(place.center());
+    };
+    QVERIFY(isInView(0) && !isInView(199));
+    makeFile(media(u"new.mp3"_s));
+    addFiles("toolbar_btn_Audio_Add_Files", { u"new.mp3"_s });
+    QVERIFY(isInView(200));
+    select({ 200 });
+    m_app->controller->moveSelectedEntriesBefore(0);
+    QVERIFY(isInView(0) && !isInView(200));
+    for (int presses = 0; presses < 40; ++presses)
+        person::press(QKeySequence(u"Alt+Down"_s));
+    QTRY_COMPARE(audio()->selectedRows(), QList<int>{ 40 });
+    QVERIFY(isInView(40));
+    // What is shown does not jump where nothing was added or moved.
+    audio()->scrollTo(audio()->model()->index(120, 0), QAbstractItemView::PositionAtTop);
+    QVERIFY(isInView(121) && !isInView(40));
+    click("btnMP3CD");
+    QVERIFY(isInView(120) && !isInView(40));
+}
+
+void ListsTest::keysGoByRows()
+{
+    listNumbered(100);
+    audio()->setFocus();
+    struct Step {
+        QKeySequence keys;
+        QList<int> selected;
+    };
+    const int page = audio()->viewport()->height() / audio()->rowHeight(0);
+    QVERIFY(audio()->selectedRows().isEmpty());
+    for (const Step &step : { Step{ Qt::Key_Down, { 0 } }, Step{ Qt::Key_Down, { 1 } },
+             Step{ Qt::Key_End, { 99 } }, Step{ Qt::Key_Up, { 98 } }, Step{ Qt::Key_Home, { 0 } },
+             Step{ Qt::SHIFT | Qt::Key_Down, { 0, 1 } }, Step{ Qt::Key_Home, { 0 } } }) {
+        person::press(step.keys);
+        QCOMPARE(audio()->selectedRows(), step.selected);
+    }
+    person::press(QKeySequence(Qt::Key_PageDown));
+    const int down = audio()->selectedRows().value(0);
+    QVERIFY2(
+        qAbs(down - page) <= 1 && audio()->selectedRows().size() == 1, qPrintable(QString::number(down)));
+    person::press(QKeySequence(Qt::Key_PageUp));
+    QCOMPARE(audio()->selectedRows(), QList<int>{ 0 });
+    person::press(QKeySequence(Qt::SHIFT | Qt::Key_End));
+    QCOMPARE(audio()->selectedRows().size(), 100);
+    // The first key that goes up also begins at the first row.
+    audio()->clearSelection();
+    audio()->setCurrentIndex({});
+    listNumbered(3);
+    click("btnMP3CD");
+    audio()->setFocus();
+    person::press(QKeySequence(Qt::Key_Up));
+    QCOMPARE(audio()->selectedRows(), QList<int>{ 0 });
+}
+
+void ListsTest::rowsAreDragged_data()
+{
+    QTest::addColumn<QList<int>>("rows");
+    QTest::addColumn<int>("before");
+    QTest::addColumn<QString>("order");
+    QTest::addColumn<QList<int>>("selected");
+    QTest::newRow("up") << QList<int>{ 3 } << 1 << u"03124"_s << QList<int>{ 1 };
+    QTest::newRow("down") << QList<int>{ 1 } << 4 << u"02314"_s << QList<int>{ 3 };
+    QTest::newRow("to the top") << QList<int>{ 4 } << 0 << u"40123"_s << QList<int>{ 0 };
+    QTest::newRow("to the end") << QList<int>{ 0 } << 5 << u"12340"_s << QList<int>{ 4 };
+    QTest::newRow("several") << QList<int>{ 0, 1 } << 4 << u"23014"_s << QList<int>{ 2, 3 };
+    QTest::newRow("apart") << QList<int>{ 0, 2, 4 } << 2 << u"10243"_s << QList<int>{ 1, 2, 3 };
+    QTest::newRow("apart, to the end") << QList<int>{ 0, 3 } << 5 << u"12403"_s << QList<int>{ 3, 4 };
+}
+
+void ListsTest::rowsAreDragged()
+{
+    QFETCH(QList<int>, rows);
+    QFETCH(int, before);
+    listNumbered(5);
+    select(rows);
+    QVERIFY(letGo(audio()->selectedRowsData().get(), before, Qt::MoveAction));
+    QTEST(column(audio(), 0).join(QString()), "order");
+    QTEST(audio()->selectedRows(), "selected");
+}
+
+// A press that moves carries the rows and does not select those that it comes over.
+void ListsTest::aDragBeginsOnAnyRow()
+{
+    listNumbered(6);
+    select({ 1, 2 });
+    QWindow *const window = m_app->window->windowHandle();
+    const auto place = [this](int row) {
+        const QRect cell = audio()->visualRect(audio()->model()->index(row, 0));
+        return audio()->viewport()->mapTo(m_app->window.get(), cell.center());
+    };
+    for (const auto &[pressed, selected] :
+        { std::pair(2, QList<int>{ 1, 2 }), std::pair(4, QList<int>{ 4 }) }) {
+        QTest::mousePress(window, Qt::LeftButton, {}, place(pressed));
+        for (const int row : { 3, 4, 5 })
+            QTest::mouseMove(window, place(row));
+        QCOMPARE(audio()->selectedRows(), selected);
+        QTest::mouseRelease(window, Qt::LeftButton, {}, place(5));
+    }
+}
+
+void ListsTest::draggedToWhereTheyAre()
+{
+    listNumbered(4);
+    person::clickHeading(audio(), 0);
+    select({ 1, 2 });
+    QSignalSpy reloads(audio()->model(), &QAbstractItemModel::modelReset);
+    for (const int before : { 1, 2, 3 })
+        QVERIFY(letGo(audio()->selectedRowsData().get(), before, Qt::MoveAction));
+    QCOMPARE(reloads.size(), 0);
+    QVERIFY(audio()->horizontalHeader()->isSortIndicatorShown());
+    QVERIFY(letGo(audio()->selectedRowsData().get(), 0, Qt::MoveAction));
+    QVERIFY(!audio()->horizontalHeader()->isSortIndicatorShown());
+}
+
+void ListsTest::dragOfOtherRows()
+{
+    listNumbered(3);
+    select({ 0 });
+    const auto other = table("tableviewVideoFiles")->selectedRowsData();
+    QVERIFY(!letGo(other.get(), 2, Qt::MoveAction));
+    QMimeData text;
+    text.setText(u"words"_s);
+    QVERIFY(!letGo(&text, 2, Qt::CopyAction | Qt::MoveAction));
+    QCOMPARE(column(audio(), 0).join(QString()), u"012"_s);
+}
+
+void ListsTest::dropBetweenRows()
+{
+    addNumbered(3);
+    QMimeData data;
+    for (const auto &name : { u"b.mp3"_s, u"a.mp3"_s })
+        makeFile(media(name));
+    data.setUrls({ QUrl::fromLocalFile(media(u"b.mp3"_s)), QUrl::fromLocalFile(media(u"a.mp3"_s)) });
+    QVERIFY(letGo(&data, 1, Qt::CopyAction));
+    QVERIFY(awaitAdded());
+    QStringList expected{ u"0.mp3"_s, u"b.mp3"_s, u"a.mp3"_s, u"1.mp3"_s, u"2.mp3"_s };
+    QCOMPARE(column(audio(), 0), expected);
+    QVERIFY(letGo(&data, 5, Qt::CopyAction));
+    QVERIFY(awaitAdded());
+    expected += { u"b.mp3"_s, u"a.mp3"_s };
+    QCOMPARE(column(audio(), 0), expected);
+}
+
+void ListsTest::dropBetweenFolders()
+{
+    showTab(2);
+    for (const auto &name : { u"1"_s, u"2"_s, u"3"_s, u"4"_s })
+        QDir().mkpath(media(name));
+    m_app->controller->addDataFolder(media(u"1"_s));
+    m_app->controller->addDataFolder(media(u"4"_s));
+    m_app->controller->addDroppedFiles(
+        { QUrl::fromLocalFile(media(u"2"_s)), QUrl::fromLocalFile(media(u"3"_s)) }, 1);
+    QCOMPARE(column(table("tableviewDataFolders"), 0),
+        QStringList({ media(u"1"_s), media(u"2"_s), media(u"3"_s), media(u"4"_s) }));
+}
+
+void ListsTest::theDropLine()
+{
+    listNumbered(4);
+    select({ 0 });
+    const auto picture = [this] { return audio()->viewport()->grab().toImage(); };
+    const auto isLine = [this](const QImage &image, int row) {
+        const int y = audio()->visualRect(audio()->model()->index(row, 0)).top();
+        const QRgb line = audio()->palette().color(QPalette::Active, QPalette::Highlight).rgb();
+        return image.pixel(300, y) == line && image.pixel(700, y) == line;
+    };
+    const QImage before = picture();
+    const auto data = audio()->selectedRowsData();
+    for (const int row : { 2, 3 }) {
+        QDragEnterEvent enter(placeBefore(row), Qt::MoveAction, data.get(), Qt::LeftButton, {});
+        QCoreApplication::sendEvent(audio()->viewport(), &enter);
+        QDragMoveEvent move(placeBefore(row), Qt::MoveAction, data.get(), Qt::LeftButton, {});
+        QCoreApplication::sendEvent(audio()->viewport(), &move);
+        QVERIFY(isLine(picture(), row));
+        QVERIFY(!isLine(picture(), 5 - row));
+    }
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(audio()->viewport(), &leave);
+    QCOMPARE(picture(), before);
+    // An empty list shows that it would take files.
+    listNumbered(0);
+    const QImage empty = picture();
+    QMimeData files;
+    files.setUrls({ QUrl::fromLocalFile(u"/x/y.mp3"_s) });
+    QDragEnterEvent enter({ 50, 50 }, Qt::CopyAction, &files, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(audio()->viewport(), &enter);
+    QVERIFY(picture() != empty);
+    QDropEvent drop({ 50, 50 }, Qt::MoveAction, data.get(), Qt::LeftButton, {});
+    QCoreApplication::sendEvent(audio()->viewport(), &drop);
+    QCOMPARE(picture(), empty);
+}
+
+void ListsTest::contextMenu_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("on"); // -1: below the rows
+    QTest::addColumn<QStringList>("items");
+    const QStringList add{ u"Add Files…"_s, u"Add Folder…"_s };
+    const QStringList all{ u"Select All"_s, u"Sort By"_s, u"Clear List"_s };
+    const QStringList row{ u"Delete"_s, u"Move Up"_s, u"Move Down"_s };
+    QTest::newRow("empty list") << 0 << 0 << -1 << add;
+    QTest::newRow("row") << 0 << 3 << 1 << QStringList(u"Play"_s) + row + all;
+    QTest::newRow("below") << 1 << 2 << -1 << add + all;
+    QTest::newRow("no folder") << 2 << 0 << -1 << QStringList(u"Add Folder…"_s);
+    QTest::newRow("folder") << 2 << 2 << 0 << row + all;
+}
+
+void ListsTest::contextMenu()
+{
+    QFETCH(int, tab);
+    QFETCH(int, rows);
+    QFETCH(int, on);
+    QFETCH(QStringList, items);
+    showTab(tab);
+    m_app->controller->arrayMediaFiles = QList<NodeMediaFile>(rows);
+    m_app->controller->arrayDataFolders = QList<NodeDataFolder>(rows);
+    ListTableView *list = m_app->controller->selectedTable();
+    m_app->controller->refreshTable(list);
+    const auto offered = [&] {
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QStringList texts;
+        for (const QAction *action : menu ? menu->actions() : QList<QAction *>()) {
+            if (!action->isSeparator() && action->isVisible())
+                texts.append(action->text().remove(u'&'));
+        }
+        if (menu)
+            menu->close();
+        return texts;
+    };
+    const QPoint place = on < 0 ? QPoint(200, list->viewport()->height() - 5)
+                                : list->visualRect(list->model()->index(on, 0)).center();
+    if (on >= 0)
+        person::clickRow(list, list->model()->index(on, 0));
+    QContextMenuEvent mouse(QContextMenuEvent::Mouse, place, list->viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(list->viewport(), &mouse);
+    QCOMPARE(offered(), items);
+    list->setFocus();
+    person::press(QKeySequence(Qt::SHIFT | Qt::Key_F10));
+    QCOMPARE(offered(), items);
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QCoreApplication::sendEvent(list, &key);
+    QCOMPARE(offered(), items);
+}
+
+void ListsTest::contextMenuActs()
+{
+    listNumbered(3);
+    select({ 1 });
+    person::press(QKeySequence(Qt::SHIFT | Qt::Key_F10));
+    const QPointer<QWidget> menu = QApplication::activePopupWidget();
+    QVERIFY(menu);
+    QTest::keyClick(menu, Qt::Key_D);
+    QTRY_COMPARE(column(audio(), 0).join(QString()), u"02"_s);
+    QTRY_VERIFY(!menu);
 }
 
 void ListsTest::dropOnAudio()

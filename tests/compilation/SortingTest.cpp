@@ -26,6 +26,7 @@ private Q_SLOTS:
     void sortsByTheLocaleForSorting();
     void keepsTheOrderOfEqualTexts();
     void reordersRecords();
+    void rowsGoBefore();
     void sortsLongLists();
     void keepsTheOrderOfEqualTextsInLongLists();
 };
@@ -121,6 +122,25 @@ void SortingTest::reordersRecords()
 {
     QCOMPARE(compilation::reordered(QList<int>{ 10, 20, 30 }, { 2, 0, 1 }), (QList<int>{ 30, 10, 20 }));
     QCOMPARE(compilation::reordered(QList<int>{}, {}), QList<int>());
+}
+
+void SortingTest::rowsGoBefore()
+{
+    struct Row {
+        QList<int> rows;
+        qsizetype before;
+        QList<qsizetype> order;
+    };
+    const Row rows[] = {
+        { {}, 1, { 0, 1, 2, 3 } },
+        { { 2 }, 0, { 2, 0, 1, 3 } },
+        { { 0 }, 4, { 1, 2, 3, 0 } },
+        { { 0, 3 }, 2, { 1, 0, 3, 2 } },
+        { { 1, 2 }, 2, { 0, 1, 2, 3 } },
+        { { 0, 1, 2, 3 }, 1, { 0, 1, 2, 3 } },
+    };
+    for (const Row &row : rows)
+        QCOMPARE(compilation::orderWithRowsBefore(4, row.rows, row.before), row.order);
 }
 
 void SortingTest::sortsLongLists()

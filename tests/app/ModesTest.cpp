@@ -193,7 +193,7 @@ void ModesTest::sheetOpensFrom()
     QVERIFY(controller().windowNewDisc);
     QVERIFY(controller().windowNewDisc->isVisible());
     QCOMPARE(controller().windowNewDisc->windowModality(), Qt::WindowModal);
-    QCOMPARE(controller().windowNewDisc->parentWidget(), m_app->window.get());
+    QCOMPARE(controller().windowNewDisc->window(), m_app->window.get());
     QCOMPARE(radiosOn(), QList<int>(1, 1));
 }
 

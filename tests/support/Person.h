@@ -107,7 +107,7 @@ inline void drop(const QWidget *widget, const QList<QUrl> &urls)
 [[nodiscard]] inline bool awaitKeyboard(const QWidget *window)
 {
     return QTest::qWaitFor(
-        [window] { return QGuiApplication::focusWindow() == window->windowHandle(); }, patience);
+        [window] { return QGuiApplication::focusWindow() == window->window()->windowHandle(); }, patience);
 }
 
 /// Types on the keyboard, into whatever window has it. Where no window manager hands the keyboard back after

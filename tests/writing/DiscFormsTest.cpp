@@ -1,7 +1,8 @@
 #include "writing/DiscForms.h"
 
 #include "support/ScratchFolder.h"
-#include "writing/Window_Data_Copy_Folders.h"
+#include "writing/FolderGathering.h"
+#include "writing/Names.h"
 
 #include <QTest>
 
@@ -150,7 +151,7 @@ void DiscFormsTest::findsAFreeFolder()
             support::makeFolder(scratch / entry.toStdString());
     }
     const QString folder = QString::fromStdString(scratch.path());
-    QCOMPARE(Window_Data_Copy_Folders::copyDestination(folder, name), folder + destination);
+    QCOMPARE(writing::FolderGathering::copyDestination(folder, name), folder + destination);
 }
 
 QTEST_GUILESS_MAIN(DiscFormsTest)

@@ -34,6 +34,10 @@ Result<std::unique_ptr<DiscData>> FolderContent::read(const std::string &folder,
     Result<image::IsoImage> image = image::IsoImage::fromFolder(folder, isoOptions(stop));
     if (!image)
         return readingError(image.error(), stop);
+    if (image->isEmpty())
+        return Error{ Exit::failed,
+            "The folder " + engine::quoted(folder)
+                + " is empty: put something into it, or name another folder." };
     if (options.note)
         for (const std::string &note : image->notes())
             options.note(note);

@@ -139,6 +139,12 @@ std::uint32_t IsoImage::fileCount() const
     return static_cast<std::uint32_t>(m_stream->tree.contents().size());
 }
 
+bool IsoImage::isEmpty() const
+{
+    constexpr std::size_t onlyTheRoot = 1;
+    return m_stream->tree.entries().size() == onlyTheRoot;
+}
+
 const std::vector<std::string> &IsoImage::notes() const
 {
     return m_stream->notes;

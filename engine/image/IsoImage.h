@@ -54,6 +54,9 @@ public:
     /// Number of files that hold data, each counted once whatever its number of links.
     std::uint32_t fileCount() const;
 
+    /// True when there is nothing in the folder: no file, no folder, no link.
+    bool isEmpty() const;
+
     /// What was left out or stored under another name: plain sentences, one line each.
     const std::vector<std::string> &notes() const;
 

@@ -153,7 +153,13 @@ private Q_SLOTS:
     void aFolderWithoutTracks()
     {
         QVERIFY(m_drutil->insert(u"cd-r"_s));
-        QCOMPARE((*m_drutil)({ u"burn"_s, u"-audio"_s, source() }).exit, 1);
+        const Ran empty = (*m_drutil)({ u"burn"_s, u"-audio"_s, source() });
+        QCOMPARE(empty.exit, 1);
+        QVERIFY2(empty.err.contains(u"holds no WAVE file: "_s), qPrintable(empty.err));
+        addTrack(u"cover.jpg"_s, "a picture", 1);
+        const Ran other = (*m_drutil)({ u"burn"_s, u"-audio"_s, source() });
+        QCOMPARE(other.exit, 1);
+        QVERIFY2(other.err.contains(u"holds no WAVE file: "_s), qPrintable(other.err));
         QVERIFY(m_drutil->state().contains("state=blank"));
     }
 

@@ -236,6 +236,33 @@ private Q_SLOTS:
         QVERIFY(m_drutil->state().contains("state=blank"));
     }
 
+    void anEmptyFolderIsRefused()
+    {
+        for (const auto &kind : { u"cd-r"_s, u"dvd+rw"_s }) {
+            QVERIFY(m_drutil->insert(kind));
+            const Ran ran = (*m_drutil)({ u"burn"_s, source() });
+            QCOMPARE(ran.exit, 1);
+            QVERIFY2(ran.err.contains(u"/source\" is empty: put something into it"_s), qPrintable(ran.err));
+            QVERIFY(m_drutil->state().contains("state=blank"));
+            QVERIFY(!QFile::exists(disc()));
+        }
+        // A folder is something.
+        QVERIFY(QDir().mkpath(source() + u"/inner"_s));
+        QCOMPARE((*m_drutil)({ u"burn"_s, source() }).exit, 0);
+    }
+
+    void anEmptyFolderDoesNotEraseADisc()
+    {
+        put((source() + u"/file"_s).toStdString(), "content");
+        QVERIFY(m_drutil->insert(u"cd-rw"_s));
+        QCOMPARE((*m_drutil)({ u"burn"_s, source() }).exit, 0);
+        const QByteArray written = readFile(disc());
+        QVERIFY(QDir(source()).remove(u"file"_s));
+        QCOMPARE((*m_drutil)({ u"burn"_s, source() }).exit, 1);
+        QCOMPARE((*m_drutil)({ u"burn"_s, u"-audio"_s, source() }).exit, 1);
+        QCOMPARE(readFile(disc()), written);
+    }
+
     void comparingCanBeLeftOut()
     {
         put((source() + u"/file"_s).toStdString(), "content");

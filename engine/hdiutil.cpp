@@ -59,7 +59,7 @@ Result<void> makeImage(const std::string &folder, const std::string &path, Sessi
     if (!image)
         return image.error();
     for (const std::string &note : image->notes())
-        session.say(note);
+        session.note(note);
     size = std::uint64_t{ image->blockCount() } * image::blockSize;
     auto file = image::NewFile::create(path, size);
     if (!file)

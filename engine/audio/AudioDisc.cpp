@@ -106,7 +106,7 @@ Result<std::vector<Candidate>> listCandidates(const std::string &folder, std::ve
         if (maybe && !S_ISDIR(info.st_mode))
             candidates.push_back({ info.st_mtim.tv_sec, info.st_mtim.tv_nsec, name });
         else
-            notes.push_back(quoted(folder + '/' + name) + " is left out: only WAVE files become tracks.");
+            notes.push_back(quoted(name) + " is left out: only WAVE files become tracks.");
         errno = 0;
     }
     if (errno != 0)
@@ -153,6 +153,9 @@ Result<AudioDisc> readAudioFolder(const std::string &folder)
             return wave.error();
         const std::uint64_t sectors = sectorsFor(wave->size);
         total += sectors;
+        if (wave->size < std::uint64_t{ shortestTrack } * sectorSize)
+            disc.notes.push_back(quoted(candidate.name)
+                + " is shorter than four seconds: silence fills the track up to that.");
         disc.tracks.push_back({ path, *wave, static_cast<std::uint32_t>(sectors) });
     }
     if (total > mostSectors)

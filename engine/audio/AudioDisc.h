@@ -28,7 +28,8 @@ struct AudioTrack {
 
 struct AudioDisc {
     std::vector<AudioTrack> tracks;
-    std::vector<std::string> notes; ///< files of the folder that are no tracks, one sentence each
+    std::vector<std::string>
+        notes; ///< files that are left out or changed, a sentence each, by their names in the folder
 
     /// Sectors of all tracks and of the pause before the first.
     std::uint32_t sectorCount() const;

@@ -3,6 +3,7 @@
 #include "audio/AudioDisc.h"
 #include "drive/BlockDigests.h"
 #include "drive/DiscContent.h"
+#include "drive/WriteFailure.h"
 #include "medium/Medium.h"
 
 #include <algorithm>
@@ -12,10 +13,10 @@ namespace engine::drive {
 
 namespace {
 
-void say(const BurnOptions &options, const std::string &line)
+void tell(const std::function<void(const std::string &)> &listener, const std::string &sentence)
 {
-    if (options.note)
-        options.note(line);
+    if (listener)
+        listener(sentence);
 }
 
 void preparing(const BurnOptions &options)
@@ -73,7 +74,7 @@ Result<void> eraseFirst(
 {
     if (medium.state == MediumState::blank || !canErase(medium))
         return {};
-    say(options, "The disc is not blank; it is erased first.");
+    tell(options.say, "The disc is not blank; it is erased first.");
     return eraseUntilStopped(lease, EraseMode::quick, driveName, options.control);
 }
 
@@ -100,7 +101,7 @@ Result<std::unique_ptr<Lease>> openForWriting(Drive &drive, Medium &medium, cons
         return lease;
     Result<Medium> found = (*lease)->medium();
     if (!found)
-        return found.error();
+        return withState(found.error(), drive.name(), Left::asBefore);
     medium = std::move(found).value();
     if (auto writable = checkWritable(medium, drive.name()); !writable)
         return writable.error();
@@ -128,9 +129,10 @@ Result<void> writeAndVerify(
         return toldIfStopped(driveName, options.control);
     if (const int signal = options.control.stop.signal())
         return stoppedUncompared(signal, driveName);
-    if (auto loaded = lease.reload(); !loaded)
-        return loaded;
-    return verify(lease, sent, driveName, options.control);
+    auto compared = lease.reload();
+    if (compared)
+        compared = verify(lease, sent, driveName, options.control);
+    return compared ? compared : withState(compared.error(), driveName, Left::closed);
 }
 
 Result<void> burnContent(
@@ -143,9 +145,9 @@ Result<void> burnContent(
     preparing(options);
     const Result<Content> data = prepare();
     if (!data)
-        return data.error();
+        return withState(data.error(), drive.name(), Left::asBefore);
     if (auto fits = checkFits((*data)->blocks(), medium, drive.name()); !fits)
-        return fits;
+        return withState(fits.error(), drive.name(), Left::asBefore);
     return eraseAndWrite(**lease, medium, drive.name(), options,
         [&] { return writeAndVerify(**lease, **data, drive.name(), options); });
 }
@@ -184,11 +186,11 @@ Result<void> burnAudioFolder(Drive &drive, const std::string &folder, const Burn
     preparing(options);
     const Result<audio::AudioDisc> disc = audio::readAudioFolder(folder);
     if (!disc)
-        return disc.error();
+        return withState(disc.error(), drive.name(), Left::asBefore);
     for (const std::string &line : disc->notes)
-        say(options, line);
+        tell(options.note, line);
     if (auto fits = checkAudioMedium(medium, *disc, drive.name()); !fits)
-        return fits;
+        return withState(fits.error(), drive.name(), Left::asBefore);
     return eraseAndWrite(**lease, medium, drive.name(), options, [&] {
         auto written = (*lease)->writeAudio(*disc, options.control);
         return written ? toldIfStopped(drive.name(), options.control) : written;
@@ -203,7 +205,7 @@ Result<void> eraseMedium(Drive &drive, EraseMode mode, const Control &control)
         return lease.error();
     const Result<Medium> medium = (*lease)->medium();
     if (!medium)
-        return medium.error();
+        return withState(medium.error(), drive.name(), Left::asBefore);
     if (medium->kind == MediumKind::none)
         return noDisc(drive.name());
     if (!canErase(*medium))

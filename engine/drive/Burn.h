@@ -12,7 +12,9 @@ namespace engine::drive {
 struct BurnOptions {
     bool verify = true; ///< read the disc back and compare
     Control control;
-    std::function<void(const std::string &line)> note; ///< told one sentence at a time; may be empty
+    std::function<void(const std::string &sentence)> say; ///< what is done next; may be empty
+    /// What is left out of the disc or was changed, by the name below the folder that is written; may be empty.
+    std::function<void(const std::string &sentence)> note;
 };
 
 /// Writes the content of `folder` as the root of a data disc (ISO 9660 level 3, Joliet, Rock Ridge, closed).

@@ -88,7 +88,7 @@ Result<void> PhysicalLease::write(Job &job, const Medium &medium, const Control 
         job.supply->start(job.blocks);
         Result<std::vector<Track>> tracks = job.tracks();
         if (!tracks)
-            return tracks.error();
+            return withState(tracks.error(), m_name, Left::blank);
         burn_drive_set_speed(m_drive->handle(), 0, attempt.speed);
         LibburnDrive::Outcome outcome =
             m_drive->write(*tracks, attempt.mode, job.phase, family, *job.supply, control);
@@ -109,10 +109,10 @@ Result<void> PhysicalLease::writeData(DiscData &data, BlockDigests &sent, const 
         return formatted;
     const Result<Medium> now = medium();
     if (!now)
-        return now.error();
+        return withState(now.error(), m_name, Left::blank);
     // A format sets spare blocks aside, and how many is known only now.
     if (auto fits = checkRoom(data.blocks(), now->free, m_name); !fits)
-        return fits;
+        return withState(fits.error(), m_name, Left::blank);
     Job job;
     job.supply = std::make_shared<Supply>(std::move(sent));
     job.blocks = data.blocks();
@@ -133,10 +133,10 @@ Result<void> PhysicalLease::writeAudio(const audio::AudioDisc &disc, const Contr
 {
     const Result<Medium> now = medium();
     if (!now)
-        return now.error();
+        return withState(now.error(), m_name, Left::blank);
     // What an erased disc takes is known only now where the drive did not tell.
     if (auto fits = checkRoom(disc.sectorCount() - audio::firstPause, now->free, m_name); !fits)
-        return fits;
+        return withState(fits.error(), m_name, Left::blank);
     Job job;
     job.audio = true;
     job.tracks = [&] { return audioTracks(disc, job.supply); };
@@ -180,9 +180,10 @@ Result<void> PhysicalLease::formatIfNeeded(const Control &control)
     burn_disc_format(m_drive->handle(), 0, defaultSize | noCertification);
     const LibburnDrive::Outcome outcome = m_drive->waitForErase(control);
     if (!outcome.well)
-        return Error{ Exit::failed,
-            "The disc in " + m_name + " cannot be formatted" + inBrackets(outcome.message)
-                + ": try another disc." };
+        return withState({ Exit::failed,
+                             "The disc in " + m_name + " cannot be formatted" + inBrackets(outcome.message)
+                                 + ": try another disc." },
+            m_name, Left::erasable);
     if (outcome.signal != 0)
         return stoppedBy(outcome.signal, "Stopped after the disc in " + m_name + " was formatted.");
     return reload();
@@ -195,9 +196,10 @@ Result<void> PhysicalLease::blank(bool fast, const Control &control)
     burn_disc_erase(m_drive->handle(), fast ? 1 : 0);
     const LibburnDrive::Outcome outcome = m_drive->waitForErase(control);
     if (!outcome.well)
-        return Error{ Exit::failed,
-            "The disc in " + m_name + " cannot be erased" + inBrackets(outcome.message)
-                + ": try a full erase, or another disc." };
+        return withState({ Exit::failed,
+                             "The disc in " + m_name + " cannot be erased" + inBrackets(outcome.message)
+                                 + ": try a full erase, or another disc." },
+            m_name, Left::erasable);
     return reload();
 }
 
@@ -220,7 +222,7 @@ Result<void> PhysicalLease::erase(EraseMode mode, const Control &control)
     const bool quick = mode == EraseMode::quick;
     const Result<Medium> now = medium();
     if (!now)
-        return now.error();
+        return withState(now.error(), m_name, Left::asBefore);
     if (!canErase(*now))
         return Error{ Exit::failed, "The disc in " + m_name + " cannot be erased: insert a rewritable one." };
     // DVD-RW in restricted overwrite can be blanked as well; a quick erase leaves it as it is formatted.
@@ -231,7 +233,7 @@ Result<void> PhysicalLease::erase(EraseMode mode, const Control &control)
         return formatted;
     const Result<Medium> formatted = medium();
     if (!formatted)
-        return formatted.error();
+        return withState(formatted.error(), m_name, Left::overwritable);
     return overwrite(
         quick ? std::min(headBlocks, formatted->capacity) : formatted->capacity, *formatted, control);
 }

@@ -106,12 +106,13 @@ Result<void> VirtualLease::erase(EraseMode, const Control &)
     // What is half gone after a kill must not look like a whole disc.
     state->disc = DiscState::writing;
     if (auto saved = m_folder.save(*state); !saved)
-        return saved;
-    if (auto cleared = m_folder.clear(); !cleared)
-        return cleared;
+        return withState(saved.error(), m_name, Left::asBefore);
+    auto cleared = m_folder.clear();
     state->disc = DiscState::blank;
     state->blocks = 0;
-    return m_folder.save(*state);
+    if (cleared)
+        cleared = m_folder.save(*state);
+    return cleared ? cleared : withState(cleared.error(), m_name, Left::erasable);
 }
 
 /// The recorder's rules, and room for the file and for what is noted at its end. Marks the disc as being written.
@@ -194,7 +195,7 @@ Result<void> VirtualLease::write(Content content, const Supply &supply, const Co
 {
     const Result<RecorderState> state = begin(content.bytes);
     if (!state)
-        return state.error();
+        return withState(state.error(), m_name, Left::blank);
     Result<Fd> file = m_folder.createDisc(content.file);
     if (!file)
         return abandon(*state, content, Fd(), {}, file.error());
@@ -216,7 +217,7 @@ Result<void> VirtualLease::writeData(DiscData &data, BlockDigests &sent, const C
 {
     const Result<Read> stream = data.start();
     if (!stream)
-        return stream.error();
+        return withState(stream.error(), m_name, Left::blank);
     const auto supply = std::make_shared<Supply>(std::move(sent));
     supply->start(data.blocks());
     Content content;
@@ -233,7 +234,7 @@ Result<void> VirtualLease::writeAudio(const audio::AudioDisc &disc, const Contro
 {
     auto opened = audio::DiscStream::open(disc);
     if (!opened)
-        return opened.error();
+        return withState(opened.error(), m_name, Left::blank);
     const auto stream = std::make_shared<audio::DiscStream>(std::move(opened).value());
     // libburn writes whole blocks of 2048 bytes; finish() cuts off what fills up the last.
     const Read filled = [stream](std::span<std::byte> buffer) -> Result<std::size_t> {

@@ -20,8 +20,12 @@ std::string withoutFullStop(std::string text)
 std::string stateSentence(const std::string &driveName, Left left)
 {
     switch (left) {
+    case Left::asBefore:
+        return " The disc in " + driveName + " is as it was.";
     case Left::blank:
         return " The disc in " + driveName + " is still blank.";
+    case Left::closed:
+        return " The disc in " + driveName + " is written and closed.";
     case Left::spoilt:
         return " The disc in " + driveName + " is spoilt.";
     case Left::overwritable:
@@ -47,6 +51,12 @@ std::string inBrackets(const LibburnMessage &message)
 {
     const std::string text = withoutFullStop(message.text);
     return text.empty() ? text : " (" + text + ")";
+}
+
+Error withState(const Error &error, const std::string &driveName, Left left)
+{
+    const bool stopped = error.exit == Exit::interrupted || error.exit == Exit::terminated;
+    return stopped ? error : Error{ error.exit, error.message + stateSentence(driveName, left) };
 }
 
 Error writeFailure(

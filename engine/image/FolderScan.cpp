@@ -60,8 +60,9 @@ bool isTargetForRockRidge(std::string_view path)
 bool mayRead(const struct stat &info, int folderFd, const char *name)
 {
     static const uid_t user = geteuid();
-    if (user == 0 || (info.st_uid == user && (info.st_mode & S_IRUSR)))
+    if (info.st_uid == user && (info.st_mode & S_IRUSR))
         return true;
+    // Also for root, who may have given up reading everything.
     return faccessat(folderFd, name, R_OK, AT_EACCESS) == 0 || errno != EACCES;
 }
 
@@ -87,7 +88,7 @@ public:
             if (auto ok = readFolder(folder); !ok)
                 return ok;
         }
-        return {};
+        return checkSomethingIsLeft();
     }
 
 private:
@@ -95,11 +96,8 @@ private:
     {
         struct stat info { };
         const int fd = m_opener.enter(0);
-        if (fd < 0 || fstat(fd, &info) != 0) {
-            return Error{ Exit::failed,
-                "The folder " + quoted(m_tree.folder()) + " cannot be read: " + reasonAndAdvice(errno)
-                    + "." };
-        }
+        if (fd < 0 || fstat(fd, &info) != 0)
+            return leaveContentOut(0, errno);
         Entry &root = m_tree.m_entries.emplace_back();
         root.name = text("");
         fill(root, info);
@@ -113,7 +111,7 @@ private:
             return ok;
         const int fd = m_opener.enter(folder);
         if (fd < 0 || !listNames(fd))
-            return unreadable("folder", folder, errno);
+            return leaveContentOut(folder, errno);
         const auto first = static_cast<std::uint32_t>(m_tree.m_entries.size());
         for (const std::string &name : m_names) {
             if (auto ok = addChild(fd, folder, name); !ok)
@@ -161,9 +159,8 @@ private:
                     + " holds too many names for a disc: take some out." };
         struct stat info { };
         if (fstatat(fd, name.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0) {
-            if (errno != ENOENT)
-                return unreadable("file", folder, errno, name);
-            leaveOut(folder, name, "it vanished while the folder was read");
+            leaveOut(folder, name,
+                errno == ENOENT ? "it vanished while the folder was read" : cannotBeRead(errno));
             return {};
         }
         Entry entry;
@@ -185,14 +182,18 @@ private:
     Result<void> addByKind(int fd, Entry &entry, const struct stat &info, const std::string &name)
     {
         if (S_ISREG(info.st_mode)) {
-            if (!mayRead(info, fd, name.c_str()))
-                return unreadable("file", entry.parent, EACCES, name);
+            if (!mayRead(info, fd, name.c_str())) {
+                leaveOut(entry.parent, name, cannotBeRead(EACCES));
+                return {};
+            }
             entry.first = contentOf(info);
         } else if (S_ISLNK(info.st_mode)) {
             char target[PATH_MAX + 1];
             const ssize_t length = readlinkat(fd, name.c_str(), target, PATH_MAX);
-            if (length < 0)
-                return unreadable("symbolic link", entry.parent, errno, name);
+            if (length < 0) {
+                leaveOut(entry.parent, name, cannotBeRead(errno));
+                return {};
+            }
             const std::string_view path(target, static_cast<std::size_t>(length));
             if (m_options.rockRidge && !isTargetForRockRidge(path)) {
                 leaveOut(entry.parent, name, "what the link points to is too long for Rock Ridge");
@@ -287,15 +288,34 @@ private:
 
     void leaveOut(std::uint32_t folder, const std::string &name, const std::string &why)
     {
-        m_tree.m_notes.push_back(quoted(childPath(folder, name)) + " is left out: " + why + ".");
+        const std::string path = folder == 0 ? name : m_tree.relativePath(folder) + '/' + name;
+        m_tree.m_notes.push_back(quoted(path) + " is left out: " + why + ".");
     }
 
-    Error unreadable(const char *kind, std::uint32_t entry, int error, const std::string &name = {}) const
+    static std::string cannotBeRead(int error) { return "it cannot be read: " + reason(error); }
+
+    /// A folder that cannot be read stays, without what is in it; of the root nothing would stay.
+    Result<void> leaveContentOut(std::uint32_t folder, int error)
     {
-        const std::string path = name.empty() ? m_tree.path(entry) : childPath(entry, name);
-        return { Exit::failed,
-            std::string("The ") + kind + " " + quoted(path) + " cannot be read: " + reasonAndAdvice(error)
-                + "." };
+        if (folder == 0)
+            return Error{ Exit::failed,
+                "The folder " + quoted(m_tree.folder()) + " cannot be read: " + reasonAndAdvice(error)
+                    + "." };
+        m_tree.m_notes.push_back("What is in " + quoted(m_tree.relativePath(folder))
+            + " is left out: the folder cannot be read: " + reason(error) + ".");
+        return {};
+    }
+
+    /// A disc without a file helps nobody whose files were all left out.
+    Result<void> checkSomethingIsLeft() const
+    {
+        const auto isStored = [](const Entry &entry) { return !S_ISDIR(entry.mode); };
+        if (m_tree.m_notes.empty() || std::ranges::any_of(m_tree.m_entries, isStored))
+            return {};
+        const std::size_t more = m_tree.m_notes.size() - 1;
+        return Error{ Exit::failed,
+            "Nothing is left of the folder " + quoted(m_tree.folder()) + ": " + m_tree.m_notes.front()
+                + (more > 0 ? " The same goes for " + std::to_string(more) + " more." : "") };
     }
 
     Result<void> goOn() const

@@ -40,11 +40,13 @@ class FolderTree {
 public:
     /// Reads everything under `folder`, the children of a folder in the order of their names'
     /// bytes. Nothing is opened but folders; files that cannot be read are found by their
-    /// permissions, and are an error that names the file.
+    /// permissions. What cannot be read is left out, with a note. Errors: the folder itself cannot be read; no file is
+    /// left.
     static Result<FolderTree> read(const std::string &folder, const IsoOptions &options);
 
     const std::vector<Entry> &entries() const { return m_entries; }
     const std::vector<Content> &contents() const { return m_contents; }
+    /// What is left out, a sentence each, by the name below the folder.
     const std::vector<std::string> &notes() const { return m_notes; }
     const std::string &folder() const { return m_folder; }
     bool followsLinks() const { return m_followsLinks; }

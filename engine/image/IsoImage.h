@@ -39,8 +39,8 @@ struct IsoOptions {
 /// One thread at a time. Movable.
 class IsoImage {
 public:
-    /// Reads the tree under `folder`. Names may hold any bytes. An error names the file or folder
-    /// that cannot be read.
+    /// Reads the tree under `folder`. Names may hold any bytes. What cannot be read is left out, with a note. Errors: the
+    /// folder itself cannot be read; no file is left.
     static Result<IsoImage> fromFolder(const std::string &folder, const IsoOptions &options);
 
     IsoImage(IsoImage &&other) noexcept;

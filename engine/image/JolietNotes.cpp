@@ -34,7 +34,7 @@ struct Fate {
     void add(const FolderTree &tree, std::uint32_t entry)
     {
         if (++count <= mostExamples)
-            examples += (count > 1 ? ", " : "") + example(tree.path(entry));
+            examples += (count > 1 ? ", " : "") + example(tree.relativePath(entry));
     }
 
     void tell(std::vector<std::string> &notes) const

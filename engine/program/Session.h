@@ -18,11 +18,14 @@ public:
     /// Valid as long as the session lives.
     drive::Control control();
 
-    /// What a burn is done with; notes are lines on standard output.
+    /// What a burn is done with; what is done next is said on standard output.
     drive::BurnOptions burnOptions(bool verify);
 
     /// One sentence on standard output.
     void say(const std::string &line) { m_output.tell(line + '\n'); }
+
+    /// Something is left out or was changed, and the work goes on: one line on standard error, "note: " and `sentence`.
+    void note(const std::string &sentence);
 
     /// Tells the first stop signal that comes.
     Stop stop() const { return m_signals.stop(); }
@@ -30,6 +33,8 @@ public:
 private:
     StopSignals m_signals;
     Output m_output;
+    Output m_errors;
+    bool m_together; ///< both outputs are one file: lines keep their order in one queue
     report::ProgressPacer m_pacer;
 };
 

@@ -163,6 +163,19 @@ private Q_SLOTS:
         QVERIFY(m_drutil->state().contains("state=blank"));
     }
 
+    void whatIsNoTrackAndWhatIsFilledUpIsNoted()
+    {
+        addTrack(u"1.wav"_s, wave(samples(sector * 300, 1)), 1);
+        addTrack(u"2.wav"_s, wave(samples(sector * 299, 1)), 2);
+        addTrack(u"cover.jpg"_s, "a picture", 3);
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        const Ran ran = (*m_drutil)({ u"burn"_s, u"-audio"_s, source() });
+        QCOMPARE(ran.exit, 0);
+        QCOMPARE(ran.err,
+            u"note: \"cover.jpg\" is left out: only WAVE files become tracks.\n"
+            "note: \"2.wav\" is shorter than four seconds: silence fills the track up to that.\n"_s);
+    }
+
     void ninetyNineTracksAndNoMore()
     {
         for (int i = 1; i <= 99; ++i)

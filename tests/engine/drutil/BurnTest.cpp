@@ -263,6 +263,72 @@ private Q_SLOTS:
         QCOMPARE(readFile(disc()), written);
     }
 
+    void whatIsLeftOutOrChangedIsNoted()
+    {
+        const fs::path root = source().toStdString();
+        put(root / "file", "content");
+        put(root / "deep/a:b", "content");
+        put(root / "deep/closed", "secret");
+        put(root / "shut/inner", "secret");
+        fs::create_symlink(std::string(300, 'x'), root / "deep/link");
+        fs::permissions(root / "deep/closed", fs::perms::none);
+        fs::permissions(root / "shut", fs::perms::none);
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        const QStringList command = heedingPermissions({ Drutil::program(), u"burn"_s, source() });
+        const Ran ran = runProgram(command.first(), command.mid(1), m_drutil->environment());
+        fs::permissions(root / "shut", fs::perms::all);
+        QVERIFY2(ran.exit == 0, qPrintable(ran.err));
+        QCOMPARE(notesIn(ran.err).join(u'\n'),
+            u"\"deep/closed\" is left out: it cannot be read: permission denied.\n"
+            "\"deep/link\" is left out: what the link points to is too long for Rock Ridge.\n"
+            "What is in \"shut\" is left out: the folder cannot be read: permission denied.\n"
+            "Characters that the Joliet names cannot hold are stored as '_' there: \"deep/a:b\"."_s);
+        QCOMPARE(ran.err.count(u'\n'), notesIn(ran.err).size()); // nothing else stands there
+        QVERIFY(!ran.out.contains(u"note: "_s));
+        const auto tree = readBack(disc());
+        QCOMPARE(tree.keys(), (QList<QByteArray>{ "deep", "deep/a:b", "file", "shut" }));
+    }
+
+    void notesKeepTheirPlaceInOneOutput()
+    {
+        put((source() + u"/file:1"_s).toStdString(), "content");
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        const Ran ran = runProgram(u"/bin/sh"_s,
+            { u"-c"_s, u"\"$0\" burn \"$1\" 2>&1"_s, Drutil::program(), source() }, m_drutil->environment());
+        const qsizetype noted = ran.out.indexOf(u"\nnote: Characters"_s);
+        QVERIFY2(noted > ran.out.indexOf(u"Preparing\n"_s) && noted < ran.out.indexOf(u"\nVerifying"_s),
+            qPrintable(ran.out));
+    }
+
+    void aFolderOfWhichNothingIsLeft()
+    {
+        put((source() + u"/inner/closed"_s).toStdString(), "secret");
+        fs::permissions((source() + u"/inner/closed"_s).toStdString(), fs::perms::none);
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        const QStringList command = heedingPermissions({ Drutil::program(), u"burn"_s, source() });
+        const Ran ran = runProgram(command.first(), command.mid(1), m_drutil->environment());
+        QCOMPARE(ran.exit, 1);
+        QVERIFY2(ran.err.contains(u"Nothing is left of the folder"_s)
+                && ran.err.contains(u"\"inner/closed\" is left out"_s)
+                && ran.err.endsWith(u"The disc in drive 1 is as it was.\n"_s),
+            qPrintable(ran.err));
+        QVERIFY(m_drutil->state().contains("state=blank"));
+    }
+
+    void theLastLineTellsTheStateOfTheDisc()
+    {
+        put((source() + u"/file"_s).toStdString(), "content");
+        QVERIFY(sparseFile(source() + u"/large"_s, 800LL * 1000 * 1000));
+        QVERIFY(m_drutil->insert(u"cd-rw"_s));
+        const QList<QStringList> verbs{ { u"burn"_s, source() }, { u"burn"_s, u"/nowhere"_s },
+            { u"burn"_s, u"-audio"_s, source() }, { u"burn"_s, u"-audio"_s, u"/nowhere"_s } };
+        for (const QStringList &verb : verbs) {
+            const Ran ran = (*m_drutil)(verb);
+            QCOMPARE(ran.exit, 1);
+            QVERIFY2(ran.err.endsWith(u" The disc in drive 1 is as it was.\n"_s), qPrintable(ran.err));
+        }
+    }
+
     void comparingCanBeLeftOut()
     {
         put((source() + u"/file"_s).toStdString(), "content");

@@ -4,6 +4,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <unistd.h>
 
 /// What a run of a program printed, and how it ended.
 struct Ran {
@@ -24,6 +25,28 @@ inline Ran runProgram(const QString &program, const QStringList &arguments,
     ran.out = QString::fromUtf8(process.readAllStandardOutput());
     ran.err = QString::fromUtf8(process.readAllStandardError());
     return ran;
+}
+
+/// A command line that runs `command` so that permissions count: root may read and write anything unless it gives
+/// that up.
+inline QStringList heedingPermissions(const QStringList &command)
+{
+    const QString without = QStringLiteral("-dac_override,-dac_read_search");
+    return ::geteuid() != 0
+        ? command
+        : QStringList{ QStringLiteral("setpriv"), QStringLiteral("--bounding-set=") + without,
+              QStringLiteral("--inh-caps=") + without }
+            + command;
+}
+
+/// The lines of `text` that tell what is left out or was changed, without their beginning.
+inline QStringList notesIn(const QString &text)
+{
+    QStringList notes;
+    for (const QString &line : text.split(u'\n'))
+        if (line.startsWith(QStringLiteral("note: ")))
+            notes.append(line.mid(6));
+    return notes;
 }
 
 class Drutil {

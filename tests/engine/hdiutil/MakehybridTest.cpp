@@ -121,10 +121,35 @@ private Q_SLOTS:
         QCOMPARE(symlink("loop", scratch.path("t/loop").c_str()), 0);
         const Ran ran = make(scratch.path("i.iso"), scratch.path("t"));
         QCOMPARE(ran.exit, 0);
-        QVERIFY2(ran.out.contains(u"dangling\" is left out"), qPrintable(ran.out));
-        QVERIFY2(ran.out.contains(u"loop\" is left out"), qPrintable(ran.out));
+        const QStringList notes = notesIn(ran.err);
+        QVERIFY2(
+            notes.contains(u"\"dangling\" is left out: the link points to nothing."_s), qPrintable(ran.err));
+        QVERIFY2(
+            notes.contains(u"\"loop\" is left out: the link leads back to itself."_s), qPrintable(ran.err));
+        QCOMPARE(ran.err.count(u'\n'), notes.size());
+        QVERIFY2(!ran.err.contains(text(scratch.path())), qPrintable(ran.err));
         QVERIFY(extractRockRidge(scratch.path("i.iso"), scratch.path("out")));
         QCOMPARE(difference(list(scratch.path("t"), followLinks), list(scratch.path("out"))), QByteArray());
+    }
+
+    void whatCannotBeReadIsLeftOut()
+    {
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("t/open"), "data") && makeFile(scratch.path("t/closed"), "secret"));
+        QCOMPARE(chmod(scratch.path("t/closed").c_str(), 0), 0);
+        const QStringList command = heedingPermissions({ program(), u"makehybrid"_s, u"-o"_s,
+            text(scratch.path("i.iso")), text(scratch.path("t")), u"-iso"_s, u"-joliet"_s });
+        const Ran ran = runProgram(command.first(), command.mid(1));
+        QCOMPARE(ran.err, u"note: \"closed\" is left out: it cannot be read: permission denied.\n"_s);
+        QCOMPARE(ran.exit, 0);
+        QVERIFY(extractRockRidge(scratch.path("i.iso"), scratch.path("out")));
+        QCOMPARE(list(scratch.path("out")).size(), 1U);
+        QCOMPARE(contentOf(scratch.path("out/open")), std::string("data"));
+        QCOMPARE(unlink(scratch.path("i.iso").c_str()) + unlink(scratch.path("t/open").c_str()), 0);
+        const Ran nothing = runProgram(command.first(), command.mid(1));
+        QCOMPARE(nothing.exit, 1);
+        QVERIFY2(nothing.err.contains(u"/t\": \"closed\" is left out"), qPrintable(nothing.err));
+        QVERIFY(access(scratch.path("i.iso").c_str(), F_OK) != 0);
     }
 
     void existingImageIsRefused()

@@ -228,7 +228,10 @@ private Q_SLOTS:
         };
         const QString said = sentence(session.erase(EraseMode::quick));
         QVERIFY2(said.startsWith(u"The disc in drive 1 cannot be erased ("_s), qPrintable(said));
-        QVERIFY2(said.endsWith(u"try a full erase, or another disc."_s), qPrintable(said));
+        QVERIFY2(
+            said.endsWith(
+                u"try a full erase, or another disc. The disc in drive 1 has to be erased before it can be used."_s),
+            qPrintable(said));
         QVERIFY(!session.drive.trayLocked);
         QCOMPARE(session.drive.disc.state, State::complete);
     }

@@ -24,6 +24,7 @@ public:
             lines.append(QString::fromStdString(engine::report::progressText(progress)));
         };
         options.control.stop = [this] { return stopAt && stopAt() ? SIGTERM : 0; };
+        options.say = [this](const std::string &line) { lines.append(QString::fromStdString(line)); };
         options.note = [this](const std::string &line) { lines.append(QString::fromStdString(line)); };
     }
 

@@ -112,6 +112,7 @@ Result<void> burnDisc(const Arguments &arguments)
     const auto drive = chosenDrive(arguments);
     if (!drive)
         return drive.error();
+    session.sayDrive(**drive);
     const bool audio = arguments.has("-audio");
     const bool verify = !audio && !arguments.has("-noverify");
     const auto operation = audio ? drive::burnAudioFolder : drive::burnFolder;

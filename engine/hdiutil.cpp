@@ -9,6 +9,7 @@
 #include "program/Session.h"
 
 #include <array>
+#include <cstdlib>
 #include <string>
 #include <string_view>
 
@@ -25,7 +26,8 @@ constexpr const char *helpText = R"(Usage: hdiutil VERB ARGUMENT...
 
   makehybrid -o IMAGE SOURCE -iso -joliet
                      make an ISO 9660 image with Joliet and Rock Ridge names of the folder SOURCE
-  burn IMAGE         write an image to the first drive with a blank or erasable disc
+  burn IMAGE         write an image to a drive with a blank or erasable disc; a blank disc comes first, and
+                     among equals the one in the drive $CORVALIS_PREFERRED_DRIVE (its number in 'drutil list')
   --help, --version
 
 Options may stand in any order; '--' ends them. IMAGE must not exist. A symbolic link is stored as what it points to.
@@ -95,9 +97,11 @@ Result<void> burnImage(const Arguments &arguments)
     if (auto plain = image::checkDiskImage(path); !plain)
         return plain;
     Session session;
-    const auto burner = drive::defaultBurner(session.stop());
+    const char *preferred = std::getenv("CORVALIS_PREFERRED_DRIVE");
+    const auto burner = drive::defaultBurner(preferred ? preferred : "", session.stop());
     if (!burner)
         return burner.error();
+    session.sayDrive(**burner);
     auto done = drive::burnImageFile(**burner, path, session.burnOptions(true));
     if (done)
         session.say("Done: the disc in " + (*burner)->name() + " is written and was compared.");

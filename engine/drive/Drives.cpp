@@ -100,23 +100,31 @@ Result<std::unique_ptr<Drive>> driveNumbered(std::string_view number)
     return std::move((*drives)[index]);
 }
 
-Result<std::unique_ptr<Drive>> defaultBurner(const Stop &stop)
+Result<std::unique_ptr<Drive>> defaultBurner(std::string_view preferred, const Stop &stop)
 {
     Result<DriveList> drives = allDrives();
     if (!drives)
         return drives.error();
+    if (const auto index = driveIndex(preferred); index && *index < drives->size())
+        std::rotate(drives->begin(), drives->begin() + static_cast<std::ptrdiff_t>(*index),
+            drives->begin() + static_cast<std::ptrdiff_t>(*index) + 1);
+    std::unique_ptr<Drive> erasable;
     std::string silent;
     for (std::unique_ptr<Drive> &drive : *drives) {
         drive->setStop(stop);
         const Result<Medium> medium = mediumIn(*drive);
         if (const int signal = stop.signal())
             return stoppedUntouched(signal);
-        if (medium && (canWriteNow(*medium) || canErase(*medium)))
+        if (medium && isBlank(*medium))
             return std::move(drive);
+        if (medium && !erasable && (canWriteNow(*medium) || canErase(*medium)))
+            erasable = std::move(drive);
         // A drive that is busy or damaged is no reason not to take the next one.
         if (!medium)
             silent += ' ' + medium.error().message;
     }
+    if (erasable)
+        return erasable;
     return Error{ Exit::noDisc,
         "No drive holds a disc that can be written: insert a blank or erasable one." + silent };
 }

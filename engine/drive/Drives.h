@@ -21,8 +21,9 @@ Result<std::vector<std::unique_ptr<Drive>>> allDrivesOrNew();
 /// The drive that `list` shows under `number`. With an empty number the only drive there is.
 Result<std::unique_ptr<Drive>> driveNumbered(std::string_view number);
 
-/// The first drive that holds a disc which can be written now or erased, physical drives first. Without
-/// one an error with Exit::noDisc. `stop` ends the search and its waits.
-Result<std::unique_ptr<Drive>> defaultBurner(const Stop &stop);
+/// The drive for a disc that nobody named one for. A blank disc comes before one that would have to be erased; of several
+/// the one in the drive that the list shows under `preferred` (any text; it may be none of them), then in the order of the
+/// list. Without any an error with Exit::noDisc. `stop` ends the search and its waits.
+Result<std::unique_ptr<Drive>> defaultBurner(std::string_view preferred, const Stop &stop);
 
 } // namespace engine::drive

@@ -133,6 +133,11 @@ std::uint64_t volumeBlocks(std::span<const std::byte> descriptor)
 {
     constexpr std::size_t spaceSize = 80; // both-byte order, the little-endian half first
     constexpr std::array<unsigned char, 6> primary{ 1, 'C', 'D', '0', '0', '1' };
+    constexpr std::array<unsigned char, 6> extended{ 0, 'B', 'E', 'A', '0',
+        '1' }; // ECMA-167 2/9.2: UDF alone
+    if (descriptor.size() >= extended.size()
+        && std::memcmp(descriptor.data(), extended.data(), extended.size()) == 0)
+        return UINT64_MAX;
     if (descriptor.size() < spaceSize + 4
         || std::memcmp(descriptor.data(), primary.data(), primary.size()) != 0)
         return 0;

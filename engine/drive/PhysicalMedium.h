@@ -21,7 +21,7 @@ int profileOf(LibburnDrive &drive);
 Result<Medium> readMedium(LibburnDrive &drive, const std::string &device, const Stop &stop);
 
 /// Size in blocks of the ISO 9660 volume whose primary volume descriptor is `descriptor` (block 16 of a
-/// disc, ECMA-119 8.4); 0 when it is none.
+/// disc, ECMA-119 8.4); 0 when it is none. A UDF volume does not tell its size there, and counts as the largest number.
 std::uint64_t volumeBlocks(std::span<const std::byte> descriptor);
 
 /// True for a rewritable medium that has to be formatted before it takes data. `status` is the

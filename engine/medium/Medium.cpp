@@ -170,6 +170,11 @@ bool canWriteNow(const Medium &medium)
     return medium.rewriting != Rewriting::pressed && medium.state == MediumState::blank;
 }
 
+bool isBlank(const Medium &medium)
+{
+    return canWriteNow(medium) && medium.state == MediumState::blank;
+}
+
 bool canErase(const Medium &medium)
 {
     return medium.rewriting == Rewriting::erase || medium.rewriting == Rewriting::overwrite;

@@ -100,7 +100,8 @@ struct DriveAnswers {
     uint64_t readableBlocks = 0; ///< READ CAPACITY; the formatted size for overwritable media
     uint64_t leadOutBlocks = 0; ///< start of the last possible lead-out of a CD blank (ATIP); 0 not told
     uint64_t formatBlocks = 0; ///< largest of READ FORMAT CAPACITIES, of a DVD-RW that is erased; 0 not told
-    uint64_t volumeBlocks = 0; ///< size of the ISO 9660 volume on an overwritable medium, 0 none
+    uint64_t volumeBlocks =
+        0; ///< size of the volume on an overwritable medium, 0 none; may be more than it holds
     std::vector<int> speeds; ///< as Medium::speeds, any order
 };
 
@@ -109,6 +110,9 @@ Medium mediumFromAnswers(const DriveAnswers &answers);
 
 /// True when the medium can be written from its first block now.
 bool canWriteNow(const Medium &medium);
+
+/// True when the medium can be written from its first block and nothing on it would be lost.
+bool isBlank(const Medium &medium);
 
 /// True when everything on the medium can be erased or overwritten.
 bool canErase(const Medium &medium);

@@ -1,5 +1,7 @@
 #include "program/Session.h"
 
+#include "report/DriveList.h"
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -21,6 +23,12 @@ Session::Session()
     , m_errors(STDERR_FILENO, m_signals.stop())
     , m_together(isOneFile(STDOUT_FILENO, STDERR_FILENO))
 {
+}
+
+void Session::sayDrive(const drive::Drive &drive)
+{
+    const std::string title = report::driveTitle(drive.record());
+    say("Burning in " + drive.name() + (title.empty() ? "" : ": " + title) + '.');
 }
 
 void Session::note(const std::string &sentence)

@@ -24,6 +24,9 @@ public:
     /// One sentence on standard output.
     void say(const std::string &line) { m_output.tell(line + '\n'); }
 
+    /// The first line of a burn: which drive has the disc.
+    void sayDrive(const drive::Drive &drive);
+
     /// Something is left out or was changed, and the work goes on: one line on standard error, "note: " and `sentence`.
     void note(const std::string &sentence);
 

@@ -6,12 +6,16 @@ namespace engine::report {
 
 namespace {
 
+std::string printable(std::string text)
+{
+    std::ranges::replace_if(
+        text, [](char c) { return c < 0x20 || c > 0x7e; }, '?');
+    return text;
+}
+
 std::string column(const std::string &text, std::size_t width)
 {
-    std::string cell = text.substr(0, width);
-    for (char &c : cell)
-        if (c < 0x20 || c > 0x7e)
-            c = '?';
+    std::string cell = printable(text.substr(0, width));
     cell.resize(width, ' ');
     return cell;
 }
@@ -27,6 +31,12 @@ std::string line(const std::string &number, const DriveRecord &d)
 }
 
 } // namespace
+
+std::string driveTitle(const DriveRecord &drive)
+{
+    const std::string gap = drive.vendor.empty() || drive.product.empty() ? "" : " ";
+    return printable(drive.vendor + gap + drive.product);
+}
 
 std::string driveListText(const std::vector<DriveRecord> &drives)
 {

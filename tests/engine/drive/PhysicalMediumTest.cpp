@@ -46,6 +46,8 @@ private Q_SLOTS:
         descriptor[0] = std::byte{ 2 }; // a supplementary descriptor is not the first one
         QCOMPARE(volumeBlocks(descriptor), std::uint64_t(0));
         QCOMPARE(volumeBlocks(std::span(descriptor).first(10)), std::uint64_t(0));
+        std::memcpy(descriptor.data(), "\0BEA01\1", 7);
+        QCOMPARE(volumeBlocks(descriptor), std::uint64_t(UINT64_MAX));
     }
 
     void formatting()

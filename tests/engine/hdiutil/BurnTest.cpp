@@ -128,6 +128,59 @@ private Q_SLOTS:
         QCOMPARE(contentOf(disc()).substr(0, 4096), std::string(4096, 'x'));
     }
 
+    void theDriveIsChosen_data()
+    {
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("second");
+        QTest::addColumn<QString>("preferred");
+        QTest::addColumn<int>("drive");
+        const auto row = [](const char *title, const char *first, const char *second, const char *preferred,
+                             int drive) {
+            QTest::newRow(title) << QString::fromLatin1(first) << QString::fromLatin1(second)
+                                 << QString::fromLatin1(preferred) << drive;
+        };
+        row("blank before erasable", "cd-rw written", "cd-r", "", 2);
+        row("blank before preferred erasable", "cd-rw written", "cd-r", "1", 2);
+        row("blank before overwritable", "dvd+rw written", "dvd+rw", "1", 2);
+        row("preferred of two blanks", "cd-r", "cd-r", "2", 2);
+        row("first of two blanks", "cd-r", "cd-rw", "", 1);
+        row("preferred of two erasable", "cd-rw written", "bd-re written", "2", 2);
+        row("preferred is closed", "dvd+rw written", "cd-r written", "2", 1);
+        row("preferred is empty", "cd-rw written", "none", "2", 1);
+        row("preferred is none of them", "cd-r", "cd-r", "9", 1);
+        row("preferred is no number", "cd-r", "cd-r", "/dev/sr0", 1);
+        row("none", "cd-r written", "none", "1", 0);
+    }
+
+    void theDriveIsChosen()
+    {
+        QFETCH(QString, first);
+        QFETCH(QString, second);
+        QFETCH(QString, preferred);
+        QFETCH(int, drive);
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("t/file"), "data")
+            && makeFile(scratch.path("i.iso"), std::string(4096, 'x')));
+        QVERIFY(makeFile(m_drutil->recorder(2).toStdString() + "/recorder.ini", "kind=none\n"));
+        QVERIFY(makeFile(m_drutil->recorder(1).toStdString() + "/recorder.ini", "kind=none\n"));
+        for (int number = 1; number <= 2; ++number) {
+            const QStringList disc = (number == 1 ? first : second).split(u' ');
+            const QStringList on{ u"-drive"_s, QString::number(number) };
+            QCOMPARE((*m_drutil)(QStringList{ u"insert"_s, disc.first() } + on).exit, 0);
+            if (disc.size() > 1)
+                QCOMPARE((*m_drutil)(QStringList{ u"burn"_s, QString::fromStdString(scratch.path("t")) } + on)
+                             .exit,
+                    0);
+        }
+        m_drutil->environment().insert(u"CORVALIS_PREFERRED_DRIVE"_s, preferred);
+        const Ran ran = burn(scratch.path("i.iso"));
+        QCOMPARE(ran.exit, drive == 0 ? 3 : 0);
+        for (int number = 1; number <= 2; ++number)
+            QCOMPARE(contentOf(disc(number)).starts_with("xxxx"), number == drive);
+        const QString line = u"Burning in drive %1: CORVALIS Virtual Recorder.\n"_s.arg(drive);
+        QVERIFY2(drive == 0 || ran.out.startsWith(line), qPrintable(ran.out));
+    }
+
     void signals_data()
     {
         QTest::addColumn<int>("signal");

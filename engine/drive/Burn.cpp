@@ -42,9 +42,11 @@ Result<void> checkWritable(const Medium &medium, const std::string &driveName)
         return Error{ Exit::failed,
             "The disc in " + driveName
                 + " is of a kind that cannot be written: insert a blank CD, DVD or BD." };
+    const bool open = medium.state == MediumState::appendable;
     return Error{ Exit::failed,
         "The " + std::string(factsOf(medium.kind).type) + " in " + driveName
-            + " cannot be written any more: insert a blank or rewritable disc." };
+            + (open ? " is not empty, and Corvalis writes empty discs only" : " cannot be written any more")
+            + ": insert a blank or rewritable disc." };
 }
 
 /// Whether `needed` blocks fit the medium once it is erased if need be. Where the drive does not tell what an

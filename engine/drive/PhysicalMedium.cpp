@@ -76,6 +76,28 @@ std::uint64_t largestFormatOf(burn_drive *drive)
     return static_cast<std::uint64_t>(largest) / blockBytes;
 }
 
+bool hasClosedSession(burn_drive *drive)
+{
+    burn_disc *const disc = burn_drive_get_disc(drive);
+    if (!disc)
+        return false;
+    int closed = 0;
+    burn_disc_get_sessions(disc, &closed);
+    burn_disc_free(disc);
+    return closed > 0;
+}
+
+/// Whether a write to the empty disc was begun and never closed.
+bool openTrackHoldsData(burn_drive *drive)
+{
+    constexpr int nextTrack = 0;
+    int start = 0;
+    int nextWritable = 0;
+    return !hasClosedSession(drive)
+        && burn_disc_track_lba_nwa(drive, nullptr, nextTrack, &start, &nextWritable) > 0
+        && nextWritable > start;
+}
+
 std::uint64_t volumeOn(LibburnDrive &drive)
 {
     std::array<std::byte, blockBytes> descriptor{};
@@ -112,6 +134,7 @@ Result<Medium> readMedium(LibburnDrive &drive, const std::string &device, const 
     answers.freeBlocks = static_cast<std::uint64_t>(burn_disc_available_space(d, nullptr)) / blockBytes;
     // The question for the space is what makes libburn look at the open track.
     answers.damagedTrack = (burn_disc_next_track_is_damaged(d, 0) & 1) != 0;
+    answers.openTrackHoldsData = answers.appendable && openTrackHoldsData(d);
     int readable = 0;
     if (burn_get_read_capacity(d, &readable, 0) > 0)
         answers.readableBlocks = static_cast<std::uint64_t>(std::max(readable, 0));

@@ -66,8 +66,10 @@ MediumState stateFromAnswers(const DriveAnswers &a, Rewriting rewriting)
 {
     if (rewriting == Rewriting::pressed || !a.suitable)
         return MediumState::closed;
-    // A track that broke off cannot be written on, and what is left behind it is no room for a new start.
-    if (a.damagedTrack && rewriting == Rewriting::once)
+    // A track that broke off cannot be written on, and what is left behind it is no room for a new start. Not every drive
+    // calls such a track damaged; a first track that was begun and never closed tells the same.
+    const bool begun = a.appendable && a.openTrackHoldsData;
+    if ((a.damagedTrack || begun) && rewriting == Rewriting::once)
         return MediumState::spoilt;
     if (rewriting == Rewriting::overwrite)
         return a.volumeBlocks > 0 ? MediumState::closed : MediumState::blank;

@@ -95,6 +95,8 @@ struct DriveAnswers {
     bool blank = false; ///< READ DISC INFORMATION: disc status 0, or an overwritable medium
     bool appendable = false; ///< disc status 1
     bool damagedTrack = false; ///< READ TRACK INFORMATION of the invisible track: damage bit (MMC-6 6.26)
+    /// No session is closed, and the open track holds data: its next writable address lies behind its start (MMC-6 6.26).
+    bool openTrackHoldsData = false;
     bool suitable = true; ///< false: the drive can neither read nor write it
     uint64_t freeBlocks = 0;
     uint64_t readableBlocks = 0; ///< READ CAPACITY; the formatted size for overwritable media

@@ -300,6 +300,51 @@ private Q_SLOTS:
             u"The disc in drive 1 is of a kind that cannot be written: insert a blank CD, DVD or BD."_s);
     }
 
+    // Not every drive sets the damage bit of a track that broke off.
+    void aFirstTrackThatWasNeverClosedIsASpoiltDisc()
+    {
+        for (const int profile : { cdR, dvdR, dvdPlusR, bdR }) {
+            Session session({ profile, State::appendable });
+            for (int block = 0; block < 320; ++block)
+                session.drive.disc.blocks.insert(block, QByteArray(2048, 'x'));
+            session.drive.disc.firstTrackOpen = true;
+            const QString status = session.status();
+            QVERIFY2(status.contains(u"State: spoilt, a write did not reach its end"_s), qPrintable(status));
+            QVERIFY2(status.contains(u"Writability: not writable"_s), qPrintable(status));
+            QVERIFY2(status.contains(u"Space Free:   00:00:00"_s), qPrintable(status));
+            QVERIFY(sentence(session.burn()).contains(u"cannot be written any more"_s));
+        }
+    }
+
+    // A drive that does not tell where it would write on leaves open what became of the last write.
+    void anOpenDiscIsNotCalledSpoiltWithoutGround()
+    {
+        for (const int profile : { cdR, dvdR, dvdPlusR, bdR }) {
+            Session session({ profile, State::appendable });
+            session.drive.disc.firstTrackOpen = true;
+            const QString status = session.status();
+            QVERIFY2(!status.contains(u"State:"_s), qPrintable(status));
+            QVERIFY2(status.contains(u"Writability: appendable\n"_s), qPrintable(status));
+            QCOMPARE(sentence(session.burn()),
+                QString(status.simplified().section(u' ', 1, 1)).prepend(u"The "_s)
+                    + u" in drive 1 is not empty, and Corvalis writes empty discs only: "
+                      "insert a blank or rewritable disc."_s);
+        }
+    }
+
+    // A session that was closed by another program may be followed by another.
+    void aDiscWithAClosedSessionIsOpen()
+    {
+        for (const int profile : { cdR, dvdR, dvdPlusR, bdR }) {
+            Session session({ profile, State::appendable });
+            for (int block = 0; block < 320; ++block)
+                session.drive.disc.blocks.insert(block, QByteArray(2048, 'x'));
+            const QString status = session.status();
+            QVERIFY2(status.contains(u"Writability: appendable\n"_s), qPrintable(status));
+            QVERIFY(!status.contains(u"State:"_s));
+        }
+    }
+
     void aDiscWhoseLastWriteBrokeOffSaysSo()
     {
         Session session({ dvdPlusR, State::appendable });

@@ -316,12 +316,12 @@ Drive::Answer Drive::tellDisc(const Command &)
         : disc.state == State::blank      ? 0
         : disc.state == State::appendable ? 1
                                           : 2;
-    const int session = disc.state == State::complete || overwritable() ? 3 : 0;
+    const int session = disc.state == State::complete || overwritable() ? 3 : int(disc.firstTrackOpen);
     const bool erasable = overwritable() || disc.profile == cdRw || disc.profile == dvdRwSequential;
     QByteArray data = big(32, 2) + QByteArray(32, '\0');
     data[2] = char(int(erasable) << 4 | session << 2 | status);
     data[3] = data[4] = data[5] = data[6] = 1;
-    if (disc.state == State::appendable)
+    if (disc.state == State::appendable && !disc.firstTrackOpen)
         data[4] = data[5] = data[6] = 2;
     if (disc.profile == dvdPlusRw)
         data[7] = char(disc.formatted ? 3 : 0); // background format
@@ -334,7 +334,7 @@ Drive::Answer Drive::tellTrack(const Command &command)
 {
     const bool open = !overwritable() && disc.state != State::complete;
     const quint32 asked = command.number(2, 4);
-    const bool second = disc.state == State::appendable && asked != 1;
+    const bool second = disc.state == State::appendable && !disc.firstTrackOpen && asked != 1;
     QByteArray data = big(34, 2) + QByteArray(34, '\0');
     data[2] = data[3] = char(second ? 2 : 1);
     data[5] = char(disc.damaged ? 0x24 : 0x04);
@@ -359,6 +359,8 @@ Drive::Answer Drive::tellToc(const Command &command)
     case 2: { // full TOC
         if (!isCd() || disc.state == State::blank)
             return { {}, invalidField };
+        if (disc.firstTrackOpen) // no session is closed
+            return { big(2, 2) + QByteArray("\x01\x01", 2), {} };
         const QByteArray entries = entry(0xa0, QByteArray("\x01\0\0", 3))
             + entry(0xa1, QByteArray("\x01\0\0", 3)) + entry(0xa2, msf(end())) + entry(1, msf(0));
         return { big(quint32(entries.size() + 2), 2) + QByteArray("\x01\x01", 2) + entries, {} };

@@ -45,7 +45,9 @@ struct Disc {
     qint32 capacity = 1024; ///< blocks, whole clusters; small, so that a full erase is quick
     QMap<qint32, QByteArray> blocks = {}; ///< by address
     bool incremental = true; ///< takes sessions without a size told before
-    bool damaged = false; ///< its last track broke off
+    bool damaged = false; ///< its last track broke off, and the drive says so
+    bool firstTrackOpen =
+        false; ///< appendable without a closed session: what is written is the first track's
 };
 
 struct Sense {

@@ -23,33 +23,19 @@ using program::Session;
 using program::usageError;
 using program::Verb;
 
-std::string helpText()
-{
-    return R"(Usage: drutil VERB [ARGUMENT...] [-drive N]
-
-  list                          list the drives
-  status                        tell about the medium in the drive
-  burn [-noverify] FOLDER       write the content of FOLDER as a data disc
-  burn -audio FOLDER            write the WAVE files in FOLDER as an audio disc
-  erase full|quick              erase a rewritable medium
-  tray eject|close              open or close the tray
-  folder                        tell where the discs of a virtual recorder lie
-  insert KIND                   put a blank into a virtual recorder; KIND is one of
-                                )"
-        + insertNames() + R"(, none
-  --help, --version
+constexpr const char *helpText =
+    R"(  --help, --version             also 'drutil help VERB' and 'drutil VERB --help'
 
 N is the character at the start of the drive's line in 'drutil list'. It may be left
 out while there is one drive. '--' ends the options.
 
 Virtual recorders are kept in $CORVALIS_RECORDERS (default: corvalis/recorders in the
 user's data folder); CORVALIS_VIRTUAL=off hides them, =always keeps one in any
-case, =only hides the physical drives.
+case, =only hides the physical drives, =auto makes one where there is no burner.
 
 Exit status: 0 success, 1 failure, 2 wrong arguments, 3 no such drive or no disc,
 130 and 143 ended by SIGINT and SIGTERM.
 )";
-}
 
 auto chosenDrive(const Arguments &arguments)
 {
@@ -179,20 +165,34 @@ constexpr Option driveOption{ "-drive",
 constexpr std::array options{ driveOption };
 constexpr std::array burnOptions{ driveOption, Option{ "-audio" }, Option{ "-noverify" } };
 
-constexpr std::array verbs{
-    Verb{ "list", "list", 0, options, list },
-    Verb{ "status", "status [-drive N]", 0, options, status },
-    Verb{ "burn", "burn [-audio] [-noverify] FOLDER [-drive N]", 1, burnOptions, burnDisc },
-    Verb{ "erase", "erase full|quick [-drive N]", 1, options, erase },
-    Verb{ "tray", "tray eject|close [-drive N]", 1, options, tray },
-    Verb{ "folder", "folder [-drive N]", 0, options, folder },
-    Verb{ "insert", "insert KIND [-drive N]", 1, options, insert },
+std::string insertHelp()
+{
+    return R"(  insert KIND                   put a blank into a virtual recorder; KIND is one of
+                                )"
+        + insertNames() + ", none\n";
+}
+
+const std::array verbs{
+    Verb{ "list", "list", 0, options, list, "  list                          list the drives\n" },
+    Verb{ "status", "status [-drive N]", 0, options, status,
+        "  status                        tell about the medium in the drive\n" },
+    Verb{ "burn", "burn [-audio] [-noverify] FOLDER [-drive N]", 1, burnOptions, burnDisc,
+        R"(  burn [-noverify] FOLDER       write the content of FOLDER as a data disc
+  burn -audio FOLDER            write the WAVE files in FOLDER as an audio disc
+)" },
+    Verb{ "erase", "erase full|quick [-drive N]", 1, options, erase,
+        "  erase full|quick              erase a rewritable medium\n" },
+    Verb{ "tray", "tray eject|close [-drive N]", 1, options, tray,
+        "  tray eject|close              open or close the tray\n" },
+    Verb{ "folder", "folder [-drive N]", 0, options, folder,
+        "  folder                        tell where the discs of a virtual recorder lie\n" },
+    Verb{ "insert", "insert KIND [-drive N]", 1, options, insert, insertHelp() },
 };
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    const program::Program drutil{ "drutil", "VERB [ARGUMENT...] [-drive N]", helpText(), verbs };
+    const program::Program drutil{ "drutil", "VERB [ARGUMENT...] [-drive N]", helpText, verbs };
     return program::run(drutil, { argv + (argc > 0), argv + argc });
 }

@@ -22,13 +22,7 @@ using program::Session;
 using program::usageError;
 using program::Verb;
 
-constexpr const char *helpText = R"(Usage: hdiutil VERB ARGUMENT...
-
-  makehybrid -o IMAGE SOURCE -iso -joliet
-                     make an ISO 9660 image with Joliet and Rock Ridge names of the folder SOURCE
-  burn IMAGE         write an image to a drive with a blank or erasable disc; a blank disc comes first, and
-                     among equals the one in the drive $CORVALIS_PREFERRED_DRIVE (its number in 'drutil list')
-  --help, --version
+constexpr const char *helpText = R"(  --help, --version  also 'hdiutil help VERB' and 'hdiutil VERB --help'
 
 Options may stand in any order; '--' ends them. IMAGE must not exist. A symbolic link is stored as what it points to.
 An image that is not a whole number of 2048-byte blocks is filled up when it is burned.
@@ -111,15 +105,21 @@ Result<void> burnImage(const Arguments &arguments)
 constexpr std::array makingOptions{ Option{ "-o", "-o wants the name of the image." }, Option{ "-iso" },
     Option{ "-joliet" } };
 
-constexpr std::array verbs{
-    Verb{ "makehybrid", "makehybrid -o IMAGE SOURCE -iso -joliet", 1, makingOptions, makeHybrid },
-    Verb{ "burn", "burn IMAGE", 1, {}, burnImage },
+const std::array verbs{
+    Verb{ "makehybrid", "makehybrid -o IMAGE SOURCE -iso -joliet", 1, makingOptions, makeHybrid,
+        R"(  makehybrid -o IMAGE SOURCE -iso -joliet
+                     make an ISO 9660 image with Joliet and Rock Ridge names of the folder SOURCE
+)" },
+    Verb{ "burn", "burn IMAGE", 1, {}, burnImage,
+        R"(  burn IMAGE         write an image to a drive with a blank or erasable disc; a blank disc comes first, and
+                     among equals the one in the drive $CORVALIS_PREFERRED_DRIVE (its number in 'drutil list')
+)" },
 };
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    const program::Program hdiutil{ "hdiutil", "makehybrid|burn ARGUMENT...", helpText, verbs };
+    const program::Program hdiutil{ "hdiutil", "VERB ARGUMENT...", helpText, verbs };
     return program::run(hdiutil, { argv + (argc > 0), argv + argc });
 }

@@ -80,9 +80,8 @@ Error folderError(const std::string &folder, int error)
 Error tooLong(const std::string &folder, std::uint64_t sectors)
 {
     return { Exit::failed,
-        "The WAVE files in " + quoted(folder) + " make a disc of " + std::to_string(sectors) + " sectors ("
-            + msf(sectors) + "), and an audio disc counts to " + std::to_string(mostSectors) + " ("
-            + msf(mostSectors) + "): take some out of the folder." };
+        "The WAVE files in " + quoted(folder) + " make a disc of " + lengthText(sectors)
+            + ", and an audio disc counts to " + lengthText(mostSectors) + ": take some out of the folder." };
 }
 
 /// The files that can be tracks, in order; the others become notes.
@@ -171,6 +170,12 @@ std::string msf(std::uint64_t sector)
     const std::uint64_t seconds = sector / sectorsPerSecond;
     return twoDigits(seconds / 60) + ':' + twoDigits(seconds % 60) + ':'
         + twoDigits(sector % sectorsPerSecond);
+}
+
+std::string lengthText(std::uint64_t sectors)
+{
+    const std::string time = msf(sectors);
+    return time.substr(0, time.rfind(':')) + " minutes (" + std::to_string(sectors) + " blocks)";
 }
 
 std::string cueSheet(const std::string &binName, const std::vector<AudioTrack> &tracks)

@@ -48,6 +48,9 @@ Result<AudioDisc> readAudioFolder(const std::string &folder);
 /// "mm:ss:ff" of a sector address counted from 0; minutes take as many digits as they need.
 std::string msf(std::uint64_t sector);
 
+/// The time that sectors last, for people, and their number: "79:57 minutes (359844 blocks)".
+std::string lengthText(std::uint64_t sectors);
+
 /// The cue sheet of a .bin file that holds the pause of track 1 and then all tracks back to back.
 /// `binName` is written between quotation marks; a quotation mark or line break in it becomes '_'.
 std::string cueSheet(const std::string &binName, const std::vector<AudioTrack> &tracks);

@@ -139,4 +139,14 @@ std::string sizeText(std::uint64_t bytes)
     return text;
 }
 
+std::string blocksText(std::uint64_t blocks)
+{
+    constexpr double blockBytes = 2048;
+    constexpr double megabyte = 1e6;
+    char text[64];
+    std::snprintf(text, sizeof text, "%.1f MB (%llu blocks)",
+        static_cast<double>(blocks) * blockBytes / megabyte, static_cast<unsigned long long>(blocks));
+    return text;
+}
+
 } // namespace engine

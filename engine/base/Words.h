@@ -27,6 +27,10 @@ Error systemError(const std::string &what, int failure);
 /// A size for people, in decimal units: "734 MB", "4.7 GB", "512 bytes".
 std::string sizeText(std::uint64_t bytes);
 
+/// The room that blocks of 2048 bytes take, for people, and their number: "737.0 MB (359844 blocks)". One digit after the point, so
+/// that two figures that hardly differ are not told as the same.
+std::string blocksText(std::uint64_t blocks);
+
 /// Length in bytes of the UTF-8 character that `text` begins with, 0 when its first byte begins
 /// none (RFC 3629: no overlong forms, no surrogates, at most U+10FFFF) or `text` is empty.
 std::size_t utf8Length(std::string_view text);

@@ -51,11 +51,12 @@ Result<void> checkWritable(const Medium &medium, const std::string &driveName)
 
 /// Whether `needed` blocks fit the medium once it is erased if need be. Where the drive does not tell what an
 /// erased one takes, the write asks again.
-Result<void> checkFits(std::uint64_t needed, const Medium &medium, const std::string &driveName)
+Result<void> checkFits(
+    std::uint64_t needed, Amount amount, const Medium &medium, const std::string &driveName)
 {
     if (canWriteNow(medium))
-        return checkRoom(needed, medium.free, driveName);
-    return medium.capacity == 0 ? Result<void>() : checkRoom(needed, medium.capacity, driveName);
+        return checkRoom(needed, medium.free, amount, driveName);
+    return medium.capacity == 0 ? Result<void>() : checkRoom(needed, medium.capacity, amount, driveName);
 }
 
 /// An erase that ends well in spite of a stop is told as stopped.
@@ -148,7 +149,7 @@ Result<void> burnContent(
     const Result<Content> data = prepare();
     if (!data)
         return withState(data.error(), drive.name(), Left::asBefore);
-    if (auto fits = checkFits((*data)->blocks(), medium, drive.name()); !fits)
+    if (auto fits = checkFits((*data)->blocks(), Amount::data, medium, drive.name()); !fits)
         return withState(fits.error(), drive.name(), Left::asBefore);
     return eraseAndWrite(**lease, medium, drive.name(), options,
         [&] { return writeAndVerify(**lease, **data, drive.name(), options); });
@@ -162,7 +163,7 @@ Result<void> checkAudioMedium(
             "An audio disc needs a CD, and there is a " + std::string(factsOf(medium.kind).type) + " in "
                 + driveName + ": insert a blank CD-R or CD-RW." };
     // The pause of track 1 lies before the blocks that a disc counts.
-    return checkFits(disc.sectorCount() - audio::firstPause, medium, driveName);
+    return checkFits(disc.sectorCount() - audio::firstPause, Amount::sound, medium, driveName);
 }
 
 } // namespace

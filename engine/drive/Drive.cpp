@@ -1,5 +1,8 @@
 #include "drive/Drive.h"
 
+#include "audio/AudioDisc.h"
+#include "base/Words.h"
+
 namespace engine::drive {
 
 void Control::report(const Progress &p, unsigned unitBytes) const
@@ -13,13 +16,15 @@ Error stoppedUntouched(int signal)
     return stoppedBy(signal, "Stopped before anything was written: the disc is as it was.");
 }
 
-Result<void> checkRoom(std::uint64_t needed, std::uint64_t room, const std::string &driveName)
+Result<void> checkRoom(std::uint64_t needed, std::uint64_t room, Amount amount, const std::string &driveName)
 {
     if (needed <= room)
         return {};
+    const bool sound = amount == Amount::sound;
+    const auto text = sound ? audio::lengthText : blocksText;
     return Error{ Exit::failed,
-        "The data need " + std::to_string(needed) + " blocks, and the disc in " + driveName + " has room for "
-            + std::to_string(room) + ": take something out, or insert a larger disc." };
+        (sound ? "The tracks need " : "The data need ") + text(needed) + ", and the disc in " + driveName
+            + " has room for " + text(room) + ": take something out, or insert a larger disc." };
 }
 
 } // namespace engine::drive

@@ -39,8 +39,14 @@ struct Control {
 /// The error of an operation on a disc that `signal` ended before the disc was changed.
 Error stoppedUntouched(int signal);
 
-/// Whether `needed` blocks fit into `room` blocks; the error has both figures.
-Result<void> checkRoom(std::uint64_t needed, std::uint64_t room, const std::string &driveName);
+/// What is written: decides in which measure a person counts it.
+enum class Amount {
+    data, ///< in megabytes
+    sound, ///< in minutes
+};
+
+/// Whether `needed` blocks fit into `room` blocks; the error has both figures, as a person counts and in blocks.
+Result<void> checkRoom(std::uint64_t needed, std::uint64_t room, Amount amount, const std::string &driveName);
 
 /// The content of a data disc: a known number of blocks that can be streamed.
 class DiscData {

@@ -6,8 +6,9 @@
 #include "drive/VirtualDrive.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
-#include <cstring>
+#include <string>
 
 namespace engine::drive {
 
@@ -17,14 +18,42 @@ using DriveList = std::vector<std::unique_ptr<Drive>>;
 
 enum class VirtualUse { automatic, off, always, only };
 
-VirtualUse virtualUse()
+struct VirtualUseRow {
+    std::string_view value; ///< of CORVALIS_VIRTUAL
+    VirtualUse use;
+    const char *withoutDrives; ///< what helps where there is no drive
+};
+
+constexpr const char *connectOrMake = "connect one, or let 'drutil list' make a virtual recorder.";
+
+constexpr std::array virtualUses{
+    VirtualUseRow{ "auto", VirtualUse::automatic, connectOrMake },
+    VirtualUseRow{ "off", VirtualUse::off,
+        "connect one, or unset CORVALIS_VIRTUAL, which hides the virtual recorders." },
+    VirtualUseRow{ "always", VirtualUse::always, connectOrMake },
+    VirtualUseRow{ "only", VirtualUse::only, "let 'drutil list' make a virtual recorder." },
+};
+
+/// The row that CORVALIS_VIRTUAL names, that of "auto" where it is not set.
+Result<VirtualUseRow> virtualUse()
 {
-    const char *value = std::getenv("CORVALIS_VIRTUAL");
-    if (value && std::strcmp(value, "off") == 0)
-        return VirtualUse::off;
-    if (value && std::strcmp(value, "only") == 0)
-        return VirtualUse::only;
-    return value && std::strcmp(value, "always") == 0 ? VirtualUse::always : VirtualUse::automatic;
+    const char *set = std::getenv("CORVALIS_VIRTUAL");
+    const std::string_view value = set && *set ? set : virtualUses.front().value;
+    const auto row = std::ranges::find(virtualUses, value, &VirtualUseRow::value);
+    if (row != virtualUses.end())
+        return *row;
+    std::string list;
+    for (const VirtualUseRow &known : virtualUses)
+        list += (list.empty() ? "" : ", ") + std::string(known.value);
+    return Error{ Exit::failed,
+        "CORVALIS_VIRTUAL has the value " + quoted(value) + ", which says nothing: set it to one of " + list
+            + "." };
+}
+
+Error noDrive()
+{
+    const Result<VirtualUseRow> use = virtualUse();
+    return { Exit::noDisc, std::string("There is no drive: ") + (use ? use->withoutDrives : connectOrMake) };
 }
 
 void number(DriveList &drives)
@@ -45,7 +74,10 @@ Result<DriveList> findDrives(bool createRecorder)
 {
     DriveList drives;
     bool burner = false;
-    const VirtualUse use = virtualUse();
+    const Result<VirtualUseRow> row = virtualUse();
+    if (!row)
+        return row.error();
+    const VirtualUse use = row->use;
     if (use != VirtualUse::only) {
         for (PhysicalRecord &record : physicalRecords()) {
             burner = burner || record.writes;
@@ -88,8 +120,7 @@ Result<std::unique_ptr<Drive>> driveNumbered(std::string_view number)
     if (!drives)
         return drives.error();
     if (drives->empty())
-        return Error{ Exit::noDisc,
-            "There is no drive: connect one, or let 'drutil list' make a virtual recorder." };
+        return noDrive();
     if (number.empty() && drives->size() > 1)
         return Error{ Exit::usage,
             "There are " + std::to_string(drives->size()) + " drives: say which one with -drive N." };
@@ -105,6 +136,8 @@ Result<std::unique_ptr<Drive>> defaultBurner(std::string_view preferred, const S
     Result<DriveList> drives = allDrives();
     if (!drives)
         return drives.error();
+    if (drives->empty())
+        return noDrive();
     if (const auto index = driveIndex(preferred); index && *index < drives->size())
         std::rotate(drives->begin(), drives->begin() + static_cast<std::ptrdiff_t>(*index),
             drives->begin() + static_cast<std::ptrdiff_t>(*index) + 1);

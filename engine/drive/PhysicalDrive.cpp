@@ -111,7 +111,7 @@ Result<void> PhysicalLease::writeData(DiscData &data, BlockDigests &sent, const 
     if (!now)
         return withState(now.error(), m_name, Left::blank);
     // A format sets spare blocks aside, and how many is known only now.
-    if (auto fits = checkRoom(data.blocks(), now->free, m_name); !fits)
+    if (auto fits = checkRoom(data.blocks(), now->free, Amount::data, m_name); !fits)
         return withState(fits.error(), m_name, Left::blank);
     Job job;
     job.supply = std::make_shared<Supply>(std::move(sent));
@@ -135,7 +135,8 @@ Result<void> PhysicalLease::writeAudio(const audio::AudioDisc &disc, const Contr
     if (!now)
         return withState(now.error(), m_name, Left::blank);
     // What an erased disc takes is known only now where the drive did not tell.
-    if (auto fits = checkRoom(disc.sectorCount() - audio::firstPause, now->free, m_name); !fits)
+    if (auto fits = checkRoom(disc.sectorCount() - audio::firstPause, now->free, Amount::sound, m_name);
+        !fits)
         return withState(fits.error(), m_name, Left::blank);
     Job job;
     job.audio = true;

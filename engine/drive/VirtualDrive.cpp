@@ -134,9 +134,8 @@ Result<RecorderState> VirtualLease::begin(std::uint64_t bytes)
         return room.error();
     if (*room < bytes)
         return Error{ Exit::failed,
-            "The file system that holds " + m_name + " has room for " + std::to_string(*room / blockBytes)
-                + " blocks, and the disc needs " + std::to_string(bytes / blockBytes)
-                + ": make room there." };
+            "The file system that holds " + m_name + " has room for " + blocksText(*room / blockBytes)
+                + ", and the disc needs " + blocksText(bytes / blockBytes) + ": make room there." };
     state->disc = DiscState::writing;
     state->blocks = 0;
     if (auto saved = m_folder.save(*state); !saved)

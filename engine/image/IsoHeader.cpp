@@ -96,8 +96,8 @@ std::uint64_t dataBlocks(const FolderTree &tree)
 Error tooLarge(const FolderTree &tree, std::uint64_t blocks)
 {
     return { Exit::failed,
-        "The content of " + quoted(tree.folder()) + " needs " + std::to_string(blocks)
-            + " blocks, and an image has at most " + std::to_string(mostBlocks)
+        "The content of " + quoted(tree.folder()) + " needs " + blocksText(blocks)
+            + ", and an image has at most " + blocksText(mostBlocks)
             + ": take some files out of the folder." };
 }
 

@@ -36,6 +36,33 @@ Result<bool> readOption(const Verb &verb, const std::string &name, const char *v
     return true;
 }
 
+bool isHelp(std::string_view word)
+{
+    return word == "--help" || word == "-h";
+}
+
+/// Whether the words behind a verb ask for help rather than for its work.
+bool asksForHelp(Words words)
+{
+    const auto end = std::ranges::find(
+        words, std::string_view("--"), [](const char *word) { return std::string_view(word); });
+    return std::any_of(words.begin(), end, isHelp);
+}
+
+std::string helpOf(const Program &program)
+{
+    std::string text = std::string("Usage: ") + program.name + ' ' + program.usage + "\n\n";
+    for (const Verb &verb : program.verbs)
+        text += verb.help;
+    return text + program.help;
+}
+
+std::string helpOf(const Program &program, const Verb &verb)
+{
+    return std::string("Usage: ") + program.name + ' ' + verb.usage + "\n\n" + verb.help + "\n'"
+        + program.name + " --help' and 'man " + program.name + "' tell more.\n";
+}
+
 Result<Arguments> parse(const Verb &verb, Words words)
 {
     Arguments arguments;
@@ -106,9 +133,12 @@ int run(const Program &program, Words words)
     std::signal(SIGPIPE, SIG_IGN);
     if (words.empty())
         return end(program, usageError("A verb is missing."), program.usage);
-    const std::string_view first = words.front();
-    if (first == "--help" || first == "-h")
-        return end(program, printReport(program.help), program.usage);
+    std::string_view first = words.front();
+    const bool help = first == "help";
+    if (isHelp(first) || (help && words.size() == 1))
+        return end(program, printReport(helpOf(program)), program.usage);
+    if (help)
+        first = words[1];
     if (first == "--version")
         return end(program, printReport(std::string(program.name) + " (Corvalis) " CORVALIS_VERSION "\n"),
             program.usage);
@@ -116,6 +146,8 @@ int run(const Program &program, Words words)
         std::ranges::find(program.verbs, first, [](const Verb &v) { return std::string_view(v.name); });
     if (verb == program.verbs.end())
         return end(program, usageError("There is no such verb: " + quoted(first) + "."), program.usage);
+    if (help || asksForHelp(words.subspan(1)))
+        return end(program, printReport(helpOf(program, *verb)), verb->usage);
     const Result<Arguments> arguments = parse(*verb, words.subspan(1));
     return end(program, arguments ? runVerb(*verb, *arguments) : arguments.error(), verb->usage);
 }

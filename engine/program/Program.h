@@ -37,16 +37,18 @@ struct Verb {
     std::size_t operands;
     std::span<const Option> options;
     Result<void> (*run)(const Arguments &arguments);
+    std::string help = {}; ///< lines of the program's help that tell about it
 };
 
 struct Program {
     const char *name;
     const char *usage; ///< how it is called in general, without its name
-    std::string help;
+    std::string help; ///< what stands behind the lines of the verbs
     std::span<const Verb> verbs;
 };
 
-/// Does what the command line says: a verb, --help or --version. An error becomes one line on standard
+/// Does what the command line says: a verb, --help or --version; `help` is --help, of one verb when its name stands behind it or
+/// when --help stands behind the name. An error becomes one line on standard
 /// error (and one more with the usage, if the arguments were wrong). Returns the exit code.
 int run(const Program &program, std::span<const char *const> words);
 

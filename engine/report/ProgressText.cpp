@@ -64,10 +64,14 @@ std::optional<std::string> ProgressPacer::next(Progress progress, unsigned block
         const unsigned unitBytes = progress.family == Family::cd ? cdSectorBytes : blockBytes;
         progress.speed = static_cast<double>(progress.done - m_done) * unitBytes / 1000.0 / seconds;
     }
+    const std::string text = progressText(progress);
+    if (!changed && progress.total == 0 && text == m_text)
+        return std::nullopt;
     m_phase = progress.phase;
     m_printed = now;
     m_done = progress.done;
-    return progressText(progress);
+    m_text = text;
+    return text;
 }
 
 } // namespace engine::report

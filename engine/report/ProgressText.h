@@ -14,8 +14,8 @@ namespace engine::report {
 std::string progressText(const Progress &progress);
 
 /// Lets lines through at most twice a second, and each change of phase at once: the phase that comes may be silent
-/// for minutes. Keeps the speed by
-/// comparing with the line before.
+/// for minutes. A phase that counts nothing, such as the closing of the disc, is told once. Keeps the speed by comparing with
+/// the line before.
 class ProgressPacer {
 public:
     using Clock = std::chrono::steady_clock;
@@ -28,6 +28,7 @@ private:
     std::optional<Phase> m_phase;
     Clock::time_point m_printed;
     uint64_t m_done = 0;
+    std::string m_text; ///< of the last line
 };
 
 } // namespace engine::report

@@ -45,6 +45,9 @@ std::string speedWords(const Medium &medium)
 {
     std::string words;
     std::string last;
+    // What the drive would write other discs with says nothing of one that takes nothing.
+    if (writability(medium) == notWritable)
+        return words;
     for (const int speed : medium.speeds) {
         const std::string word = speedFactor(speed, factsOf(medium.kind).family);
         if (word != last)
@@ -71,7 +74,7 @@ std::string writability(const Medium &medium)
         add("erasable");
     if (canWriteNow(medium))
         add("overwritable");
-    return words.empty() ? "not writable" : words;
+    return words.empty() ? notWritable : words;
 }
 
 std::string speedFactor(double speed, Family family)

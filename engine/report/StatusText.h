@@ -12,9 +12,11 @@ namespace engine::report {
 /// An empty drive gives the one line "Type: No Media Inserted".
 std::string statusText(const Medium &medium);
 
+constexpr const char *notWritable = "not writable";
+
 /// The words after "Writability:", with ", " between: `appendable` a session can be added, `blank`
 /// nothing written, `erasable` can be erased and written again, `overwritable` can be written from
-/// the start now; or `not writable`.
+/// the start now; or notWritable alone.
 std::string writability(const Medium &medium);
 
 /// A write speed as a factor of the medium's single speed: 2822 on a CD is "16x", 3324 on a DVD "2.4x".

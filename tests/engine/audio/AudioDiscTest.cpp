@@ -188,14 +188,14 @@ private Q_SLOTS:
         QTest::addColumn<QList<qint64>>("sectors");
         QTest::addColumn<QString>("error"); // after the name of the folder
         const QString last =
-            u", and an audio disc counts to 449999 (99:59:74): take some out of the folder."_s;
+            u", and an audio disc counts to 99:59 minutes (449999 blocks): take some out of the folder."_s;
         QTest::newRow("all that a disc counts") << QList<qint64>{ 449999 - 150 } << QString();
         QTest::newRow("one sector more")
-            << QList<qint64>{ 449999 - 150 - 300 + 1, 300 } << u"450000 sectors (100:00:00)"_s + last;
+            << QList<qint64>{ 449999 - 150 - 300 + 1, 300 } << u"100:00 minutes (450000 blocks)"_s + last;
         QTest::newRow("a little more than 32 bits")
-            << QList<qint64>{ 4294967296 + 100732 } << u"4295068178 sectors (954459:35:53)"_s + last;
+            << QList<qint64>{ 4294967296 + 100732 } << u"954459:35 minutes (4295068178 blocks)"_s + last;
         QTest::newRow("more than 32 bits together")
-            << QList<qint64>{ 2147483648, 2147483748 } << u"4294967546 sectors (954437:13:71)"_s + last;
+            << QList<qint64>{ 2147483648, 2147483748 } << u"954437:13 minutes (4294967546 blocks)"_s + last;
     }
 
     void lengthsOfADisc()

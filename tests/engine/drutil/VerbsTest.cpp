@@ -32,6 +32,59 @@ private Q_SLOTS:
         QVERIFY(!(*m_drutil)({ u"list"_s }).out.contains(u"Virtual"_s));
     }
 
+    void aValueOfTheEnvironmentThatSaysNothingIsRefused()
+    {
+        m_drutil->environment().insert(u"CORVALIS_VIRTUAL"_s, u"yes please"_s);
+        for (const QStringList &verb : { QStringList{ u"list"_s }, QStringList{ u"status"_s } }) {
+            const Ran ran = (*m_drutil)(verb);
+            QCOMPARE(ran.exit, 1);
+            QCOMPARE(ran.out, QString()); // not even the header of a table
+            QCOMPARE(ran.err,
+                u"drutil: CORVALIS_VIRTUAL has the value \"yes please\", which says nothing: "
+                "set it to one of auto, off, always, only.\n"_s);
+        }
+        QVERIFY(!QFile::exists(m_drutil->recorders()));
+    }
+
+    void theAdviceFitsTheEnvironment_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("advice");
+        QTest::newRow("only") << u"only"_s
+                              << u"There is no drive: let 'drutil list' make a virtual recorder."_s;
+        QTest::newRow("off")
+            << u"off"_s
+            << u"There is no drive: connect one, or unset CORVALIS_VIRTUAL, which hides the virtual recorders."_s;
+    }
+
+    void theAdviceFitsTheEnvironment()
+    {
+        QFETCH(QString, value);
+        QFETCH(QString, advice);
+        m_drutil->environment().insert(u"CORVALIS_VIRTUAL"_s, value);
+        if (value != u"only" && (*m_drutil)({ u"list"_s }).out.count(u'\n') > 1)
+            QSKIP("this machine has a drive");
+        const Ran ran = (*m_drutil)({ u"status"_s });
+        QCOMPARE(ran.exit, 3);
+        QCOMPARE(ran.err, u"drutil: "_s + advice + u'\n');
+    }
+
+    void aVerbHasItsOwnHelp()
+    {
+        const QString all = (*m_drutil)({ u"help"_s }).out;
+        QCOMPARE((*m_drutil)({ u"--help"_s }).out, all);
+        for (const char *verb : { "list", "status", "burn", "erase", "tray", "folder", "insert" }) {
+            const QString name = QString::fromLatin1(verb);
+            const Ran ran = (*m_drutil)({ name, u"--help"_s });
+            QCOMPARE(ran.exit, 0);
+            QCOMPARE(ran.out, (*m_drutil)({ u"help"_s, name }).out);
+            QVERIFY2(ran.out.startsWith(u"Usage: drutil "_s + name), qPrintable(ran.out));
+            const QString told = ran.out.section(u"\n\n"_s, 1, 1);
+            QVERIFY2(told.startsWith(u"  "_s + name) && all.contains(told), qPrintable(ran.out));
+        }
+        QVERIFY(!QFile::exists(m_drutil->recorders())); // nothing else was done
+    }
+
     void onlyListMakesARecorder()
     {
         const Ran ran = (*m_drutil)({ u"status"_s });

@@ -151,7 +151,7 @@ private Q_SLOTS:
         for (const int profile : { cdRw, dvdRwSequential }) {
             Session session(written(profile));
             const QString said = sentence(session.burn(1100));
-            QVERIFY2(said.contains(u"has room for 1024"_s), qPrintable(said));
+            QVERIFY2(said.contains(u"has room for 2.1 MB (1024 blocks)"_s), qPrintable(said));
             QVERIFY(session.drive.commandsOf(blankDisc).isEmpty());
         }
     }
@@ -171,7 +171,7 @@ private Q_SLOTS:
             QCOMPARE(sentence(session.burn(800)), QString());
             QVERIFY(session.drive.content(0).contains(session.bigFile()));
             const QString said = sentence(session.burn(1100));
-            QVERIFY2(said.contains(u"has room for 1024"_s), qPrintable(said));
+            QVERIFY2(said.contains(u"has room for 2.1 MB (1024 blocks)"_s), qPrintable(said));
             QCOMPARE(session.drive.commandsOf(blankDisc).size(), 2);
             QCOMPARE(session.drive.disc.state, State::blank);
         }
@@ -183,7 +183,7 @@ private Q_SLOTS:
         Session session(unformatted(bdRe));
         session.drive.spares = 224;
         const QString said = sentence(session.burn(800));
-        QVERIFY2(said.contains(u"has room for 800"_s), qPrintable(said));
+        QVERIFY2(said.contains(u"has room for 1.6 MB (800 blocks)"_s), qPrintable(said));
         QVERIFY(session.drive.commandsOf(write10).isEmpty());
         QVERIFY(!session.drive.trayLocked);
     }

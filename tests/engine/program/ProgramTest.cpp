@@ -68,6 +68,12 @@ private Q_SLOTS:
         row("unknown verb", u"three"_s, 2);
         row("help", u"--help"_s, 0);
         row("short help", u"-h"_s, 0);
+        row("help as a verb", u"help"_s, 0);
+        row("help of a verb", u"help two"_s, 0);
+        row("help of an unknown verb", u"help three"_s, 2);
+        row("help behind a verb", u"two --help"_s, 0);
+        row("help behind operands", u"two a b -h"_s, 0);
+        row("a name like help", u"two -- --help -h"_s, 0, { u"--help"_s, u"-h"_s });
         row("version", u"--version"_s, 0);
         row("no operands", u"none"_s, 0);
         row("operands", u"two a b"_s, 0, { u"a"_s, u"b"_s });

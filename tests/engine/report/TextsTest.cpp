@@ -201,9 +201,39 @@ private Q_SLOTS:
         // 2000 sectors a second of 75.
         QCOMPARE(at(500ms, Phase::writing, 1000), u"Writing: 10.0 %, 27x"_s);
         // A change of phase is told at once.
-        QCOMPARE(at(501ms, Phase::closing, 0), u"Closing the disc: 0.0 %"_s);
-        QCOMPARE(at(502ms, Phase::closing, 0), QString());
-        QCOMPARE(at(1001ms, Phase::closing, 0), u"Closing the disc: 0.0 %"_s);
+        QCOMPARE(at(501ms, Phase::verifying, 0), u"Verifying: 0.0 %"_s);
+        QCOMPARE(at(502ms, Phase::verifying, 0), QString());
+        QCOMPARE(at(1001ms, Phase::verifying, 0), u"Verifying: 0.0 %"_s);
+    }
+
+    void whatCountsNothingIsToldOnce()
+    {
+        for (const Phase phase : { Phase::closing, Phase::erasing, Phase::preparing }) {
+            ProgressPacer pacer;
+            const ProgressPacer::Clock::time_point start{};
+            const Progress progress{ phase, 0, 0, 0, Family::dvd, std::nullopt };
+            QVERIFY(pacer.next(progress, 2048, start));
+            for (const auto later : { 1s, 2s, 60s })
+                QVERIFY(!pacer.next(progress, 2048, start + later));
+            QVERIFY(pacer.next({ Phase::writing, 1, 10, 0, Family::dvd, std::nullopt }, 2048, start + 61s));
+            QVERIFY(pacer.next(progress, 2048, start + 62s));
+        }
+    }
+
+    void aDiscThatTakesNothingHasNoWriteSpeeds()
+    {
+        const auto statusOf = [](MediumKind kind, MediumState state) {
+            Medium medium = mediumOf(kind, state, 1000, state == MediumState::blank ? 0 : 500);
+            medium.speeds = { 2770, 5540 };
+            return QString::fromStdString(statusText(medium));
+        };
+        const QString speeds = u"Write Speeds:"_s;
+        QVERIFY(!statusOf(MediumKind::dvdRom, MediumState::closed).contains(speeds));
+        QVERIFY(!statusOf(MediumKind::cdR, MediumState::closed).contains(speeds));
+        QVERIFY(!statusOf(MediumKind::dvdR, MediumState::spoilt).contains(speeds));
+        QVERIFY(statusOf(MediumKind::cdR, MediumState::blank).contains(speeds));
+        QVERIFY(statusOf(MediumKind::cdR, MediumState::appendable).contains(speeds));
+        QVERIFY(statusOf(MediumKind::dvdRw, MediumState::closed).contains(speeds));
     }
 };
 

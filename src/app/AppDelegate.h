@@ -176,7 +176,8 @@ public:
         OnActionVideoPlay(), OnActionVideoNewDisc(), OnActionVideoCopyDisc(), OnActionVideoSettings();
     void OnActionDataAddFolder(), OnActionDataDelete(), OnActionDataClear(), OnActionDataNewDisc(),
         OnActionDataCopyDisc();
-    void addDroppedFiles(const QList<QUrl> &urls, int before); ///< onto the selected tab; tells what does not fit
+    /// Onto the list of the selected tab, before this row; tells what does not fit.
+    void addDroppedFiles(const QList<QUrl> &urls, int before);
     void moveSelectedEntries(int by); ///< up (-1) or down (1) in the list of the selected tab
     void moveSelectedEntriesBefore(int row); ///< of the same list; the number of rows is behind the last
 
@@ -187,6 +188,7 @@ public:
     void PaintSpaceOccupiedControl();
     QColor cellTextColour() const;
     ListTableView *selectedTable() const; ///< of the selected tab, null on a tab without a list
+    void focusList(); ///< gives the list of the selected tab the keyboard; elsewhere it stays where it is
 
     // ---- Running tools (runner/)
     void outData(runner::ToolRun *tool);
@@ -287,14 +289,18 @@ private:
     template <class Record>
     void deleteSelected(ListTableView *table, QList<Record> &list);
     void playSelected(const ListTableView *table);
-    bool listTakes(int tab, const QUrl &url) const; ///< whether it can go on the tab's list
+    struct Refused; ///< what cannot go on a list, and why
+    void tellRefused(const QList<Refused> &all, ListKind kind); ///< in one alert, each with its sentence
+    void measureMediaFiles(ListKind kind, const QList<QUrl> &urls, int before);
+    NodeMediaFile measured(const QUrl &url, Measuring &measuring); ///< any thread; runs the transcoder
+    void tellTranscoderMissing(); ///< once
+    bool m_transcoderMissingTold = false;
     void forgetSorting(); ///< no heading claims any more that the list is in its order
     void reorderList(const ListTableView *table, const QList<qsizetype> &order, QList<int> &selected);
     void showReordered(ListTableView *table, const QList<qsizetype> &order, QList<int> selected);
     void showListMenu(ListTableView *table, const QPoint &place, bool forRows); ///< at a place on the screen
     static void reloadTable(ListTableView *table);
     void refreshTable(const ListTableView *table); ///< the list kind's refresh
-    void focusList(); ///< gives the list of the selected tab the keyboard; elsewhere it stays where it is
 
     // ---- Running tools (runner/)
     QByteArray captureTool(const QString &program, const QStringList &arguments,

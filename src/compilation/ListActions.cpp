@@ -1,6 +1,7 @@
 // Adding to the lists and taking from them.
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
+#include "compilation/Acceptance.h"
 #include "compilation/FolderNames.h"
 #include "compilation/FolderTree.h"
 #include "compilation/ListTableView.h"
@@ -18,6 +19,7 @@
 
 #include <atomic>
 #include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -28,20 +30,49 @@ const QStringList videoExtensions{ u"wmv"_s, u"mov"_s, u"mpg"_s, u"mpeg"_s, u"mp
     u"asx"_s, u"qt"_s, u"mp4"_s, u"mpeg-4"_s, u"flv"_s, u"ts"_s, u"3gp"_s, u"fli"_s, u"m1v"_s, u"m2v"_s,
     u"mjpg"_s };
 
-/// The names of what was refused, one a line, as many as an alert shows at a glance.
+/// How a person knows what a URL leads to: by its name, or by its address on another computer.
+QString nameOf(const QUrl &url)
+{
+    constexpr qsizetype half = 30; // of a name that would make the alert too wide
+    const QString path = url.isLocalFile() ? QDir::cleanPath(url.toLocalFile()) : QString();
+    const QString last = path.section(u'/', -1);
+    const QString name = (path.isEmpty() ? url.toDisplayString() : last.isEmpty() ? path : last).simplified();
+    return name.size() > 2 * half ? name.first(half) + u'…' + name.last(half) : name;
+}
+
+/// One a line, as many as an alert shows at a glance.
 QString namesOf(const QList<QUrl> &urls)
 {
     constexpr qsizetype shown = 10;
-    constexpr qsizetype half = 30; // of a name that would make the alert too wide
     QStringList names;
-    for (const QUrl &url : urls.first(qMin(shown, urls.size()))) {
-        const QString name = url.fileName().simplified();
-        names.append(name.size() > 2 * half ? name.first(half) + u'…' + name.last(half) : name);
-    }
+    for (const QUrl &url : urls.first(qMin(shown, urls.size())))
+        names.append(nameOf(url));
     if (urls.size() > shown)
-        names.append(AppDelegate::tr("and %n more", nullptr, static_cast<int>(urls.size() - shown)));
+        names.append(AppDelegate::tr("and %1 more").arg(urls.size() - shown));
     return names.join(u'\n');
 }
+
+/// What the transcoder says of a file. Blocks for at most `limit` milliseconds.
+struct Report {
+    Report(const QString &transcoder, const QString &path, ActivityLog *log, int limit)
+        : run(transcoder, { u"-i"_s, path }, log)
+    {
+        // Without an output file to write, a report of the input is followed by an error and status 1.
+        run.setExpectedStatus(1);
+        text = run.capture(limit);
+    }
+
+    /// Not there, or only the script that calls it: shells end with 126 and 127 where they find no program.
+    bool isWithoutTranscoder() const
+    {
+        using How = runner::ToolEnd::How;
+        return run.end().how == How::CouldNotStart
+            || (run.end().how == How::Ended && (run.end().code == 126 || run.end().code == 127));
+    }
+
+    runner::ToolRun run;
+    QByteArray text;
+};
 
 } // namespace
 
@@ -53,17 +84,52 @@ struct AppDelegate::Measuring {
     }
 
     const QList<QUrl> urls;
-    const int before; ///< the row before which they go; -1: behind the last one
+    const int before; ///< the row before which they come; -1: behind the last one
     QList<NodeMediaFile> records; ///< of the first of them; touched on the GUI thread only
     std::atomic<bool> stop = false;
+    std::atomic<bool> withoutTranscoder = false;
+};
+
+/// What of one adding cannot go on the list, and why.
+struct AppDelegate::Refused {
+    compilation::Refusal refusal;
+    QUrl url;
 };
 
 QString AppDelegate::GetMediaFileDuration(const QString &path)
 {
-    // Without an output file to write, a report of the input is followed by an error and status 1.
-    runner::ToolRun report(sffmpegPath, { u"-i"_s, path }, activityLog);
-    report.setExpectedStatus(1);
-    return compilation::durationText(report.capture(around.probeLimit));
+    return compilation::durationText(Report(sffmpegPath, path, activityLog, around.probeLimit).text);
+}
+
+NodeMediaFile AppDelegate::measured(const QUrl &url, Measuring &measuring)
+{
+    const QString path = url.toLocalFile();
+    NodeMediaFile record = compilation::mediaRecord(url, path);
+    const Report report(sffmpegPath, path, activityLog, around.probeLimit);
+    record.s_Duration = compilation::durationText(report.text);
+    record.i_Duration_in_Seconds = Return_Seconds_From_Duration_Str(record.s_Duration);
+    record.whyNotMeasured = compilation::whyNotMeasured(path, record.s_Duration, report.text);
+    if (report.isWithoutTranscoder()) {
+        measuring.withoutTranscoder = true;
+        record.whyNotMeasured = tr("The program ffmpeg, which measures files, is missing.");
+    } else if (!record.whyNotMeasured.isEmpty() && report.run.end().how == runner::ToolEnd::How::EndedByUs) {
+        record.whyNotMeasured = tr("Measuring the file took too long and was given up.");
+    }
+    return record;
+}
+
+void AppDelegate::tellTranscoderMissing()
+{
+    if (std::exchange(m_transcoderMissingTold, true))
+        return;
+    alert(tr("Files cannot be measured"),
+        QFile::exists(sffmpegPath)
+            ? tr("The program ffmpeg is missing. Install the package “ffmpeg” and add the files again. "
+                 "Without it "
+                 "the lists show no durations, and no audio or video disc can be made.")
+            : tr("A part of Corvalis is missing: %1. Install Corvalis again. Without it the lists show no "
+                 "durations, and no audio or video disc can be made.")
+                  .arg(around.resources + u"/ffmpeg"_s));
 }
 
 qint64 AppDelegate::Return_Seconds_From_Duration_Str(const QString &duration)
@@ -135,8 +201,21 @@ QList<QUrl> AppDelegate::mediaIn(ListKind kind, const QString &folder)
 
 void AppDelegate::addMediaFiles(ListKind kind, const QList<QUrl> &urls, int before)
 {
-    if (urls.isEmpty())
-        return;
+    QList<QUrl> files;
+    QList<Refused> refused;
+    for (const QUrl &url : urls) {
+        if (compilation::isNoFile(url.toLocalFile()))
+            refused.append({ compilation::Refusal::NoFile, url });
+        else
+            files.append(url);
+    }
+    tellRefused(refused, kind);
+    if (!files.isEmpty())
+        measureMediaFiles(kind, files, before);
+}
+
+void AppDelegate::measureMediaFiles(ListKind kind, const QList<QUrl> &urls, int before)
+{
     delete windowUniqueProgress;
     windowUniqueProgress = new Window_Unique_Progress(window->stage());
     windowUniqueProgress->progressBar()->setRange(0, static_cast<int>(urls.size()));
@@ -151,17 +230,13 @@ void AppDelegate::addMediaFiles(ListKind kind, const QList<QUrl> &urls, int befo
         for (const QUrl &url : measuring->urls) {
             if (measuring->stop)
                 break;
-            const QString path = url.toLocalFile();
-            NodeMediaFile record = compilation::mediaRecord(url, path);
-            record.s_Duration = GetMediaFileDuration(path);
-            record.i_Duration_in_Seconds = Return_Seconds_From_Duration_Str(record.s_Duration);
+            const NodeMediaFile record = measured(url, *measuring);
             QMetaObject::invokeMethod(
                 this, [this, measuring, record] { mediaFileMeasured(*measuring, record); },
                 Qt::QueuedConnection);
         }
         QMetaObject::invokeMethod(
-            this, [this, kind, measuring] { mediaFilesAdded(kind, *measuring); },
-            Qt::QueuedConnection);
+            this, [this, kind, measuring] { mediaFilesAdded(kind, *measuring); }, Qt::QueuedConnection);
     });
 }
 
@@ -185,6 +260,8 @@ void AppDelegate::mediaFilesAdded(ListKind kind, const Measuring &measuring)
     windowUniqueProgress = nullptr;
     insertRecords(kind == ListKind::Audio ? ui->tableviewAudioFiles : ui->tableviewVideoFiles,
         arrayMediaFiles, measuring.records, measuring.before);
+    if (measuring.withoutTranscoder)
+        tellTranscoderMissing();
     Q_EMIT addingEnded();
 }
 
@@ -200,7 +277,8 @@ void AppDelegate::insertRecords(
     forgetSorting();
     refreshTable(table);
     table->selectRows(selected);
-    table->showRows(static_cast<int>(at), static_cast<int>(at + records.size()) - 1);
+    if (!records.isEmpty())
+        table->showRows(static_cast<int>(at), static_cast<int>(at + records.size()) - 1);
     focusList();
 }
 
@@ -240,44 +318,52 @@ void AppDelegate::addDataFolder(const QString &path, int before)
         { compilation::folderRecord(path, folderSize(path)) }, before);
 }
 
-bool AppDelegate::listTakes(int tab, const QUrl &url) const
+void AppDelegate::tellRefused(const QList<Refused> &all, ListKind kind)
 {
-    const QFileInfo info(url.toLocalFile());
-    if (!url.isLocalFile() || !compilation::isReadable(url))
-        return false;
-    if (tab == 2)
-        return info.isDir();
-    const QStringList &accepted = acceptedExtensions(tab == 0 ? ListKind::Audio : ListKind::Video);
-    return info.isFile() && accepted.contains(info.suffix(), Qt::CaseInsensitive);
+    QStringList paragraphs;
+    QList<compilation::Refusal> told;
+    for (const Refused &first : all) {
+        if (told.contains(first.refusal))
+            continue;
+        told.append(first.refusal);
+        QList<QUrl> alike;
+        for (const Refused &other : all) {
+            if (other.refusal == first.refusal)
+                alike.append(other.url);
+        }
+        paragraphs.append(
+            compilation::sentence(first.refusal, acceptedExtensions(kind)) + u"\n\n"_s + namesOf(alike));
+    }
+    if (!paragraphs.isEmpty())
+        alert(tr("Not everything can go on this list"), paragraphs.join(u"\n\n"_s));
 }
 
 void AppDelegate::addDroppedFiles(const QList<QUrl> &urls, int before)
 {
     const int tab = ui->tabviewMain->currentIndex();
     const ListKind kind = tab == 0 ? ListKind::Audio : ListKind::Video;
-    QList<QUrl> taken, refused, unreadable;
+    QList<QUrl> taken, unreadable;
+    QList<Refused> refused;
     for (const QUrl &url : urls) {
-        const bool isFolder = url.isLocalFile() && QFileInfo(url.toLocalFile()).isDir();
-        const QList<QUrl> inside =
-            tab != 2 && isFolder ? mediaIn(kind, QDir::cleanPath(url.toLocalFile())) : QList<QUrl>();
-        if (!inside.isEmpty())
-            taken.append(inside);
+        const compilation::Refusal refusal = tab == 2
+            ? compilation::refusalOfFolder(url)
+            : compilation::refusalOfMedia(url, acceptedExtensions(kind));
+        if (url.isLocalFile() && !compilation::isReadable(url))
+            unreadable.append(url);
+        else if (refusal != compilation::Refusal::None)
+            refused.append({ refusal, url });
+        else if (tab != 2 && QFileInfo(url.toLocalFile()).isDir())
+            taken.append(mediaIn(kind, QDir::cleanPath(url.toLocalFile())));
         else
-            (listTakes(tab, url) ? taken : compilation::isReadable(url) ? refused : unreadable).append(url);
+            taken.append(url);
     }
-    if (!refused.isEmpty()) {
-        const QString rule = tab == 2
-            ? tr("This list takes folders.")
-            : tr("This list takes files that end in %1, and folders with such files in them.")
-                  .arg(acceptedExtensions(kind).join(u", "_s));
-        alert(tr("Not everything can go on this list"), rule + u"\n\n"_s + namesOf(refused));
-    }
+    tellRefused(refused, kind);
     if (!unreadable.isEmpty())
         alert(Questions::unusableFiles(), Questions::unreadableNamesText() + u"\n\n"_s + namesOf(unreadable));
     if (tab != 2)
         return addMediaFiles(kind, taken, before);
     for (const QUrl &url : std::as_const(taken))
-        addDataFolder(QDir::cleanPath(url.toLocalFile()), before < 0 ? before : before++);
+        addDataFolder(QDir::cleanPath(url.toLocalFile()), before++);
 }
 
 template <class Record>

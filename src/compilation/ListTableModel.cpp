@@ -1,6 +1,10 @@
 #include "compilation/ListTableModel.h"
 
 #include "app/AppDelegate.h"
+#include "kit/SymbolIcon.h"
+
+#include <QGuiApplication>
+#include <QPalette>
 
 using namespace Qt::StringLiterals;
 
@@ -67,12 +71,32 @@ QStringList ListTableModel::sortTexts(int column) const
     return texts;
 }
 
+QString ListTableModel::whyNotMeasured(int row) const
+{
+    return m_kind == Kind::Media ? m_controller->arrayMediaFiles.at(row).whyNotMeasured : QString();
+}
+
 QString ListTableModel::toolTip(int row) const
 {
-    // A name may look like rich text; a tooltip must show it as it is.
     const QString path = m_kind == Kind::Data ? m_controller->arrayDataFolders.at(row).s_Path
                                               : m_controller->arrayMediaFiles.at(row).s_File_Path;
-    return path.toHtmlEscaped();
+    // A name may look like rich text, or like a part of it; a tooltip must show it as it is.
+    const QString shown = u"<p style=\"white-space:pre\">"_s + path.toHtmlEscaped() + u"</p>"_s;
+    const QString why = whyNotMeasured(row);
+    return why.isEmpty() ? shown : shown + u"<p>"_s + why.toHtmlEscaped() + u"</p>"_s;
+}
+
+/// The mark of a file whose duration is not known, in the cell where it is missing.
+QVariant ListTableModel::mark(int row, int column, int role) const
+{
+    const bool here = m_kind == Kind::Media && column == MediaDuration;
+    if (!here || whyNotMeasured(row).isEmpty())
+        return {};
+    if (role == Qt::AccessibleTextRole)
+        return tr("not measured");
+    const QColor colour = m_controller->cellTextColour();
+    return symbolIcon(
+        u"warning"_s, colour.isValid() ? colour : QGuiApplication::palette().color(QPalette::Text));
 }
 
 bool ListTableModel::isNumber(int column) const
@@ -95,6 +119,11 @@ QVariant ListTableModel::data(const QModelIndex &index, int role) const
     }
     case Qt::ToolTipRole:
         return toolTip(index.row());
+    case Qt::AccessibleDescriptionRole:
+        return whyNotMeasured(index.row());
+    case Qt::DecorationRole:
+    case Qt::AccessibleTextRole:
+        return mark(index.row(), index.column(), role);
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(
             Qt::AlignVCenter | (isNumber(index.column()) ? Qt::AlignRight : Qt::AlignLeft));

@@ -36,7 +36,9 @@ public:
 private:
     QString text(int row, int column) const;
     QString sortText(int row, int column) const;
+    QString whyNotMeasured(int row) const;
     QString toolTip(int row) const;
+    QVariant mark(int row, int column, int role) const;
     bool isNumber(int column) const;
 
     const Kind m_kind;

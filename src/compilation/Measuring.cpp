@@ -1,6 +1,8 @@
 #include "compilation/Measuring.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QStringDecoder>
 
 #include <array>
@@ -20,6 +22,29 @@ QString durationText(const QByteArray &report)
         return {};
     const qsizetype at = text.indexOf(mark);
     return at < 0 ? QString() : text.mid(at + mark.size(), length);
+}
+
+QString whyNotMeasured(const QString &path, const QString &duration, const QByteArray &report)
+{
+    static const QRegularExpression measured(u"^ \\d+:\\d\\d:"_s);
+    if (measured.match(duration).hasMatch())
+        return {};
+    const auto say = [](const char *text) { return QCoreApplication::translate("Measuring", text); };
+    const QFileInfo info(path);
+    if (!info.exists())
+        return say(QT_TRANSLATE_NOOP("Measuring", "There is no such file any more."));
+    if (!info.isReadable())
+        return say(QT_TRANSLATE_NOOP("Measuring", "You have no permission to read this file."));
+    if (info.isFile() && info.size() == 0)
+        return say(QT_TRANSLATE_NOOP("Measuring", "The file is empty."));
+    if (!QByteArrayView(report).isValidUtf8())
+        return say(QT_TRANSLATE_NOOP("Measuring", "What the file says of itself is not valid UTF-8 text."));
+    const QString last = QString::fromUtf8(report).trimmed().section(u'\n', -1).trimmed();
+    const qsizetype reason = last.startsWith(path + u": "_s) ? path.size() + 2 : -1;
+    if (reason < 0)
+        return say(QT_TRANSLATE_NOOP("Measuring", "The file does not say how long it is."));
+    return say(QT_TRANSLATE_NOOP("Measuring", "The file cannot be read as sound or film: %1."))
+        .arg(last.sliced(reason));
 }
 
 qint64 lenientNumber(QStringView field)

@@ -18,6 +18,10 @@ QString durationText(const QByteArray &report);
 /// 7-8; what is no number there counts 0, the fraction is dropped.
 qint64 secondsFromDurationText(const QString &duration);
 
+/// Why a file has no duration: a sentence from the state of the file, and else from what `ffmpeg -i FILE`
+/// printed. Empty where `duration`, its duration text, is that of a measured file. Any thread.
+QString whyNotMeasured(const QString &path, const QString &duration, const QByteArray &report);
+
 /// The leading digits of a field as a number: blanks before them are skipped, without digits it is 0.
 qint64 lenientNumber(QStringView field);
 

@@ -14,6 +14,7 @@ struct NodeMediaFile {
     QString s_File_Size; ///< size text
     qint64 i_Duration_in_Seconds = 0; ///< whole seconds, from s_Duration
     QString s_Duration; ///< the 11 characters after "Duration:" in ffmpeg's report
+    QString whyNotMeasured; ///< a sentence; empty where the duration is known
 };
 
 /// One folder on the data list.

@@ -20,6 +20,7 @@
 #include <algorithm>
 #include <dirent.h>
 #include <filesystem>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -89,7 +90,10 @@ private Q_SLOTS:
     void windowAnswersWhileMeasuring();
     void quitWhileMeasuring();
     void unreadableFileIsListed();
+    void whatCouldNotBeMeasuredIsMarked();
     void hangingTranscoder();
+    void pipesAreRefused();
+    void missingTranscoder_data();
     void missingTranscoder();
     void mediaFolder_data();
     void mediaFolder();
@@ -334,7 +338,7 @@ void ListsTest::manyMarkedFiles()
     constexpr int count = 1000;
     for (int i = 0; i < count; ++i)
         makeFile(media(u"a name that is long as names of songs are %1.mp3"_s.arg(i, 4, 10, QChar(u'0'))));
-    m_app->controller->sffmpegPath.clear(); // nothing is to be measured
+    m_app->controller->sffmpegPath = u"/bin/true"_s; // nothing is to be measured
     person::Expect<QFileDialog> dialog([&](QFileDialog *panel) {
         person::shownFiles(panel, m_media->path(), u"a name that is long as names of songs are 0999.mp3"_s);
         auto *list = panel->findChild<QTreeView *>(u"treeView"_s);
@@ -504,6 +508,31 @@ void ListsTest::unreadableFileIsListed()
     QCOMPARE(column(audio(), 2), QStringList(u"4.00 bytes"_s));
 }
 
+void ListsTest::whatCouldNotBeMeasuredIsMarked()
+{
+    for (const auto &name : { u"good.mp3"_s, u"a & b <i>.mp3"_s })
+        makeFile(media(name), "x");
+    addFiles("toolbar_btn_Audio_Add_Files", { u"good.mp3"_s });
+    m_app->ffmpeg.print(u"-i"_s, "no words of a length\n");
+    addFiles("toolbar_btn_Audio_Add_Files", { u"a & b <i>.mp3"_s });
+    const QAbstractItemModel *model = audio()->model();
+    const auto cell = [model](int row, int role, int column = ListTableModel::MediaDuration) {
+        return model->index(row, column).data(role);
+    };
+    for (const int row : { 0, 1 }) {
+        const bool marked = row == 1;
+        QCOMPARE(!cell(row, Qt::DecorationRole).value<QIcon>().isNull(), marked);
+        QCOMPARE(cell(row, Qt::ToolTipRole).toString().contains(u"The file does not say how long it is."_s),
+            marked);
+        QCOMPARE(cell(row, Qt::AccessibleTextRole).toString(), marked ? u"not measured"_s : QString());
+        QVERIFY(cell(row, Qt::DecorationRole, ListTableModel::MediaFile).isNull());
+    }
+    // The name is shown as it is, in a tooltip that is rich text.
+    QVERIFY(Qt::mightBeRichText(cell(1, Qt::ToolTipRole).toString()));
+    QVERIFY(cell(1, Qt::ToolTipRole).toString().contains(u"a &amp; b &lt;i&gt;.mp3"_s));
+    audio()->grab();
+}
+
 void ListsTest::hangingTranscoder()
 {
     makeFile(media(u"a.mp3"_s));
@@ -515,12 +544,60 @@ void ListsTest::hangingTranscoder()
 
 void ListsTest::missingTranscoder()
 {
-    makeFile(media(u"a.mp3"_s));
+    m_app->controller->around.questions = &m_app->questions;
+    QFETCH(QByteArray, script);
+    QFETCH(QString, advice);
+    for (const auto &name : { u"a.mp3"_s, u"b.mp3"_s })
+        makeFile(media(name), "x");
     QFile::remove(m_app->ffmpeg.path());
-    addFiles("toolbar_btn_Audio_Add_Files", { u"a.mp3"_s });
-    QCOMPARE(column(audio(), 0), QStringList(u"a.mp3"_s));
-    QCOMPARE(column(audio(), 1), QStringList(QString()));
-    QVERIFY(m_app->controller->activityLog->text().contains(u"could not be started"_s));
+    if (!script.isEmpty()) {
+        makeFile(m_app->ffmpeg.path(), script);
+        QFile::setPermissions(m_app->ffmpeg.path(), QFile::ReadOwner | QFile::ExeOwner);
+    }
+    // Said once, not for each file and not again.
+    for (int times = 1; times <= 2; ++times) {
+        m_app->controller->addMediaFolder(AppDelegate::ListKind::Audio, m_media->path());
+        QVERIFY(awaitAdded());
+        QCOMPARE(audio()->model()->rowCount(), 2 * times);
+        QCOMPARE(m_app->questions.alerts.size(), 1);
+    }
+    QCOMPARE(column(audio(), 1), QStringList(4, QString()));
+    QVERIFY2(m_app->questions.alerts.first().informative.contains(advice),
+        qPrintable(m_app->questions.texts().first()));
+    QVERIFY(audio()->model()->index(0, 1).data(Qt::ToolTipRole).toString().contains(u"ffmpeg"_s));
+    if (script.isEmpty())
+        QVERIFY(m_app->controller->activityLog->text().contains(u"could not be started"_s));
+}
+
+void ListsTest::missingTranscoder_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<QString>("advice");
+    QTest::newRow("ours") << QByteArray() << u"Install Corvalis again."_s;
+    QTest::newRow("the system's") << QByteArray("#!/bin/sh\nexec /nowhere/ffmpeg \"$@\"\n")
+                                  << u"Install the package “ffmpeg”"_s;
+}
+
+void ListsTest::pipesAreRefused()
+{
+    m_app->controller->around.questions = &m_app->questions;
+    makeFile(media(u"good.mp3"_s));
+    QCOMPARE(::mkfifo(media(u"pipe.mp3"_s).toUtf8().constData(), 0600), 0);
+    QVERIFY(QFile::link(u"/dev/zero"_s, media(u"zero.mp3"_s)));
+    m_app->controller->addMediaFolder(AppDelegate::ListKind::Audio, m_media->path());
+    QCOMPARE(m_app->questions.alerts.size(), 1); // before anything is measured
+    const QString told = m_app->questions.alerts.first().informative;
+    QVERIFY2(
+        told.contains(u"pipes or devices"_s) && told.contains(u"pipe.mp3"_s) && told.contains(u"zero.mp3"_s),
+        qPrintable(told));
+    QVERIFY(awaitAdded());
+    QCOMPARE(column(audio(), 0), QStringList(u"good.mp3"_s));
+    QCOMPARE(m_app->ffmpeg.runs().size(), 1);
+    m_app->controller->addMediaFiles(
+        AppDelegate::ListKind::Audio, { QUrl::fromLocalFile(media(u"pipe.mp3"_s)) });
+    QCOMPARE(m_app->questions.alerts.size(), 2);
+    QVERIFY(!m_app->controller->windowUniqueProgress);
+    QCOMPARE(audio()->model()->rowCount(), 1);
 }
 
 void ListsTest::mediaFolder_data()
@@ -1161,7 +1238,9 @@ void ListsTest::contextMenu()
     m_app->controller->arrayMediaFiles = QList<NodeMediaFile>(rows);
     m_app->controller->arrayDataFolders = QList<NodeDataFolder>(rows);
     ListTableView *list = m_app->controller->selectedTable();
-    m_app->controller->refreshTable(list);
+    m_app->controller->refreshTableAudioFiles();
+    m_app->controller->refreshTableVideoFiles();
+    m_app->controller->refreshTableDataFolders();
     const auto offered = [&] {
         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
         QStringList texts;
@@ -1224,6 +1303,11 @@ void ListsTest::dropOfAnAlbum()
     QCOMPARE(m_app->controller->arrayMediaFiles.first().s_File_Path, media(u"album/one.mp3"_s));
     QCOMPARE(m_app->questions.alerts.size(), 1);
     QVERIFY(m_app->questions.alerts.first().informative.endsWith(u"\n\nno music"_s));
+    makeFile(media(u"loud/X.MP3"_s));
+    person::drop(audio(), { QUrl::fromLocalFile(media(u"loud/"_s)) });
+    QCOMPARE(m_app->questions.alerts.size(), 2);
+    QVERIFY(m_app->questions.alerts.last().informative.contains(u"capital letters"_s));
+    QVERIFY(m_app->questions.alerts.last().informative.endsWith(u"\n\nloud"_s));
 }
 
 // A file manager that is told that files were moved may take them away.
@@ -1278,8 +1362,14 @@ void ListsTest::dropThatDoesNotFitIsTold()
     QCOMPARE(column(audio(), 0), QStringList(u"good.mp3"_s));
     QCOMPARE(m_app->questions.alerts.size(), 1);
     const QString told = m_app->questions.alerts.first().informative;
-    for (const auto &name : { u"text.txt"_s, u"song.mp3"_s, u"gone.mp3"_s })
-        QVERIFY2(told.contains(name), qPrintable(name));
+    // Each under its own reason, in the order in which they came.
+    qsizetype at = -1;
+    for (const auto &text :
+        { u"files that end in wma"_s, u"\n\ntext.txt\n\n"_s, u"not files of this computer"_s,
+            u"\n\nhttps://example.org/song.mp3\n\n"_s, u"no files of these names"_s, u"\n\ngone.mp3"_s }) {
+        QVERIFY2(told.indexOf(text) > at, qPrintable(told));
+        at = told.indexOf(text);
+    }
     QVERIFY(!told.contains(u"good.mp3"_s));
     m_app->questions.alerts.clear();
     person::drop(audio(), { QUrl(QUrl::fromEncoded("file://" + bad.toEncoded())) });

@@ -38,6 +38,8 @@ private Q_SLOTS:
     void makesMediaRecords_data();
     void makesMediaRecords();
     void measuresFiles();
+    void tellsWhyAFileIsNotMeasured_data();
+    void tellsWhyAFileIsNotMeasured();
     void makesFolderRecords_data();
     void makesFolderRecords();
     void startsRecordsEmpty();
@@ -247,6 +249,42 @@ void MeasuringTest::measuresFiles()
     QCOMPARE(compilation::fileSize(folder.filePath(u"gone.wav"_s)), 0U);
     QCOMPARE(compilation::fileSize({}), 0U);
     QCOMPARE(compilation::mediaRecord(QUrl::fromLocalFile(path), path).s_File_Size, u"5.00 GB"_s);
+}
+
+void MeasuringTest::tellsWhyAFileIsNotMeasured_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QByteArray>("printed"); // @: the file's path
+    QTest::addColumn<QString>("why");
+    const auto row = [](const char *name, const QByteArray &content, const QByteArray &printed,
+                         const QString &why) { QTest::newRow(name) << content << printed << why; };
+    row("measured", "x", report("00:03:25.47"), {});
+    row("longer than the fields", "x", report("100:00:00.00"), {});
+    row("shorter than a second", "x", report("00:00:00.04"), {});
+    row("no length", "x", report("N/A"), u"The file does not say how long it is."_s);
+    row("no word of it", "x", "Input #0\nAt least one output file must be specified\n",
+        u"The file does not say how long it is."_s);
+    row("nothing printed", "x", "", u"The file does not say how long it is."_s);
+    row("no media", "text", "ffmpeg version 5\n@: Invalid data found when processing input\n",
+        u"The file cannot be read as sound or film: Invalid data found when processing input."_s);
+    row("empty", "", "@: Invalid data found when processing input\n", u"The file is empty."_s);
+    row("tags that are no text", "x", report("00:03:25.47", "x", "  title : caf\xe9\n"),
+        u"What the file says of itself is not valid UTF-8 text."_s);
+}
+
+void MeasuringTest::tellsWhyAFileIsNotMeasured()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QByteArray, printed);
+    QTemporaryDir folder;
+    const QString path = folder.filePath(u"a: b.mp3"_s);
+    QCOMPARE(compilation::whyNotMeasured(path, {}, printed), u"There is no such file any more."_s);
+    QFile file(path);
+    QVERIFY(file.open(QFile::WriteOnly));
+    file.write(content);
+    file.close();
+    printed.replace('@', path.toUtf8());
+    QTEST(compilation::whyNotMeasured(path, compilation::durationText(printed), printed), "why");
 }
 
 void MeasuringTest::makesFolderRecords_data()

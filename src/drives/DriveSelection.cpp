@@ -20,16 +20,20 @@ Slots slotItems(const Ui::MainWindow *ui)
         ui->submenuItemDriveSlot4, ui->submenuItemDriveSlot5, ui->submenuItemDriveSlot6 };
 }
 
+/// Bytes of a listing that are read; a flood would be taken for a million drives.
+constexpr qsizetype mostListed = 64 * 1024;
+
 QString menuText(const Object_Optical_Drive &drive)
 {
-    return drives::title(drive).replace(u'&', u"&&"_s);
+    // What follows a tab would stand in the column of the keys.
+    return drives::title(drive).replace(u'&', u"&&"_s).replace(u'\t', u' ');
 }
 
 } // namespace
 
 void AppDelegate::Load_List_Of_Optical_Drives()
 {
-    const QByteArray listing = captureTool(around.drutil, { u"list"_s });
+    const QByteArray listing = captureTool(around.drutil, { u"list"_s }).left(mostListed);
     array_Optical_Media_Drives = drives::parseList(QString::fromUtf8(listing));
     const drives::Choice choice =
         drives::choose(array_Optical_Media_Drives, preference(preferences::lastDrive));
@@ -128,7 +132,7 @@ void AppDelegate::OnMenuDriveInsertBlank(const QString &kind)
         captureTool(around.drutil, { u"insert"_s, kind, u"-drive"_s, s_Current_Drive_Number }, &end);
     if (end.troubled())
         alert(tr("The disc could not be changed"),
-            said.isEmpty() ? end.text() : QString::fromUtf8(said).trimmed());
+            said.isEmpty() ? end.text() : QString::fromUtf8(said).trimmed(), Alert::Sign::Error);
 }
 
 void AppDelegate::OnMenuDriveShowDiscs()
@@ -138,5 +142,5 @@ void AppDelegate::OnMenuDriveShowDiscs()
         captureTool(around.drutil, { u"folder"_s, u"-drive"_s, s_Current_Drive_Number }, &end))
                              .trimmed();
     if (end.troubled() || !QDesktopServices::openUrl(QUrl::fromLocalFile(said)))
-        alert(tr("The folder of written discs could not be opened"), said);
+        alert(tr("The folder of written discs could not be opened"), said, Alert::Sign::Error);
 }

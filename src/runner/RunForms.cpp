@@ -72,9 +72,7 @@ QByteArray AppDelegate::captureTool(
 {
     auto *run = new ToolRun(program, arguments, activityLog, this);
     Patience patience(window->stage());
-    // No answer is longer; a flood would be taken for a million drives.
-    const QByteArray printed =
-        run->capture(around.probeLimit, [&patience] { patience(); }).left(ActivityLog::keptOutput);
+    const QByteArray printed = run->capture(around.probeLimit, [&patience] { patience(); });
     m_probeHung = run->hasEnded() && run->end().how == runner::ToolEnd::How::EndedByUs;
     if (end) {
         run->waitForFinished(around.probeLimit);

@@ -60,6 +60,8 @@ private Q_SLOTS:
     void choosingIsRememberedOnDisk();
     void choosingWithoutADrive();
     void titleWithAmpersand();
+    void titleWithTab();
+    void statusBehindALongText();
     void shortNumberColumn();
     void errorTextIsReadAsATable();
     void virtualRecorderItems();
@@ -243,6 +245,27 @@ void DriveMenuTest::titleWithAmpersand()
     launchWith(header + driveLine("1", "R&D", "A && B"));
     QCOMPARE(slot(1)->text().replace(u"&&"_s, u"&"_s), u"R&D - A && B"_s);
     QCOMPARE(remembered(), u"R&D - A && B"_s);
+}
+
+/// What follows a tab in a menu item's text is shown as its key.
+void DriveMenuTest::titleWithTab()
+{
+    launchWith(header + driveLine("1", "VENDOR", "BURN\tCtrl+Q"));
+    QCOMPARE(slot(1)->text(), u"VENDOR - BURN Ctrl+Q"_s);
+    QCOMPARE(remembered(), u"VENDOR - BURN\tCtrl+Q"_s);
+}
+
+/// The words are searched in all that the utility prints, more than the activity log keeps.
+void DriveMenuTest::statusBehindALongText()
+{
+    AppDelegate &controller = launchWith(listing(1));
+    m_app->drutil.run("yes 'a drive that tells a lot' | head -c 6000000; echo 'DVD overwritable erasable'");
+    QVERIFY(!controller.IsDriveEmpty());
+    QVERIFY(controller.IsMediaOneTimeWritable());
+    QVERIFY(controller.IsMediaReWritable());
+    QCOMPARE(controller.TypeOfMediaInTheDrive(), u"DVD"_s);
+    m_app->drutil.run("yes 'a drive that tells a lot' | head -c 6000000; echo 'No Media Inserted'");
+    QVERIFY(controller.IsDriveEmpty());
 }
 
 void DriveMenuTest::shortNumberColumn()

@@ -150,7 +150,7 @@ bool AppDelegate::makeWorkingFolders()
         if (QFile::exists(path))
             continue;
         if (!QDir().mkpath(path)) {
-            alert(u"Error"_s, folder.failure);
+            alert(u"Error"_s, folder.failure, Alert::Sign::Error);
             return false;
         }
         if (folder.path == &AppDelegate::s_Output_Folder)
@@ -206,9 +206,9 @@ void AppDelegate::Terminate_App()
     around.exitProcess(0);
 }
 
-void AppDelegate::alert(const QString &message, const QString &informative)
+void AppDelegate::alert(const QString &message, const QString &informative, Alert::Sign sign)
 {
-    around.questions->ask({ message, informative, { u"Close"_s } }, window);
+    around.questions->ask({ message, informative, { u"Close"_s }, sign }, window);
 }
 
 void AppDelegate::schedule(QPointer<QTimer> &timer, TimerRoutine routine)

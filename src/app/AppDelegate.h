@@ -227,7 +227,7 @@ public:
     void TimerSetAlternatingRowsRoutine(), TimerForceColorsAtStartupRoutine();
 
     /// Shows one alert with the button "Close".
-    void alert(const QString &message, const QString &informative);
+    void alert(const QString &message, const QString &informative, Alert::Sign sign = Alert::Sign::Warning);
 
 Q_SIGNALS:
     /// A job has begun; it is the controller's, and lives until just before operationCompleted() or is given up silently.
@@ -269,6 +269,8 @@ private:
     QString selectedPage() const; ///< identifier of the selected tab, "1" to "5"
 
     // ---- Drives and media (drives/)
+    /// In debug mode, what the disc utility printed, as it stands.
+    void tellPrinted(const QString &printed, const QString &code);
     QString driveStatus(); ///< what the disc utility prints of the current drive's medium
     QString driveTitle() const; ///< vendor and product of the current drive, empty where none is listed
     void chooseDrive(int slot); ///< 0..5

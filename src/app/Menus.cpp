@@ -33,7 +33,8 @@ void AppDelegate::OnMenuDebugMode()
 void AppDelegate::openPage(const QUrl &page)
 {
     if (!QDesktopServices::openUrl(page))
-        alert(tr("The page could not be opened"), tr("Open it in a browser: %1").arg(page.toString()));
+        alert(tr("The page could not be opened"), tr("Open it in a browser: %1").arg(page.toString()),
+            Alert::Sign::Error);
 }
 
 void AppDelegate::OnMenuHelpAppHomePage()
@@ -63,7 +64,7 @@ void AppDelegate::OnMenuHelpAbout()
             tr("Prepares and writes optical discs.\n\nFree software under the GNU General Public "
                "License, version 2 or later.\nBuilt on Qt %1, libburn, libisofs, ffmpeg and mpv.")
                 .arg(QString::fromLatin1(qVersion())),
-            { u"Close"_s } },
+            { u"Close"_s }, Alert::Sign::Note },
         window);
 }
 

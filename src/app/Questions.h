@@ -11,10 +11,16 @@ class QWidget;
 
 /// A modal alert: a message, a text below it, and buttons of which the first is the default.
 struct Alert {
+    /// What the alert is about: news, something that hinders, something that failed.
+    enum class Sign { Note, Warning, Error };
+    /// Which text is what a tool printed, so that its columns matter.
+    enum class Report { None, Message, Informative };
+
     QString message;
     QString informative;
     QStringList buttons;
-    bool fixedWidth = false; ///< the text below is a report whose columns matter
+    Sign sign = Sign::Warning;
+    Report report = Report::None;
     int dismissed = -1; ///< position of the button that closing stands for; below 0: the last
 };
 

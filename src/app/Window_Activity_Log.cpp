@@ -131,7 +131,9 @@ void Window_Activity_Log::save()
         return;
     const QString failure = saveTo(path);
     if (!failure.isEmpty())
-        Window_Alert({ tr("The log could not be saved"), path + u'\n' + failure, { u"Close"_s } }, this)
+        Window_Alert(
+            { tr("The log could not be saved"), path + u'\n' + failure, { u"Close"_s }, Alert::Sign::Error },
+            this)
             .exec();
 }
 

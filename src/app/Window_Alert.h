@@ -12,8 +12,9 @@ namespace Ui {
 class Window_Alert;
 }
 
-/// Shows an alert's two texts as they are, never as rich text; a long one, or one whose columns
-/// matter, in a scrolling, selectable, fixed-width field. exec() answers the button's position.
+/// Shows an alert's two texts as they are, never as rich text, the message above the informative one; a long
+/// one, or one whose columns matter, in a selectable, fixed-width field, as large as the text up to the size of
+/// the window `over`, or of the screen without one. exec() answers the button's position.
 class Window_Alert : public QDialog {
     Q_OBJECT
 public:
@@ -27,8 +28,10 @@ public:
     void reject() override;
 
 private:
+    void showSign(Alert::Sign sign);
     void showTexts(const Alert &alert);
-    void showReport(const QString &text, bool columns);
+    void showReport(const QString &text);
+    QSize roomForReport() const;
     void addButtons(const QStringList &titles);
 
     std::unique_ptr<Ui::Window_Alert> m_ui;

@@ -426,11 +426,11 @@ void AppDelegate::playSelected(const ListTableView *table)
     if (row < 0)
         return alert(u"There is no file selected."_s, u"There is no file selected."_s);
     const auto tell = [this](const QString &message, const QString &informative, QWidget *over) {
-        around.questions->ask({ message, informative, { u"OK"_s } }, over);
+        around.questions->ask({ message, informative, { u"OK"_s }, Alert::Sign::Error }, over);
     };
     if (const QString whyNot = playPreview(arrayMediaFiles.at(row).s_File_URL, window, *preferences, tell);
         !whyNot.isEmpty())
-        alert(tr("The file cannot be played."), whyNot);
+        alert(tr("The file cannot be played."), whyNot, Alert::Sign::Error);
 }
 
 void AppDelegate::OnActionAudioPlay()

@@ -1,5 +1,6 @@
 // The four questions about the disc in the current drive. Each asks the disc utility anew.
 #include "app/AppDelegate.h"
+#include "app/MainWindow.h"
 #include "drives/MediaStatus.h"
 
 using namespace Qt::StringLiterals;
@@ -14,6 +15,12 @@ QString AppDelegate::driveStatus()
     return m_lastStatus;
 }
 
+void AppDelegate::tellPrinted(const QString &printed, const QString &code)
+{
+    around.questions->ask(
+        { printed, code, { u"Close"_s }, Alert::Sign::Warning, Alert::Report::Message }, window);
+}
+
 bool AppDelegate::IsDriveEmpty()
 {
     m_probeHung = false; // always the first question
@@ -25,7 +32,7 @@ bool AppDelegate::IsMediaOneTimeWritable()
     const QString status = driveStatus();
     const bool writable = drives::saysOverwritable(status);
     if (!writable && m_b_Debug_Mode)
-        alert(status, u"Warning 0030."_s);
+        tellPrinted(status, u"Warning 0030."_s);
     return writable;
 }
 
@@ -34,7 +41,7 @@ bool AppDelegate::IsMediaReWritable()
     const QString status = driveStatus();
     const bool erasable = drives::saysErasable(status);
     if (!erasable && m_b_Debug_Mode)
-        alert(status, u"Warning 0040."_s);
+        tellPrinted(status, u"Warning 0040."_s);
     return erasable;
 }
 

@@ -59,5 +59,7 @@ void AppDelegate::OnToolsDiscInfo()
     if (IsDriveEmpty())
         return alert(
             u"No disc"_s, u"There is no disc on the drive. Insert a media on the drive and try again."_s);
-    around.questions->ask({ u"Disc Information"_s, driveStatus(), { u"OK"_s }, true }, window);
+    around.questions->ask(
+        { u"Disc Information"_s, driveStatus(), { u"OK"_s }, Alert::Sign::Note, Alert::Report::Informative },
+        window);
 }

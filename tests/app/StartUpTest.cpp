@@ -153,6 +153,7 @@ void StartUpTest::folderThatCannotBeMade()
     TestApplication app;
     app.launch();
     QCOMPARE(app.questions.texts(), QStringList(u"Error | "_s + text));
+    QCOMPARE(app.questions.alerts.first().sign, Alert::Sign::Error);
     QCOMPARE(app.questions.alerts.first().buttons, QStringList(u"Close"_s));
     QCOMPARE(app.exits, QList<int>(1, 0));
     QVERIFY(!app.window->isVisible());

@@ -42,6 +42,12 @@ private Q_SLOTS:
     void alertWithALongText();
     void alertFitsTheScreen_data();
     void alertFitsTheScreen();
+    void alertShowsItsTextsInOrder_data();
+    void alertShowsItsTextsInOrder();
+    void alertIsAsLargeAsItsReport_data();
+    void alertIsAsLargeAsItsReport();
+    void alertHasTheSignOfItsKind();
+    void alertWithANul();
     void alertKeys_data();
     void alertKeys();
     void alertOverTheWindow();
@@ -304,7 +310,8 @@ void WindowsTest::alertWithALongText()
     const QString report = fixedWidth ? u" Type: CD-R\n Size: 1"_s : u"a line of a tool\n"_s.repeated(2000);
     const QString other = u"Warning 0030."_s;
     Window_Alert alert(
-        { longMessage ? report : other, longMessage ? other : report, { u"Close"_s }, fixedWidth },
+        { longMessage ? report : other, longMessage ? other : report, { u"Close"_s }, Alert::Sign::Warning,
+            fixedWidth ? Alert::Report::Informative : Alert::Report::None },
         m_app->window.get());
     alert.show();
     const auto *field = alert.findChild<QPlainTextEdit *>();
@@ -339,6 +346,134 @@ void WindowsTest::alertFitsTheScreen()
         const auto *button = alert.findChild<QPushButton *>();
         QVERIFY(alert.rect().contains(QRect(button->mapTo(&alert, QPoint()), button->size())));
     }
+}
+
+/// Whatever of it is long or was printed, the message stands above the text below it, and what was printed in
+/// a fixed-width field.
+void WindowsTest::alertShowsItsTextsInOrder_data()
+{
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QString>("informative");
+    QTest::addColumn<Alert::Report>("report");
+    QTest::addColumn<QStringList>("fields");
+    QTest::addColumn<QStringList>("labels");
+    const auto few = u" Type: CD-R\n Size: 1\n"_s;
+    const auto many = u"a line of a tool\n"_s.repeated(30);
+    const auto code = u"Warning 0030."_s;
+    using enum Alert::Report;
+    const QStringList nothing;
+    QTest::newRow("two lines printed") << few << code << Message << QStringList(few) << QStringList(code);
+    QTest::newRow("many lines printed") << many << code << Message << QStringList(many) << QStringList(code);
+    QTest::newRow("nothing printed") << QString() << code << Message << QStringList(QString())
+                                     << QStringList(code);
+    QTest::newRow("printed below") << code << few << Informative << QStringList(few) << QStringList(code);
+    QTest::newRow("two short texts") << code << few << None << nothing << QStringList({ code, few });
+    QTest::newRow("long message") << many << code << None << QStringList(many) << QStringList(code);
+    QTest::newRow("both long") << many << many << None << QStringList(many + u"\n\n"_s + many) << nothing;
+}
+
+void WindowsTest::alertShowsItsTextsInOrder()
+{
+    QFETCH(QString, message);
+    QFETCH(QString, informative);
+    QFETCH(Alert::Report, report);
+    QFETCH(QStringList, fields);
+    QFETCH(QStringList, labels);
+    Window_Alert alert(
+        { message, informative, { u"Close"_s }, Alert::Sign::Warning, report }, m_app->window.get());
+    alert.show();
+    QMap<int, QString> byHeight;
+    QStringList seenFields;
+    QStringList seenLabels;
+    const auto note = [&](const QWidget *widget, const QString &text, QStringList &seen) {
+        if (!widget->isVisible() || (text.isEmpty() && widget->inherits("QLabel")))
+            return;
+        seen.append(text);
+        byHeight.insert(widget->mapTo(&alert, QPoint()).y(), text);
+    };
+    for (const char *name : { "labelMessage", "labelInformative" }) {
+        const auto *label = alert.findChild<QLabel *>(QLatin1StringView(name));
+        note(label, label->text(), seenLabels);
+    }
+    const auto *field = alert.findChild<QPlainTextEdit *>();
+    note(field, field->toPlainText(), seenFields);
+    QCOMPARE(seenFields, fields);
+    QCOMPARE(seenLabels, labels);
+    if (byHeight.size() == 2)
+        QCOMPARE(byHeight.values(), QStringList({ message, informative }));
+    const QFontMetrics metrics = field->fontMetrics();
+    if (field->isVisible())
+        QCOMPARE(metrics.horizontalAdvance(u"iiii"_s), metrics.horizontalAdvance(u"MMMM"_s));
+}
+
+void WindowsTest::alertIsAsLargeAsItsReport_data()
+{
+    QTest::addColumn<int>("lines");
+    QTest::addColumn<int>("columns");
+    QTest::addColumn<bool>("fits");
+    QTest::newRow("four lines") << 4 << 30 << true;
+    QTest::newRow("a status of a drive") << 22 << 80 << true;
+    QTest::newRow("one line") << 1 << 85 << true;
+    QTest::newRow("a page") << 200 << 30 << false;
+    QTest::newRow("wide") << 4 << 400 << false;
+}
+
+void WindowsTest::alertIsAsLargeAsItsReport()
+{
+    QFETCH(int, lines);
+    QFETCH(int, columns);
+    QFETCH(bool, fits);
+    const QString text = (QString(columns, u'm') + u'\n').repeated(lines);
+    for (const auto report : { Alert::Report::Message, Alert::Report::Informative }) {
+        const bool above = report == Alert::Report::Message;
+        Window_Alert alert({ above ? text : u"Disc Information"_s, above ? u"Warning 0030."_s : text,
+                               { u"OK"_s }, Alert::Sign::Note, report },
+            m_app->window.get());
+        alert.show();
+        QCoreApplication::processEvents();
+        const auto *field = alert.findChild<QPlainTextEdit *>();
+        const bool down = field->verticalScrollBar()->maximum() > 0;
+        const bool across = field->horizontalScrollBar()->maximum() > 0;
+        QVERIFY2((!down && !across) == fits,
+            qPrintable(u"%1 of %2, %3 of %4"_s.arg(field->width())
+                           .arg(field->fontMetrics().horizontalAdvance(QString(columns, u'm')))
+                           .arg(field->height())
+                           .arg(field->fontMetrics().lineSpacing() * (lines + 1))));
+        QCOMPARE(down, lines > 100);
+        QCOMPARE(across, columns > 200);
+        QVERIFY2(alert.width() <= m_app->window->width() && alert.height() <= m_app->window->height(),
+            qPrintable(u"%1 x %2"_s.arg(alert.width()).arg(alert.height())));
+        const int line = field->fontMetrics().lineSpacing();
+        if (fits)
+            QVERIFY2(field->height() < (lines + 3) * line, qPrintable(QString::number(field->height())));
+    }
+}
+
+void WindowsTest::alertHasTheSignOfItsKind()
+{
+    QMap<QString, QImage> signs;
+    for (const auto sign : { Alert::Sign::Note, Alert::Sign::Warning, Alert::Sign::Error }) {
+        Window_Alert alert({ u"m"_s, u"i"_s, { u"Close"_s }, sign }, m_app->window.get());
+        const auto *label = alert.findChild<QLabel *>(u"labelIcon"_s);
+        QVERIFY(!label->accessibleName().isEmpty());
+        signs.insert(label->accessibleName(), label->pixmap().toImage());
+    }
+    QCOMPARE(signs.keys(), QStringList({ u"Error"_s, u"Note"_s, u"Warning"_s }));
+    QVERIFY(signs[u"Error"_s] != signs[u"Warning"_s] && signs[u"Warning"_s] != signs[u"Note"_s]
+        && signs[u"Note"_s] != signs[u"Error"_s]);
+}
+
+/// What stands behind it is read, too.
+void WindowsTest::alertWithANul()
+{
+    const QString text = u"before"_s + QChar::Null + u"behind"_s;
+    const QString seen = u"before"_s + QChar::ReplacementCharacter + u"behind"_s;
+    Window_Alert alert({ text, text, { u"Close"_s } }, m_app->window.get());
+    QCOMPARE(alert.findChild<QLabel *>(u"labelMessage"_s)->text(), seen);
+    QCOMPARE(alert.findChild<QLabel *>(u"labelInformative"_s)->text(), seen);
+    Window_Alert report(
+        { text, text, { u"Close"_s }, Alert::Sign::Note, Alert::Report::Message }, m_app->window.get());
+    QCOMPARE(report.findChild<QPlainTextEdit *>()->toPlainText(), seen);
 }
 
 void WindowsTest::alertKeys_data()

@@ -274,9 +274,11 @@ private:
     QString driveStatus(); ///< what the disc utility prints of the current drive's medium
     QString driveTitle() const; ///< vendor and product of the current drive, empty where none is listed
     void chooseDrive(int slot); ///< 0..5
+    void preferCurrentDrive(); ///< tells the tools, by this process' environment
     void offerVirtualDrive(); ///< shows or hides what only a virtual recorder can do
     bool isVirtualRecorderSelected() const;
     QString m_lastStatus; ///< the newest answer of driveStatus()
+    QString m_notStarted; ///< why the newest tool that was waited for could not be started; empty: it was
     bool m_probeHung = false; ///< the newest tool that was waited for gave no answer in time
 
     // ---- Adding, removing, tables (compilation/)
@@ -348,6 +350,8 @@ private:
     QString duplicationImage() const;
     bool promptForBlank(); ///< false: the person gave up
     void eraseDisc(const QString &extent); ///< "full" or "quick"
+    void moveTray(const QString &motion); ///< "eject" or "close"
+    bool tellNotStarted(); ///< an alert, where the newest tool could not be started
     std::unique_ptr<writing::FolderGathering> m_gathering; ///< of the present job
 
     // ---- Appearance (ui/)

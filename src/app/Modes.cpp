@@ -59,7 +59,8 @@ void AppDelegate::ShowNewDiscWindow()
 void AppDelegate::Show_Window_New_Disc()
 {
     delete windowNewDisc;
-    windowNewDisc = new Window_New_Disc(window->stage(), i_Type_of_New_Disc);
+    windowNewDisc = new Window_New_Disc(
+        window->stage(), i_Type_of_New_Disc, !arrayMediaFiles.isEmpty() || !arrayDataFolders.isEmpty());
     const auto closeWith = [this](std::optional<int> code) {
         i_Type_of_New_Disc = code.value_or(i_Type_of_New_Disc);
         Close_Window_New_Disc();

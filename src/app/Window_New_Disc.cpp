@@ -1,10 +1,11 @@
 #include "app/Window_New_Disc.h"
 
+#include "kit/RadioChoice.h"
 #include "ui_Window_New_Disc.h"
 
 #include <QPushButton>
 
-Window_New_Disc::Window_New_Disc(SheetStage *stage, qint64 code)
+Window_New_Disc::Window_New_Disc(SheetStage *stage, qint64 code, bool emptiesLists)
     : Sheet(stage, Dismiss::ByPerson)
     , m_ui(std::make_unique<Ui::Window_New_Disc>())
 {
@@ -13,6 +14,7 @@ Window_New_Disc::Window_New_Disc(SheetStage *stage, qint64 code)
         m_ui->radio7, m_ui->radio8 };
     connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &Window_New_Disc::OnOK);
     connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &Window_New_Disc::OnCancel);
+    m_ui->labelNote->setVisible(emptiesLists);
     windowDidLoad(code);
 }
 
@@ -28,13 +30,14 @@ void Window_New_Disc::windowDidLoad(qint64 code)
     for (int number = 1; number <= 8; ++number) {
         const auto position = static_cast<std::size_t>(number - 1);
         QRadioButton *radio = m_radios.at(position);
-        radio->setAutoExclusive(false);
         radio->setChecked(number == code);
         connect(radio, &QRadioButton::clicked, radio, [radio] { radio->setChecked(true); });
         connect(radio, &QRadioButton::clicked, this, actions.at(position));
         if (radio->isChecked())
             radio->setFocus();
     }
+    auto *choice = new RadioChoice({ m_radios.begin(), m_radios.end() }, this);
+    connect(choice, &RadioChoice::confirmed, this, &Window_New_Disc::OnOK);
     m_ui->buttonBox->button(QDialogButtonBox::Ok)->setDefault(true);
 }
 

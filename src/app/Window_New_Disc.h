@@ -16,8 +16,9 @@ class Window_New_Disc;
 class Window_New_Disc : public Sheet {
     Q_OBJECT
 public:
-    /// `code` is chosen at first; none where there is no such project type.
-    Window_New_Disc(SheetStage *stage, qint64 code);
+    /// `code` is chosen at first; none where there is no such project type. `emptiesLists`: OK will empty lists that hold
+    /// something, and the sheet says so.
+    Window_New_Disc(SheetStage *stage, qint64 code, bool emptiesLists);
     ~Window_New_Disc() override;
 
     void OnRadio1() { chosen(1); }

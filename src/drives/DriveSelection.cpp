@@ -39,6 +39,7 @@ void AppDelegate::Load_List_Of_Optical_Drives()
         drives::choose(array_Optical_Media_Drives, preference(preferences::lastDrive));
     if (!choice.number.isEmpty())
         s_Current_Drive_Number = choice.number;
+    preferCurrentDrive();
     if (!choice.remember.isEmpty())
         setPreference(preferences::lastDrive, choice.remember);
     const Slots items = slotItems(ui);
@@ -63,6 +64,7 @@ void AppDelegate::chooseDrive(int slot)
     }
     const Object_Optical_Drive &drive = array_Optical_Media_Drives.at(slot);
     s_Current_Drive_Number = drive.s_Drive_Number;
+    preferCurrentDrive();
     setPreference(preferences::lastDrive, drives::title(drive));
     for (std::size_t i = 0; i < items.size(); ++i)
         items[i]->setChecked(static_cast<int>(i) == slot);
@@ -97,6 +99,12 @@ void AppDelegate::OnMenuDriveSlot5()
 void AppDelegate::OnMenuDriveSlot6()
 {
     chooseDrive(5);
+}
+
+void AppDelegate::preferCurrentDrive()
+{
+    // For the tool that writes images, which is told no drive.
+    qputenv("CORVALIS_PREFERRED_DRIVE", s_Current_Drive_Number.toUtf8());
 }
 
 QString AppDelegate::driveTitle() const

@@ -9,10 +9,11 @@
 #include <algorithm>
 
 Sheet::Sheet(SheetStage *stage, Dismiss dismiss)
-    : QDialog(stage->ground(), Qt::Widget)
+    : QDialog(stage->ground())
     , m_stage(stage)
     , m_dismiss(dismiss)
 {
+    setWindowFlags(Qt::Widget); // the dialog's constructor makes a window of itself
 }
 
 Sheet::~Sheet()

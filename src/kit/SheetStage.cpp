@@ -23,6 +23,9 @@ SheetStage::SheetStage(QWidget *content)
     m_ground->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
     m_places->setContentsMargins(16, 16, 16, 16);
+    // In a column of its own width, which decides how high its texts are.
+    m_places->setColumnStretch(0, 1);
+    m_places->setColumnStretch(2, 1);
     m_places->setRowStretch(0, 1);
     m_places->setRowStretch(2, 5);
     content->installEventFilter(this);
@@ -65,7 +68,7 @@ QWidget *SheetStage::front() const
 void SheetStage::begin(Sheet *sheet)
 {
     m_sheets.append(sheet);
-    m_places->addWidget(sheet, 1, 0, Qt::AlignHCenter | Qt::AlignTop);
+    m_places->addWidget(sheet, 1, 1);
     update();
     sheet->show();
     sheet->raise();

@@ -52,8 +52,8 @@ qsizetype ActivityLog::begin(const QString &program, const QStringList &argument
     {
         const QMutexLocker lock(&m_mutex);
         position = m_activities.size();
-        m_activities.append({ QDateTime::currentDateTime(), QStringList(program) + arguments, subject, {},
-            true, false, {}, 0 });
+        m_activities.append(
+            { QDateTime::currentDateTime(), QStringList(program) + arguments, subject, {}, false, {}, 0 });
     }
     Q_EMIT changed();
     return position;
@@ -86,7 +86,7 @@ void ActivityLog::note(const QString &text, const QString &detail)
 {
     {
         const QMutexLocker lock(&m_mutex);
-        m_activities.append({ QDateTime::currentDateTime(), {}, {}, text, true, true, detail.toUtf8(), 0 });
+        m_activities.append({ QDateTime::currentDateTime(), {}, {}, text, true, detail.toUtf8(), 0 });
     }
     Q_EMIT changed();
 }

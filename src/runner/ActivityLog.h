@@ -14,10 +14,10 @@ struct Activity {
     QStringList command; ///< program and arguments; empty for a note
     QString subject; ///< what the run works on, as a person knows it; empty: nothing but the tool is known
     QString outcome; ///< how it ended, in words; empty while it runs
-    bool spoke = true; ///< it ended by itself
     bool troubled = false; ///< it did not start, crashed, was ended, or ended with another status than 0
     QByteArray output; ///< standard output and standard error as they came
     qint64 leftOut = 0; ///< bytes of output beyond what is kept
+    bool spoke = true; ///< it ended by itself
 
     /// The command as one line that a shell would take, or the note's text.
     QString commandLine() const;

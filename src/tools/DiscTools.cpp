@@ -44,19 +44,36 @@ void AppDelegate::eraseDisc(const QString &extent)
     Show_Window_Performing_Operation();
 }
 
+bool AppDelegate::tellNotStarted()
+{
+    if (m_notStarted.isEmpty())
+        return false;
+    alert(tr("The disc utility cannot be used"), m_notStarted);
+    return true;
+}
+
+void AppDelegate::moveTray(const QString &motion)
+{
+    captureTool(around.drutil, { u"tray"_s, motion, u"-drive"_s, s_Current_Drive_Number });
+    tellNotStarted();
+}
+
 void AppDelegate::OnToolsEjectDisc()
 {
-    captureTool(around.drutil, { u"tray"_s, u"eject"_s, u"-drive"_s, s_Current_Drive_Number });
+    moveTray(u"eject"_s);
 }
 
 void AppDelegate::OnToolsLoadDisc()
 {
-    captureTool(around.drutil, { u"tray"_s, u"close"_s, u"-drive"_s, s_Current_Drive_Number });
+    moveTray(u"close"_s);
 }
 
 void AppDelegate::OnToolsDiscInfo()
 {
-    if (IsDriveEmpty())
+    const bool empty = IsDriveEmpty();
+    if (tellNotStarted())
+        return;
+    if (empty)
         return alert(
             u"No disc"_s, u"There is no disc on the drive. Insert a media on the drive and try again."_s);
     around.questions->ask(

@@ -44,7 +44,10 @@ void AppDelegate::describeConverted(const QString &folder)
     const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden);
     for (const QFileInfo &file : files)
         bytes += file.size();
-    job->describe(counted(files.size(), tr("1 file"), tr("%1 files")), bytes);
+    const bool tracks = job->work().name == projects::byCode(1)->name;
+    job->describe(tracks ? counted(files.size(), tr("1 track"), tr("%1 tracks"))
+                         : counted(files.size(), tr("1 file"), tr("%1 files")),
+        bytes);
 }
 
 bool AppDelegate::beginJob(const writing::Work &work)
@@ -57,7 +60,8 @@ bool AppDelegate::beginJob(const writing::Work &work)
         if (!job->claim()) {
             dropJob();
             alert(tr("Another Corvalis is at work"),
-                tr("It prepares a disc in the folder %1. Wait until that disc is done and try again.").arg(folder));
+                tr("It prepares a disc in the folder %1. Wait until that disc is done and try again.")
+                    .arg(folder));
             return false;
         }
         RemoveAllContentInFolder(folder);
@@ -107,7 +111,8 @@ void AppDelegate::convertList(
     for (qsizetype i = 0; i < arrayMediaFiles.size() && !job->isStopping(); ++i) {
         const NodeMediaFile file = arrayMediaFiles.at(i);
         i_Orig_Duration_in_Seconds = static_cast<quint64>(file.i_Duration_in_Seconds);
-        windowProgress->progressBar()->setRange(0, static_cast<int>(qMin<qint64>(file.i_Duration_in_Seconds, INT_MAX)));
+        windowProgress->progressBar()->setRange(
+            0, static_cast<int>(qMin<qint64>(file.i_Duration_in_Seconds, INT_MAX)));
         windowProgress->progressBar()->setValue(0);
         job->beginItem(file.s_File_Name_With_Extension, i + 1, arrayMediaFiles.size(), weight(file), weights);
         u_Type_Progress = progressMode;
@@ -123,10 +128,10 @@ void AppDelegate::convert(const QStringList &arguments, const NodeMediaFile &fil
     const bool taken = QFile::exists(arguments.last());
     transcodeAndWait(arguments, file.s_File_Name_With_Extension.simplified(), taken ? 1 : 0);
     if (taken) {
-        const QString why = tr("“%1” was left out: another entry of the list is converted to “%2” too. Rename one of "
-                               "the files and try again.")
-                                .arg(file.s_File_Path.simplified(),
-                                    QFileInfo(arguments.last()).fileName().simplified());
+        const QString why =
+            tr("“%1” was left out: another entry of the list is converted to “%2” too. Rename one of "
+               "the files and try again.")
+                .arg(file.s_File_Path.simplified(), QFileInfo(arguments.last()).fileName().simplified());
         activityLog->note(tr("A file was left out"), why);
         job->leaveOut(why);
     }
@@ -201,6 +206,7 @@ void AppDelegate::Close_Window_Operation_Complete()
     if (windowOperationCompleted)
         windowOperationCompleted->endSheet();
     windowOperationCompleted = nullptr;
+    focusList();
 }
 
 void AppDelegate::Show_Window_Progress(qsizetype items)
@@ -226,11 +232,14 @@ void AppDelegate::gatherFolders()
     m_gathering = std::make_unique<writing::FolderGathering>(arrayDataFolders, s_Data_Folder,
         writing::GatheringPace{ around.stagingPoll, around.copyEndLimit, around.stagingUntilCopied });
     writing::FolderGathering &gathering = *m_gathering;
-    connect(&gathering, &writing::FolderGathering::progressed, job.get(), [this](const writing::Gathered &so_far) {
-        job->gathered(so_far.folder, so_far.number, so_far.count, so_far.files, so_far.bytes, so_far.bytesExpected);
-        if (so_far.didNotFit > 0)
-            job->remark(tr("%1 files or folders did not fit where the disc is gathered.").arg(so_far.didNotFit));
-    });
+    connect(&gathering, &writing::FolderGathering::progressed, job.get(),
+        [this](const writing::Gathered &so_far) {
+            job->gathered(
+                so_far.folder, so_far.number, so_far.count, so_far.files, so_far.bytes, so_far.bytesExpected);
+            if (so_far.didNotFit > 0)
+                job->remark(
+                    tr("%1 files or folders did not fit where the disc is gathered.").arg(so_far.didNotFit));
+        });
     connect(&gathering, &writing::FolderGathering::leftOut, this, [this](const QString &what) {
         activityLog->note(tr("Not copied"), what);
         job->leaveOut(what, activityLog->size() - 1);

@@ -1,5 +1,6 @@
 #include "writing/Window_Video_Settings.h"
 
+#include "kit/RadioChoice.h"
 #include "ui_Window_Video_Settings.h"
 
 #include <QPushButton>
@@ -37,6 +38,8 @@ Window_Video_Settings::Window_Video_Settings(
     connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &Window_Video_Settings::OnOK);
     connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &Window_Video_Settings::OnCancel);
     m_ui->buttonBox->button(QDialogButtonBox::Ok)->setDefault(true);
+    new RadioChoice({ m_ui->radioVideoNTSC, m_ui->radioVideoPal }, this);
+    new RadioChoice({ m_ui->radioAudioDolbyDigital, m_ui->radioAudioMPEG2 }, this);
     windowDidLoad(videoFormat, audioFormat);
 }
 

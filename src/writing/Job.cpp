@@ -1,7 +1,6 @@
 #include "writing/Job.h"
 
 #include "compilation/Measuring.h"
-#include "runner/ActivityLog.h"
 #include "writing/FolderClaim.h"
 
 #include <QFileInfo>
@@ -21,20 +20,6 @@ using Phase = ToolProgress::Phase;
 /// How our disc tools begin a line that tells of something left out or changed.
 constexpr QLatin1StringView notePrefix("note: ");
 
-/// How long a tool that was asked to end may take: a drive has to close what it was writing.
-int patienceFor(Stage stage)
-{
-    switch (stage) {
-    case Stage::Erasing:
-    case Stage::Writing:
-        return 180'000;
-    case Stage::Imaging:
-        return 30'000;
-    default:
-        return 5'000;
-    }
-}
-
 QString joined(const QString &one, const QString &other)
 {
     return one.isEmpty() || other.isEmpty() ? one + other : one + u' ' + other;
@@ -42,9 +27,9 @@ QString joined(const QString &one, const QString &other)
 
 } // namespace
 
-Job::Job(Work work, ActivityLog *log)
+Job::Job(Work work, EndingPatience patience)
     : m_work(std::move(work))
-    , m_log(log)
+    , m_patience(patience)
     , m_drive(m_work.drive)
 {
     m_clock.start();
@@ -98,8 +83,9 @@ void Job::gathered(const QString &folder, qsizetype number, qsizetype count, qin
     m_progress.files = files;
     m_progress.bytes = bytes;
     m_progress.bytesExpected = bytesExpected;
-    tell(bytesExpected > 0 ? qMin(100.0, static_cast<double>(bytes) * 100 / static_cast<double>(bytesExpected))
-                           : -1);
+    tell(bytesExpected > 0
+            ? qMin(100.0, static_cast<double>(bytes) * 100 / static_cast<double>(bytesExpected))
+            : -1);
 }
 
 void Job::watch(ToolRun *run, Stage stage, bool decides)
@@ -150,8 +136,8 @@ void Job::readProgress(const ToolProgress &told)
     m_phase = told.phase;
     m_progress.speed = told.speed;
     // Erasing before a write, and what comes before and between, takes its own time: the bar waits.
-    const bool ofWriting = told.phase == Phase::Writing || told.phase == Phase::Comparing
-        || m_progress.stage != Stage::Writing;
+    const bool ofWriting =
+        told.phase == Phase::Writing || told.phase == Phase::Comparing || m_progress.stage != Stage::Writing;
     double percent = told.percent;
     if (percent >= 0 && m_work.compared && m_progress.stage == Stage::Writing)
         percent = told.phase == Phase::Comparing ? 50 + percent / 2 : percent / 2;
@@ -173,7 +159,8 @@ void Job::decided(const ToolRun &run)
     // An image that is made to be written is not yet what the job is for.
     if ((m_progress.stage == Stage::Imaging) == (m_work.result == Work::Result::Image))
         m_done = well;
-    if (well || !m_reason.isEmpty())
+    // The first trouble decides, but a person who stopped a job wants to know in what state the disc is.
+    if (well || (!m_reason.isEmpty() && run.end().how != ToolEnd::How::Stopped))
         return;
     m_decidingRun = run.position();
     m_reason = reasonOf(run);
@@ -182,13 +169,16 @@ void Job::decided(const ToolRun &run)
 QString Job::reasonOf(const ToolRun &run) const
 {
     const ToolEnd &end = run.end();
-    const bool spoke = !m_lastWords.isEmpty() && end.how != ToolEnd::How::Crashed
-        && end.how != ToolEnd::How::CouldNotStart;
-    if (spoke)
+    // What a tool said before a signal ended it tells nothing of that end.
+    const bool endedItself = end.how == ToolEnd::How::Ended
+        || (end.how == ToolEnd::How::Stopped && run.state() == QProcess::NotRunning
+            && run.exitStatus() == QProcess::NormalExit);
+    if (endedItself && !m_lastWords.isEmpty())
         return forPerson(m_lastWords);
     const QString tool = QFileInfo(run.program()).fileName();
     const QString happened = end.how == ToolEnd::How::Stopped ? QString() : tool + u' ' + end.text() + u'.';
-    return joined(happened, end.how == ToolEnd::How::CouldNotStart ? tr("The disc is as it was.") : stateOfDisc());
+    return joined(
+        happened, end.how == ToolEnd::How::CouldNotStart ? tr("The disc is as it was.") : stateOfDisc());
 }
 
 QString Job::stateOfDisc() const
@@ -224,8 +214,21 @@ void Job::stop()
         return;
     m_stopping = true;
     if (m_watched)
-        m_watched->stop(patienceFor(m_progress.stage));
+        m_watched->stop(patience());
     Q_EMIT stopping();
+}
+
+int Job::patience() const
+{
+    switch (m_progress.stage) {
+    case Stage::Erasing:
+    case Stage::Writing:
+        return m_patience.disc;
+    case Stage::Imaging:
+        return m_patience.image;
+    default:
+        return m_patience.tool;
+    }
 }
 
 QString Job::costOfStopping() const
@@ -249,8 +252,9 @@ QString Job::costOfStopping() const
         return tr("Nothing is written yet. The disc stays as it is.");
     if (m_phase == Phase::Comparing)
         return tr("The disc is written. It is not compared to the end.");
-    return m_work.rewritable ? tr("What was written so far is lost. The disc has to be erased before it is used again.")
-                             : tr("This disc is lost: it cannot be written a second time.");
+    return m_work.rewritable
+        ? tr("What was written so far is lost. The disc has to be erased before it is used again.")
+        : tr("This disc is lost: it cannot be written a second time.");
 }
 
 Outcome Job::end()
@@ -262,12 +266,15 @@ Outcome Job::end()
     m_claim.reset();
     Outcome outcome;
     const bool whole = m_leftOut.isEmpty() && m_remark.isEmpty() && m_reason.isEmpty();
-    outcome.how = m_done ? (whole ? How::Complete : How::Incomplete) : m_stopping ? How::Stopped : How::NotDone;
+    outcome.how = m_done ? (whole ? How::Complete : How::Incomplete)
+        : m_stopping     ? How::Stopped
+                         : How::NotDone;
     outcome.heading = Outcome::headingOf(outcome.how, m_work.result);
     outcome.reason = joined(m_reason, m_remark);
     if (m_reason.isEmpty() && !m_done)
-        outcome.reason = m_work.result == Work::Result::Image ? tr("No image was made.")
-                                                              : tr("Nothing was written. The disc is as it was.");
+        outcome.reason = m_work.result == Work::Result::Image
+            ? tr("No image was made.")
+            : tr("Nothing was written. The disc is as it was.");
     if (m_done) {
         outcome.made = whatWasMade();
         outcome.folder = m_work.result == Work::Result::Image ? m_work.image : m_driveFolder;
@@ -294,7 +301,14 @@ QString Job::whatWasMade() const
 
 QString Job::forPerson(QString text) const
 {
-    return m_work.workingFolder.isEmpty() ? text : text.replace(m_work.workingFolder + u'/', QString());
+    const QString &folder = m_work.workingFolder;
+    if (folder.isEmpty() || !text.contains(folder))
+        return text;
+    text.replace(folder + u'/', QString());
+    // The folder itself, and none whose name begins alike.
+    const QRegularExpression itself(QRegularExpression::escape(folder) + u"(?![\\w-]|\\.\\w)"_s,
+        QRegularExpression::UseUnicodePropertiesOption);
+    return text.replace(itself, tr("the working folder"));
 }
 
 } // namespace writing

@@ -20,7 +20,6 @@
 
 #include <memory>
 
-class ActivityLog;
 class FolderClaim;
 
 namespace writing {
@@ -41,11 +40,18 @@ struct Progress {
     std::optional<int> secondsLeft; ///< of the stage
 };
 
+/// How long a tool that was asked to end may take before it is killed, in milliseconds.
+struct EndingPatience {
+    int tool = 5'000; ///< one that only uses files
+    int image = 30'000; ///< one that makes an image: what it wrote has to reach the file system
+    int disc = 180'000; ///< one that writes or erases a disc: a drive has to close what it was writing
+};
+
 /// Lives on the GUI thread.
 class Job : public QObject {
     Q_OBJECT
 public:
-    Job(Work work, ActivityLog *log);
+    explicit Job(Work work, EndingPatience patience = {});
     ~Job() override;
 
     /// Keeps other programs of ours out of the working folder for the time of the job. False: one is in it already.
@@ -92,7 +98,7 @@ public:
     /// The job's one end: gives the working folder back and tells how it went. Once.
     Outcome end();
 
-    /// `text` with the paths of the working folder as a person knows them: from that folder on.
+    /// `text` with the paths in the working folder as a person knows them, from that folder on, and without its own.
     QString forPerson(QString text) const;
 
 Q_SIGNALS:
@@ -110,8 +116,10 @@ private:
     QString stateOfDisc() const;
     QString whatWasMade() const;
 
+    int patience() const;
+
     Work m_work;
-    ActivityLog *const m_log;
+    const EndingPatience m_patience;
     std::unique_ptr<FolderClaim> m_claim;
     QPointer<runner::ToolRun> m_watched;
     runner::LineReader m_lines;

@@ -52,7 +52,7 @@ void AppDelegate::describeConverted(const QString &folder)
 
 bool AppDelegate::beginJob(const writing::Work &work)
 {
-    job = std::make_unique<Job>(work, activityLog);
+    job = std::make_unique<Job>(work);
     window->stage()->hold();
     const QString &folder = work.workingFolder;
     if (!folder.isEmpty()) {

@@ -1,11 +1,13 @@
 #include "compilation/ListTableView.h"
 
 #include "compilation/ListHeader.h"
+#include "ui/PaintedViews.h"
 
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QDrag>
 #include <QDragEnterEvent>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -22,6 +24,25 @@ namespace {
 QString rowsFormat()
 {
     return u"application/x-corvalis-rows"_s;
+}
+
+QColor mixed(const QColor &one, const QColor &other, double share)
+{
+    const auto mix = [share](int a, int b) { return qRound(a * (1 - share) + b * share); };
+    return { mix(one.red(), other.red()), mix(one.green(), other.green()), mix(one.blue(), other.blue()) };
+}
+
+/// `ground`, away from the text's colour as far as the text then can be read (WCAG 2.1, 1.4.3).
+QColor readableGround(const QColor &ground, const QColor &text)
+{
+    constexpr double readable = 4.6; // a little more, as rims of letters are soft
+    const QColor away = text.lightness() < 128 ? Qt::white : Qt::black;
+    for (double share = 0; share < 1; share += 0.05) {
+        const QColor colour = mixed(ground, away, share);
+        if (contrastOf(colour, text) >= readable)
+            return colour;
+    }
+    return away;
 }
 
 } // namespace
@@ -52,19 +73,31 @@ ListTableView::ListTableView(QWidget *parent)
 
 void ListTableView::setGround(const QColor &ground)
 {
-    if (!ground.isValid())
-        return setPalette({});
-    const bool isDark = ground.lightness() < 128;
-    QPalette colours = palette();
-    colours.setColor(QPalette::Base, ground);
-    // Lightening leaves black as it is, so the second ground is a mixture with the text.
-    const QColor text = isDark ? Qt::white : Qt::black;
-    const auto mixed = [](int a, int b) { return (a * 15 + b) / 16; };
-    colours.setColor(QPalette::AlternateBase,
-        QColor(mixed(ground.red(), text.red()), mixed(ground.green(), text.green()),
-            mixed(ground.blue(), text.blue())));
-    colours.setColor(QPalette::Text, text);
+    m_ground = ground;
+    QPalette colours;
+    if (ground.isValid()) {
+        const bool isDark = ground.lightness() < 128;
+        const QColor text = isDark ? Qt::white : Qt::black;
+        colours.setColor(QPalette::Base, ground);
+        // Lightening leaves black as it is, so the second ground is a mixture with the text. The eye tells dark
+        // colours apart less well than light ones.
+        colours.setColor(QPalette::AlternateBase, mixed(ground, text, isDark ? 0.12 : 0.0625));
+        colours.setColor(QPalette::Text, text);
+    }
+    for (const auto group : { QPalette::Active, QPalette::Inactive }) {
+        const QColor text = QGuiApplication::palette().color(group, QPalette::HighlightedText);
+        const QColor highlight = QGuiApplication::palette().color(group, QPalette::Highlight);
+        colours.setColor(group, QPalette::Highlight, readableGround(highlight, text));
+        colours.setColor(group, QPalette::HighlightedText, text);
+    }
     setPalette(colours);
+}
+
+void ListTableView::changeEvent(QEvent *event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        setGround(m_ground); // which changes nothing more where the palette is as it was
 }
 
 QList<int> ListTableView::selectedRows() const

@@ -21,7 +21,8 @@ public:
     QString emptyHint() const { return m_emptyHint; }
     void setEmptyHint(const QString &hint) { m_emptyHint = hint; }
 
-    /// The colour behind the rows; an invalid one leaves the desktop's own.
+    /// The colour behind the rows; an invalid one leaves the desktop's own. What is selected has the desktop's colour
+    /// for that, made so dark or light that its text has a contrast of 4.5 to 1.
     void setGround(const QColor &ground);
 
     /// The column whose heading was pressed last and is to be sorted by; -1: none.
@@ -54,6 +55,7 @@ Q_SIGNALS:
     void menuWanted(const QPoint &place, bool forRows);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
@@ -75,6 +77,7 @@ private:
     void wantMenuFromKeyboard();
 
     QString m_emptyHint;
+    QColor m_ground; ///< as it was given, invalid for the desktop's own
     int m_selectedColumn = -1;
     std::optional<QPoint> m_dropPlace; ///< where in the viewport something is held that would be taken
 };

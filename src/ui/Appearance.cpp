@@ -17,6 +17,7 @@ void AppDelegate::loadColourScheme()
     for (const auto &[role, field] : colourFields)
         this->*field = ColourScheme::loadColour(*preferences, role);
     savePreferences();
+    SystemAppearance::instance().leadPalette();
     paintTableBackgrounds(b_List_Alternating_Rows != 0);
     // The desktop's own answer comes after the window, and again when a person switches the desktop.
     connect(&SystemAppearance::instance(), &SystemAppearance::changed, this,

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPalette>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -38,6 +39,12 @@ QColor readableTextOn(const QColor &background)
     const double contrastToWhite = 1.05 / (luminance + 0.05);
     const double contrastToBlack = (luminance + 0.05) / 0.05;
     return contrastToWhite >= contrastToBlack ? QColor(Qt::white) : QColor(Qt::black);
+}
+
+double contrastOf(const QColor &one, const QColor &other)
+{
+    const double ratio = (relativeLuminance(one.toRgb()) + 0.05) / (relativeLuminance(other.toRgb()) + 0.05);
+    return std::max(ratio, 1 / ratio);
 }
 
 void PaintedView::setColourSource(std::function<QColor()> source)

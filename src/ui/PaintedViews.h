@@ -12,6 +12,10 @@
 /// colour.
 QColor readableTextOn(const QColor &background);
 
+/// How well a text of one opaque colour is read on a ground of the other: 1 not at all ... 21 black on white (WCAG
+/// 2.1, contrast ratio).
+double contrastOf(const QColor &one, const QColor &other);
+
 /// A view that fills its bounds with one colour. It asks for the colour at every redraw, so update() is
 /// enough after a change. Where it finds that the colour has changed it has the whole window redrawn, so that no
 /// part of it keeps the old colours beside the new. Without a source, or with an invalid colour, it shows the

@@ -1,5 +1,7 @@
 #include "ui/SystemAppearance.h"
 
+#include "ui/DesktopColours.h"
+
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -13,6 +15,8 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QThread>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -32,9 +36,8 @@ bool hasSessionBus()
         || QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus"_L1);
 }
 
-bool isPaletteDark()
+bool isDarkPalette(const QPalette &palette)
 {
-    const auto palette = QGuiApplication::palette();
     return palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
 }
 
@@ -62,9 +65,39 @@ SystemAppearance::SystemAppearance(QObject *parent)
 
 bool SystemAppearance::isDark() const
 {
+    if (const auto stated = statedDark())
+        return *stated;
+    return isDarkPalette(m_toolkits.value_or(QGuiApplication::palette()));
+}
+
+std::optional<bool> SystemAppearance::statedDark() const
+{
     if (const auto &style = interfaceStyle())
         return *style == "Dark"_L1;
-    return m_portal.value_or(isPaletteDark());
+    return m_portal;
+}
+
+void SystemAppearance::leadPalette()
+{
+    m_leadsPalette = true;
+    givePalette();
+}
+
+/// Tells the whole application, which tells this object, too.
+void SystemAppearance::givePalette()
+{
+    if (!m_leadsPalette || std::exchange(m_givesPalette, true))
+        return;
+    const auto stated = statedDark();
+    const QPalette toolkits = m_toolkits.value_or(QGuiApplication::palette());
+    if (stated && *stated != isDarkPalette(toolkits)) {
+        m_toolkits = toolkits;
+        QGuiApplication::setPalette(desktopColours(*stated));
+    } else if (m_toolkits) {
+        m_toolkits.reset();
+        QGuiApplication::setPalette(toolkits);
+    }
+    m_givesPalette = false;
 }
 
 QString SystemAppearance::globalPreferencesFile()
@@ -159,6 +192,7 @@ bool SystemAppearance::eventFilter(QObject *watched, QEvent *event)
 
 void SystemAppearance::signalIfChanged()
 {
+    givePalette();
     if (isDark() == m_lastAnswer)
         return;
     m_lastAnswer = !m_lastAnswer;

@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QFileSystemWatcher>
 #include <QObject>
+#include <QPalette>
 #include <QString>
 
 #include <optional>
@@ -30,6 +31,9 @@ public:
     explicit SystemAppearance(QObject *parent = nullptr);
 
     bool isDark() const;
+    /// From now on the whole application has dark or light colours of ours where the preferences file or the portal
+    /// say other than the toolkit's palette, and the toolkit's palette again where they do not.
+    void leadPalette();
     /// The file that is read for "AppleInterfaceStyle". Nothing here ever writes it.
     static QString globalPreferencesFile();
 
@@ -50,11 +54,16 @@ private:
     void askPortal();
     void setPortalAnswer(QVariant value);
     void signalIfChanged();
+    void givePalette();
+    std::optional<bool> statedDark() const; ///< by the file or the portal
     const std::optional<QString> &interfaceStyle() const;
 
     QFileSystemWatcher m_watcher;
     std::optional<bool> m_portal;
     bool m_lastAnswer = false;
+    bool m_leadsPalette = false;
+    bool m_givesPalette = false; ///< right now
+    std::optional<QPalette> m_toolkits; ///< the palette in whose place ours stands
 
     struct {
         QDateTime modified; ///< invalid until the file was read

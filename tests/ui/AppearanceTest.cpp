@@ -5,12 +5,14 @@
 #include "support/JobApplication.h"
 #include "ui/ColourScheme.h"
 #include "ui/ColourWell.h"
+#include "ui/DesktopColours.h"
 #include "ui/PaintedViews.h"
 #include "ui/SystemAppearance.h"
 #include "ui/Window_Colors.h"
 
 #include <QCheckBox>
 #include <QColorDialog>
+#include <QMenuBar>
 #include <QProxyStyle>
 #include <QScopeGuard>
 #include <QSettings>
@@ -114,6 +116,13 @@ private Q_SLOTS:
     void rowsAndCellsOfEveryTable();
     void desktopTurnsDark();
     void preferencesFileTurnsDark();
+    void wholeWindowTurnsDark();
+    void ownPaletteIsReadable_data();
+    void ownPaletteIsReadable();
+    void selectedRowsAreReadable_data();
+    void selectedRowsAreReadable();
+    void stripesAreSeen_data();
+    void stripesAreSeen();
     void cellsArePaintedInTheSchemesColours();
     void toolbarsAndBottomBarArePainted();
     void everythingOnABarIsReadable_data();
@@ -307,6 +316,135 @@ void AppearanceTest::preferencesFileTurnsDark()
     setDark(false);
     QTRY_COMPARE(table->palette().color(QPalette::Base), QColor(Qt::white));
     QCOMPARE(app.controller->cellTextColour(), QColor(Qt::black));
+}
+
+/// Where the desktop is said to be dark and the toolkit does not know, everything is dark, not the lists alone.
+void AppearanceTest::wholeWindowTurnsDark()
+{
+    const auto toolkits = QApplication::palette();
+    JobApplication app;
+    app.launch();
+    const auto ground = [&](QWidget *widget) { return mostFrequent(widget->grab().toImage()).first(); };
+    const auto parts = QList<QWidget *>{ app.window->menuBar(), app.element<QTabWidget>("tabviewMain") };
+    for (auto *part : parts)
+        QVERIFY(ground(part).lightness() > 128);
+    setDark(true);
+    QTRY_VERIFY(QApplication::palette().color(QPalette::Window).lightness() < 128);
+    for (auto *part : parts)
+        QTRY_VERIFY(ground(part).lightness() < 128);
+    open(app);
+    QVERIFY(ground(app.controller->windowColors).lightness() < 128);
+    click(app, "btnCancel");
+    setDark(false);
+    QTRY_COMPARE(QApplication::palette(), toolkits);
+    for (auto *part : parts)
+        QTRY_VERIFY(ground(part).lightness() > 128);
+
+    // The other way round, and back when nothing is said any more.
+    QApplication::setPalette(desktopColours(true));
+    QTRY_VERIFY(QApplication::palette().color(QPalette::Window).lightness() > 128);
+    QVERIFY(QFile::remove(SystemAppearance::globalPreferencesFile()));
+    QTRY_COMPARE(QApplication::palette(), desktopColours(true));
+    QApplication::setPalette(toolkits);
+}
+
+void AppearanceTest::ownPaletteIsReadable_data()
+{
+    QTest::addColumn<bool>("dark");
+    QTest::newRow("dark") << true;
+    QTest::newRow("light") << false;
+}
+
+void AppearanceTest::ownPaletteIsReadable()
+{
+    QFETCH(bool, dark);
+    const auto palette = desktopColours(dark);
+    using P = QPalette;
+    for (const auto &[text, ground] : { std::pair{ P::WindowText, P::Window }, { P::Text, P::Base },
+             { P::Text, P::AlternateBase }, { P::PlaceholderText, P::Base }, { P::ButtonText, P::Button },
+             { P::HighlightedText, P::Highlight }, { P::Link, P::Base }, { P::Link, P::Window },
+             { P::LinkVisited, P::Base }, { P::ToolTipText, P::ToolTipBase } })
+        QVERIFY2(contrast(palette.color(text), palette.color(ground)) >= 4.5,
+            qPrintable(u"%1 on %2"_s.arg(int(text)).arg(int(ground))));
+}
+
+void AppearanceTest::selectedRowsAreReadable_data()
+{
+    QTest::addColumn<bool>("dark");
+    QTest::addColumn<QColor>("highlight");
+    QTest::addColumn<QColor>("text");
+    for (const bool dark : { false, true }) {
+        const auto row = [dark](const char *name, const QColor &highlight, const QColor &text) {
+            QTest::addRow("%s, %s", name, dark ? "dark" : "light") << dark << highlight << text;
+        };
+        row("the toolkit's", {}, {});
+        row("pale with white", QColor(145, 200, 245), Qt::white);
+        row("yellow with white", Qt::yellow, Qt::white);
+        row("dark with black", QColor(60, 20, 90), Qt::black);
+    }
+}
+
+/// Whatever colour a person's desktop has for what is selected, in the window that has the keyboard and in others.
+void AppearanceTest::selectedRowsAreReadable()
+{
+    QFETCH(bool, dark);
+    QFETCH(QColor, highlight);
+    QFETCH(QColor, text);
+    const auto original = QApplication::palette();
+    const auto restore = qScopeGuard([&] { QApplication::setPalette(original); });
+    if (highlight.isValid()) {
+        auto palette = original;
+        palette.setColor(QPalette::Highlight, highlight);
+        palette.setColor(QPalette::HighlightedText, text);
+        QApplication::setPalette(palette);
+    }
+    setDark(dark);
+    JobApplication app;
+    app.launch();
+    QVERIFY(app.add({ app.file(u"MMMMMMMM.mp3"_s), app.file(u"WWWWWWWW.mp3"_s) }));
+    auto *table = app.element<ListTableView>("tableviewAudioFiles");
+    table->selectRows({ 0, 1 });
+    const auto check = [&] {
+        for (int row = 0; row < 2; ++row) {
+            const auto cell = table->visualRect(table->model()->index(row, 0)).adjusted(2, 2, -2, -2);
+            const auto colours = mostFrequent(table->viewport()->grab(cell).toImage());
+            const auto ground = colours.first();
+            const auto strongest =
+                std::ranges::max(colours, {}, [&](const QColor &c) { return contrast(c, ground); });
+            QVERIFY2(contrast(strongest, ground) >= 4.5,
+                qPrintable(u"%1 on %2"_s.arg(strongest.name(), ground.name())));
+        }
+    };
+    app.window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(app.window.get()));
+    check();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QTRY_VERIFY(!app.window->isActiveWindow());
+    check();
+    setDark(false);
+}
+
+void AppearanceTest::stripesAreSeen_data()
+{
+    QTest::addColumn<bool>("dark");
+    QTest::addColumn<double>("least");
+    QTest::newRow("light") << false << 1.1;
+    QTest::newRow("dark") << true << 1.25;
+}
+
+void AppearanceTest::stripesAreSeen()
+{
+    QFETCH(bool, dark);
+    QFETCH(double, least);
+    setDark(dark);
+    JobApplication app;
+    app.launch();
+    const auto palette = app.element<ListTableView>("tableviewAudioFiles")->palette();
+    const double seen = contrast(palette.color(QPalette::Base), palette.color(QPalette::AlternateBase));
+    QVERIFY2(seen >= least, qPrintable(QString::number(seen)));
+    setDark(false);
 }
 
 void AppearanceTest::cellsArePaintedInTheSchemesColours()

@@ -224,6 +224,19 @@ void SystemAppearanceTest::portalIsAskedInTheBackground()
     QTRY_VERIFY(!appearance.isDark()); // no preference: back to the palette
     setPalette(true);
     QVERIFY(appearance.isDark());
+
+    // With the windows' colours in its hands they follow.
+    setPalette(false);
+    const auto isWindowDark = [] {
+        return QApplication::palette().color(QPalette::Window).lightness() < 128;
+    };
+    appearance.leadPalette();
+    QVERIFY(!isWindowDark());
+    portal.announce(1);
+    QTRY_VERIFY(isWindowDark());
+    portal.announce(0);
+    QTRY_VERIFY(!isWindowDark());
+    QVERIFY(!appearance.isDark());
     QDBusConnection::disconnectFromBus(u"portal"_s);
 }
 

@@ -115,6 +115,48 @@ Result<std::vector<Candidate>> listCandidates(const std::string &folder, std::ve
     return candidates;
 }
 
+/// What all of `texts` say; empty where one says something else.
+std::string common(const std::vector<WaveText> &texts, std::string WaveText::*field)
+{
+    const std::string &first = texts.front().*field;
+    const bool same = std::ranges::all_of(texts, [&](const WaveText &text) { return text.*field == first; });
+    return same ? first : std::string();
+}
+
+/// The names of the tracks, and for the disc those in which all tracks agree.
+CdText namesOfDisc(const std::vector<WaveText> &texts)
+{
+    CdText names{ { common(texts, &WaveText::album), common(texts, &WaveText::artist) }, {} };
+    for (const WaveText &text : texts)
+        names.tracks.push_back({ text.title, text.artist });
+    // A disc whose tracks say nothing of themselves has no text.
+    const bool named = std::ranges::any_of(
+        texts, [](const WaveText &text) { return !text.title.empty() || !text.artist.empty(); });
+    return named ? names : CdText();
+}
+
+void addTextNote(const char *what, std::vector<std::string> names, std::vector<std::string> &notes)
+{
+    constexpr std::size_t mostExamples = 3;
+    std::ranges::sort(names);
+    names.erase(std::unique(names.begin(), names.end()), names.end());
+    if (names.empty())
+        return;
+    std::string examples;
+    for (std::size_t i = 0; i < std::min(names.size(), mostExamples); ++i)
+        examples += (i > 0 ? ", " : "") + quoted(names[i]);
+    if (names.size() > mostExamples)
+        examples += " and " + std::to_string(names.size() - mostExamples) + " more";
+    notes.push_back(std::string(what) + ": " + examples + ".");
+}
+
+void addTextNotes(const TextChanges &changes, std::vector<std::string> &notes)
+{
+    addTextNote(
+        "CD-TEXT has no letters for these names, which are spelled otherwise", changes.respelled, notes);
+    addTextNote("These names are cut, as CD-TEXT has no room for all of them", changes.cut, notes);
+}
+
 } // namespace
 
 std::uint32_t AudioDisc::sectorCount() const
@@ -144,21 +186,26 @@ Result<AudioDisc> readAudioFolder(const std::string &folder)
             "The folder " + quoted(folder) + " holds " + std::to_string(candidates->size())
                 + " WAVE files, but an audio disc has at most " + std::to_string(mostTracks)
                 + " tracks: take some out." };
+    std::vector<WaveText> texts;
     std::uint64_t total = firstPause; // of 99 files of any size it fits in 64 bits
     for (const Candidate &candidate : *candidates) {
         const std::string path = folder + (folder.ends_with('/') ? "" : "/") + candidate.name;
         const auto wave = readWave(path);
         if (!wave)
             return wave.error();
-        const std::uint64_t sectors = sectorsFor(wave->size);
+        const std::uint64_t sectors = sectorsFor(wave->samples.size);
         total += sectors;
-        if (wave->size < std::uint64_t{ shortestTrack } * sectorSize)
+        if (wave->samples.size < std::uint64_t{ shortestTrack } * sectorSize)
             disc.notes.push_back(quoted(candidate.name)
                 + " is shorter than four seconds: silence fills the track up to that.");
-        disc.tracks.push_back({ path, *wave, static_cast<std::uint32_t>(sectors) });
+        disc.tracks.push_back({ path, wave->samples, static_cast<std::uint32_t>(sectors) });
+        texts.push_back(wave->text);
     }
     if (total > mostSectors)
         return tooLong(folder, total);
+    FittedText fitted = fittedText(namesOfDisc(texts));
+    disc.text = std::move(fitted.text);
+    addTextNotes(fitted.changes, disc.notes);
     return disc;
 }
 
@@ -176,24 +223,6 @@ std::string lengthText(std::uint64_t sectors)
 {
     const std::string time = msf(sectors);
     return time.substr(0, time.rfind(':')) + " minutes (" + std::to_string(sectors) + " blocks)";
-}
-
-std::string cueSheet(const std::string &binName, const std::vector<AudioTrack> &tracks)
-{
-    std::string name = binName;
-    std::replace_if(
-        name.begin(), name.end(),
-        [](char letter) { return letter == '"' || letter == '\n' || letter == '\r'; }, '_');
-    std::string sheet = "FILE \"" + name + "\" BINARY\n";
-    std::uint32_t start = firstPause;
-    for (std::size_t index = 0; index < tracks.size(); ++index) {
-        sheet += std::string("  TRACK ") + (index < 9 ? "0" : "") + std::to_string(index + 1) + " AUDIO\n";
-        if (index == 0)
-            sheet += "    INDEX 00 " + msf(0) + "\n";
-        sheet += "    INDEX 01 " + msf(start) + "\n";
-        start += tracks[index].sectors;
-    }
-    return sheet;
 }
 
 bool naturalLess(const std::string &left, const std::string &right)

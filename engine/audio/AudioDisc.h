@@ -1,6 +1,7 @@
 // The layout of a CD-DA disc made of WAVE files (Red Book, IEC 60908).
 #pragma once
 
+#include "audio/CdText.h"
 #include "audio/Wave.h"
 #include "base/Result.h"
 
@@ -28,6 +29,7 @@ struct AudioTrack {
 
 struct AudioDisc {
     std::vector<AudioTrack> tracks;
+    CdText text; ///< the names that go onto the disc, as it can hold them; empty where the files have none
     std::vector<std::string>
         notes; ///< files that are left out or changed, a sentence each, by their names in the folder
 
@@ -50,10 +52,6 @@ std::string msf(std::uint64_t sector);
 
 /// The time that sectors last, for people, and their number: "79:57 minutes (359844 blocks)".
 std::string lengthText(std::uint64_t sectors);
-
-/// The cue sheet of a .bin file that holds the pause of track 1 and then all tracks back to back.
-/// `binName` is written between quotation marks; a quotation mark or line break in it becomes '_'.
-std::string cueSheet(const std::string &binName, const std::vector<AudioTrack> &tracks);
 
 /// True when a file named `left` comes before `right`: digit runs compare by value, other bytes
 /// by themselves; names equal in that way ("1", "01") compare by bytes.

@@ -1,5 +1,6 @@
 #include "audio/Wave.h"
 
+#include "audio/Riff.h"
 #include "base/Words.h"
 
 #include <algorithm>
@@ -23,12 +24,8 @@ constexpr std::array<unsigned char, 16> pcmSubFormat{ 0x01, 0x00, 0x00, 0x00, 0x
     0x00, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71 };
 
 constexpr std::uint64_t riffHeader = 12;
-constexpr std::uint64_t chunkHeader = 8;
 constexpr std::uint64_t frameSize = 4;
 constexpr std::uint32_t unknownSize = 0xffffffff;
-
-// More than any real file has, few enough to walk at once.
-constexpr int mostChunks = 10000;
 
 struct Format {
     std::uint16_t tag = 0;
@@ -132,28 +129,25 @@ Result<WaveData> parseWave(const ReadAt &readAt, std::uint64_t fileSize)
     if (!riff.has(riffHeader) || riff.id(0) != "RIFF" || riff.id(8) != "WAVE")
         return noTrack("is not a WAVE file");
     std::optional<Format> format;
-    std::uint64_t offset = riffHeader;
-    for (int chunk = 0; chunk < mostChunks && offset + chunkHeader <= fileSize; ++chunk) {
-        const Bytes header(readAt, offset, chunkHeader);
-        if (!header.has(chunkHeader))
-            break;
-        const std::uint32_t size = header.u32(4);
-        offset += chunkHeader;
-        if (header.id(0) == "fmt ")
-            format = readFormat(readAt, offset, size);
-        if (header.id(0) == "data") {
-            if (auto ok = checkFormat(format); !ok)
-                return ok.error();
-            const std::uint64_t rest = fileSize - offset;
-            WaveData data{ offset, isOpenEnded(size, riff.u32(4), rest, fileSize) ? rest : size };
-            data.size -= data.size % frameSize;
-            if (data.size == 0)
-                return noTrack("holds no sound");
-            return data;
-        }
-        offset += size + (size & 1U); // chunks begin at even offsets
-    }
-    return noTrack("is a WAVE file without sound data");
+    std::optional<Chunk> sound;
+    walkChunks(readAt, riffHeader, fileSize, [&](const Chunk &chunk) {
+        if (chunk.id == "fmt ")
+            format = readFormat(readAt, chunk.offset, chunk.size);
+        if (chunk.id == "data")
+            sound = chunk;
+        return !sound;
+    });
+    if (!sound)
+        return noTrack("is a WAVE file without sound data");
+    if (auto ok = checkFormat(format); !ok)
+        return ok.error();
+    const std::uint64_t rest = fileSize - sound->offset;
+    WaveData data{ sound->offset,
+        isOpenEnded(sound->size, riff.u32(4), rest, fileSize) ? rest : sound->size };
+    data.size -= data.size % frameSize;
+    if (data.size == 0)
+        return noTrack("holds no sound");
+    return data;
 }
 
 Result<WaveData> parseWave(std::span<const std::byte> file)
@@ -161,7 +155,7 @@ Result<WaveData> parseWave(std::span<const std::byte> file)
     return parseWave(readAtOf(file), file.size());
 }
 
-Result<WaveData> readWave(const std::string &path)
+Result<Wave> readWave(const std::string &path)
 {
     const auto failed = [&path](const std::string &predicate) {
         return Error{ Exit::failed, "The file " + quoted(path) + " " + predicate + "." };
@@ -170,13 +164,16 @@ Result<WaveData> readWave(const std::string &path)
     struct stat info { };
     if (!file || fstat(file.get(), &info) != 0)
         return failed("cannot be read: " + reasonAndAdvice(errno));
+    if (!S_ISREG(info.st_mode))
+        return failed(noTrack("is not a file").message);
     int readError = 0;
-    const auto data = S_ISREG(info.st_mode)
-        ? parseWave(readAtOf(file, readError), static_cast<std::uint64_t>(info.st_size))
-        : Result<WaveData>(noTrack("is not a file"));
+    const ReadAt readAt = readAtOf(file, readError);
+    const auto size = static_cast<std::uint64_t>(info.st_size);
+    const auto samples = parseWave(readAt, size);
+    const WaveText text = samples ? waveText(readAt, size) : WaveText();
     if (readError != 0)
         return failed("cannot be read: " + reasonAndAdvice(readError));
-    return data ? data : failed(data.error().message);
+    return samples ? Result<Wave>(Wave{ *samples, text }) : failed(samples.error().message);
 }
 
 } // namespace engine::audio

@@ -1,6 +1,7 @@
 // Where the samples of a WAVE file lie, and whether an audio disc can hold them.
 #pragma once
 
+#include "audio/WaveText.h"
 #include "base/Fd.h"
 #include "base/Result.h"
 
@@ -28,7 +29,13 @@ Result<WaveData> parseWave(const ReadAt &readAt, std::uint64_t fileSize);
 /// The same for a file that lies in memory.
 Result<WaveData> parseWave(std::span<const std::byte> file);
 
-/// The same for the file at `path`; the error is a whole sentence that names the file.
-Result<WaveData> readWave(const std::string &path);
+/// A WAVE file that an audio disc can hold.
+struct Wave {
+    WaveData samples;
+    WaveText text;
+};
+
+/// The same for the file at `path`, and what it says of its sound; the error is a whole sentence that names the file.
+Result<Wave> readWave(const std::string &path);
 
 } // namespace engine::audio

@@ -69,11 +69,13 @@ std::string archiveStem(MediumKind kind, bool spoilt)
 // The sheet names the file beside it, so it has to follow that file's new name.
 std::string renamedCueSheet(const std::string &sheet, const std::string &binName)
 {
-    const std::string old = std::string("\"") + audioDiscFile + '"';
+    // A title may look like the name of a file.
+    const std::string command = "FILE \"";
+    const std::string old = command + audioDiscFile + '"';
     const auto at = sheet.find(old);
     if (at == std::string::npos)
         return sheet;
-    return sheet.substr(0, at) + '"' + binName + '"' + sheet.substr(at + old.size());
+    return sheet.substr(0, at) + command + binName + '"' + sheet.substr(at + old.size());
 }
 
 bool lockPatiently(int fd, int operation)

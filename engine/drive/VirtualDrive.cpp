@@ -1,6 +1,7 @@
 #include "drive/VirtualDrive.h"
 
 #include "audio/AudioDisc.h"
+#include "audio/CueSheet.h"
 #include "audio/TrackStream.h"
 #include "base/Words.h"
 #include "drive/LibburnDrive.h"
@@ -250,7 +251,7 @@ Result<void> VirtualLease::writeAudio(const audio::AudioDisc &disc, const Contro
     content.track.source =
         newSource(filled, (content.bytes + blockBytes - 1) / blockBytes * blockBytes, supply);
     content.file = audioDiscFile;
-    content.cueSheet = audio::cueSheet(audioDiscFile, disc.tracks);
+    content.cueSheet = audio::cueSheet(audioDiscFile, disc);
     return write(std::move(content), *supply, control);
 }
 

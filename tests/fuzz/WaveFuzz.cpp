@@ -23,6 +23,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     HOLDS(
         !whole || (again.value().offset == whole.value().offset && again.value().size == whole.value().size));
 
+    for (const std::string &text : { waveText(readAt, size).title, waveText(readAt, size * 2 + 8).album }) {
+        HOLDS(text.size() <= 3000 && text.find('\n') == std::string::npos);
+    }
+
     // A file that turned out shorter than its size was said to be: any answer, as long as it is one.
     static_cast<void>(parseWave(readAt, std::uint64_t(size) * 2 + 8));
     return 0;

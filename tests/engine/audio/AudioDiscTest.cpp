@@ -3,6 +3,7 @@
 
 #include "../image/Trees.h"
 #include "Waves.h"
+#include "audio/CueSheet.h"
 #include "audio/TrackStream.h"
 
 using namespace Qt::StringLiterals;
@@ -101,17 +102,17 @@ private Q_SLOTS:
 
     void cueSheets()
     {
-        std::vector<AudioTrack> tracks{ { "a", {}, 300 }, { "b", {}, 75 * 60 + 1 }, { "c", {}, 400 } };
-        QCOMPARE(cueSheet("disc.bin", tracks),
+        AudioDisc disc;
+        disc.tracks = { { "a", {}, 300 }, { "b", {}, 75 * 60 + 1 }, { "c", {}, 400 } };
+        QCOMPARE(cueSheet("disc.bin", disc),
             std::string("FILE \"disc.bin\" BINARY\n"
                         "  TRACK 01 AUDIO\n    INDEX 00 00:00:00\n    INDEX 01 00:02:00\n"
                         "  TRACK 02 AUDIO\n    INDEX 01 00:06:00\n"
                         "  TRACK 03 AUDIO\n    INDEX 01 01:06:01\n"));
-        QVERIFY(cueSheet("a\"b\nc", tracks).starts_with("FILE \"a_b_c\" BINARY\n"));
+        QVERIFY(cueSheet("a\"b\nc", disc).starts_with("FILE \"a_b_c\" BINARY\n"));
         QCOMPARE(msf(100 * 60 * 75 + 74), std::string("100:00:74"));
-        tracks.assign(12, { "x", {}, 300 });
-        QVERIFY(
-            cueSheet("disc.bin", tracks).find("  TRACK 09 AUDIO\n    INDEX 01 00:34:00\n  TRACK 10 AUDIO\n")
+        disc.tracks.assign(12, { "x", {}, 300 });
+        QVERIFY(cueSheet("disc.bin", disc).find("  TRACK 09 AUDIO\n    INDEX 01 00:34:00\n  TRACK 10 AUDIO\n")
             != std::string::npos);
     }
 
@@ -248,7 +249,7 @@ private Q_SLOTS:
         const auto disc = readAudioFolder(scratch.path("f"));
         QVERIFY(disc);
         QVERIFY(makeFile(scratch.path("disc.bin"), bytesOf(*disc, 4096)));
-        QVERIFY(makeFile(scratch.path("disc.cue"), cueSheet("disc.bin", disc->tracks)));
+        QVERIFY(makeFile(scratch.path("disc.cue"), cueSheet("disc.bin", *disc)));
         QByteArray output;
         QCOMPARE(run(QStringLiteral("cd-info"),
                      { QStringLiteral("--no-header"), QStringLiteral("--no-device-info"),

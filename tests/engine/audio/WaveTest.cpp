@@ -18,6 +18,55 @@ class WaveTest : public QObject {
     }
 
 private Q_SLOTS:
+    void texts_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("artist");
+        QTest::addColumn<QString>("album");
+        const auto row = [](const char *name, const std::string &file, const char *title, const char *artist,
+                             const char *album) {
+            QTest::newRow(name) << QByteArray::fromStdString(file) << QString::fromUtf8(title)
+                                << QString::fromUtf8(artist) << QString::fromUtf8(album);
+        };
+        using namespace std::string_literals;
+        const std::string fmt = chunk("fmt ", formatBody());
+        const std::string sound = chunk("data", std::string(400, 's'));
+        const std::string all = "INFO" + chunk("IART", "Band\0"s) + chunk("INAM", "T\xc3\xaftle\0"s)
+            + chunk("IPRD", "Al\0"s) + chunk("ISFT", "Lavf\0"s);
+        row("before the sound", riff(fmt + chunk("LIST", all) + sound), "T\xc3\xaftle", "Band", "Al");
+        row("behind the sound", riff(fmt + sound + chunk("LIST", all)), "T\xc3\xaftle", "Band", "Al");
+        row("none", riff(fmt + sound), "", "", "");
+        row("another list", riff(fmt + chunk("LIST", "adtl" + chunk("INAM", "no")) + sound), "", "", "");
+        row("without NUL", riff(fmt + chunk("LIST", "INFO" + chunk("INAM", "abc")) + sound), "abc", "", "");
+        row("Windows-1252", riff(fmt + chunk("LIST", "INFO" + chunk("INAM", "\x8aut")) + sound), "\xc5\xa0ut",
+            "", "");
+        row("cut within a character",
+            riff(fmt
+                + chunk(
+                    "LIST", "INFO" + chunk("INAM", std::string(999, 'x') + "\xc3\xa4" + std::string(50, 'y')))
+                + sound),
+            std::string(999, 'x').c_str(), "", "");
+        row("longer than its list",
+            riff(fmt + chunk("LIST", "INFO" + "INAM"s + little(0x7fffffff, 4) + "abcd") + sound), "abcd", "",
+            "");
+        // The sound of a stream writer is not searched for lists.
+        row("sound that looks like a list",
+            "RIFF" + little(0xffffffff, 4) + "WAVE" + fmt + "data" + little(0, 4) + chunk("LIST", all), "",
+            "", "");
+    }
+
+    void texts()
+    {
+        QFETCH(QByteArray, file);
+        const WaveText text =
+            waveText(engine::readAtOf(std::as_bytes(std::span(file.constData(), std::size_t(file.size())))),
+                std::uint64_t(file.size()));
+        QTEST(QString::fromStdString(text.title), "title");
+        QTEST(QString::fromStdString(text.artist), "artist");
+        QTEST(QString::fromStdString(text.album), "album");
+    }
+
     void taken_data()
     {
         QTest::addColumn<QByteArray>("file");

@@ -5,6 +5,7 @@
 #include "program/Session.h"
 #include "report/DriveList.h"
 #include "report/StatusText.h"
+#include "report/TracksText.h"
 
 #include <array>
 #include <functional>
@@ -53,20 +54,26 @@ Result<void> list(const Arguments &)
     return printReport(report::driveListText(records));
 }
 
-/// The medium in the chosen drive. A stop signal ends it with the drive given back: one that is left in mid-question
-/// keeps its tray locked.
-Result<Medium> mediumInDrive(const Arguments &arguments)
+/// What `question` asks the chosen drive. A stop signal ends it with the drive given back: one that is left in
+/// mid-question keeps its tray locked.
+template <class Answer>
+Result<Answer> askDrive(const Arguments &arguments, Result<Answer> (*question)(Drive &drive))
 {
     const StopSignals signals;
     const auto drive = chosenDrive(arguments);
     if (!drive)
         return drive.error();
     (*drive)->setStop(signals.stop());
-    const auto lease = (*drive)->acquire(drive::Purpose::look);
-    const Result<Medium> medium = lease ? (*lease)->medium() : lease.error();
+    Result<Answer> answer = question(**drive);
     if (const int signal = signals.stop().signal())
         return stoppedBy(signal, "Stopped before " + (*drive)->name() + " had told about its disc.");
-    return medium;
+    return answer;
+}
+
+Result<Medium> mediumIn(Drive &drive)
+{
+    const auto lease = drive.acquire(drive::Purpose::look);
+    return lease ? (*lease)->medium() : lease.error();
 }
 
 /// Does `change` to the chosen drive without leaving it half done: a stop signal only ends the waits before.
@@ -86,10 +93,18 @@ Result<void> changeDrive(const Arguments &arguments, const std::function<Result<
 
 Result<void> status(const Arguments &arguments)
 {
-    const Result<Medium> medium = mediumInDrive(arguments);
+    const Result<Medium> medium = askDrive(arguments, mediumIn);
     if (!medium)
         return medium.error();
     return printReport(report::statusText(*medium));
+}
+
+Result<void> tracks(const Arguments &arguments)
+{
+    const Result<DiscTracks> tracks = askDrive(arguments, drive::tracksOn);
+    if (!tracks)
+        return tracks.error();
+    return printReport(report::tracksText(*tracks));
 }
 
 Result<void> burnDisc(const Arguments &arguments)
@@ -176,6 +191,8 @@ const std::array verbs{
     Verb{ "list", "list", 0, options, list, "  list                          list the drives\n" },
     Verb{ "status", "status [-drive N]", 0, options, status,
         "  status                        tell about the medium in the drive\n" },
+    Verb{ "tracks", "tracks [-drive N]", 0, options, tracks,
+        "  tracks                        list the tracks of the disc, their times and names\n" },
     Verb{ "burn", "burn [-audio] [-noverify] FOLDER [-drive N]", 1, burnOptions, burnDisc,
         R"(  burn [-noverify] FOLDER       write the content of FOLDER as a data disc
   burn -audio FOLDER            write the WAVE files in FOLDER as an audio disc

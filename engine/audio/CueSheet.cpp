@@ -1,5 +1,7 @@
 #include "audio/CueSheet.h"
 
+#include "audio/Latin1.h"
+
 #include <algorithm>
 #include <charconv>
 #include <optional>
@@ -20,9 +22,9 @@ std::string nameLines(const Texts &texts, const std::string &indent)
 {
     std::string lines;
     if (!texts.title.empty())
-        lines += indent + "TITLE " + quotedName(texts.title, '\'', ' ') + '\n';
+        lines += indent + "TITLE " + quotedName(latin1Of(texts.title).text, '\'', ' ') + '\n';
     if (!texts.performer.empty())
-        lines += indent + "PERFORMER " + quotedName(texts.performer, '\'', ' ') + '\n';
+        lines += indent + "PERFORMER " + quotedName(latin1Of(texts.performer).text, '\'', ' ') + '\n';
     return lines;
 }
 
@@ -47,7 +49,7 @@ std::string unquoted(std::string_view text)
 {
     const std::size_t first = text.find('"');
     const std::size_t last = text.rfind('"');
-    return first < last ? std::string(text.substr(first + 1, last - first - 1)) : std::string();
+    return first < last ? oneLine(text.substr(first + 1, last - first - 1)) : std::string();
 }
 
 /// The sector of "mm:ss:ff".

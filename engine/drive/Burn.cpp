@@ -195,9 +195,32 @@ Result<void> burnAudioFolder(Drive &drive, const std::string &folder, const Burn
     if (auto fits = checkAudioMedium(medium, *disc, drive.name()); !fits)
         return withState(fits.error(), drive.name(), Left::asBefore);
     return eraseAndWrite(**lease, medium, drive.name(), options, [&] {
-        auto written = (*lease)->writeAudio(*disc, options.control);
-        return written ? toldIfStopped(drive.name(), options.control) : written;
+        const auto written = (*lease)->writeAudio(*disc, options.control);
+        if (!written)
+            return Result<void>(written.error());
+        if (!written->named && options.note)
+            options.note("The titles are not on the disc: " + drive.name() + " does not write CD-TEXT.");
+        return toldIfStopped(drive.name(), options.control);
     });
+}
+
+Result<DiscTracks> tracksOn(Drive &drive)
+{
+    const auto lease = drive.acquire(Purpose::look);
+    if (!lease)
+        return lease.error();
+    const Result<Medium> medium = (*lease)->medium();
+    if (!medium)
+        return medium.error();
+    if (medium->kind == MediumKind::none)
+        return noDisc(drive.name());
+    Result<DiscTracks> found = (*lease)->tracks();
+    if (!found || !found->tracks.empty())
+        return found;
+    if (medium->used == 0)
+        return Error{ Exit::failed, "The disc in " + drive.name() + " is blank: it has no tracks." };
+    const std::uint64_t start = factsOf(medium->kind).family == Family::cd ? audio::firstPause : 0;
+    return DiscTracks{ {}, { { 1, false, start, medium->used, {} } } };
 }
 
 Result<void> eraseMedium(Drive &drive, EraseMode mode, const Control &control)

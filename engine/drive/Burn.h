@@ -31,6 +31,9 @@ Result<void> burnAudioFolder(Drive &drive, const std::string &folder, const Burn
 /// Writes the file `image` as it is, filled to whole blocks of 2048 bytes.
 Result<void> burnImageFile(Drive &drive, const std::string &image, const BurnOptions &options);
 
+/// The tracks of the disc in `drive`. Errors: Exit::noDisc for an empty drive; a blank disc.
+Result<DiscTracks> tracksOn(Drive &drive);
+
 /// Erases the medium in `drive`.
 Result<void> eraseMedium(Drive &drive, EraseMode mode, const Control &control);
 

@@ -7,6 +7,7 @@
 #include "medium/DriveRecord.h"
 #include "medium/Medium.h"
 #include "medium/Progress.h"
+#include "medium/Tracks.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -66,6 +67,11 @@ enum class EraseMode {
     full, ///< every block
 };
 
+/// How an audio disc was written.
+struct AudioWritten {
+    bool named = true; ///< false: the drive does not write CD-TEXT, and the names are not on the disc
+};
+
 /// Why a drive is opened.
 enum class Purpose {
     look, ///< ask for the medium only; a mounted disc stays mounted
@@ -89,8 +95,12 @@ public:
     /// says in which state the disc is left.
     virtual Result<void> writeData(DiscData &data, BlockDigests &sent, const Control &control) = 0;
 
-    /// Writes all tracks of an audio disc, session at once. The medium must be a blank CD.
-    virtual Result<void> writeAudio(const audio::AudioDisc &disc, const Control &control) = 0;
+    /// Writes all tracks of an audio disc, session at once, and its names. The medium must be a blank CD.
+    virtual Result<AudioWritten> writeAudio(const audio::AudioDisc &disc, const Control &control) = 0;
+
+    /// The tracks in the table of contents, with their names where the disc has CD-TEXT. None on a blank disc, and none
+    /// on one that has no such table: that is one track of data.
+    virtual Result<DiscTracks> tracks() = 0;
 
     /// Makes the drive look at the medium again, as after a write.
     virtual Result<void> reload() = 0;

@@ -104,6 +104,15 @@ Options optionsFor(burn_drive *drive, WriteMode mode)
     return options;
 }
 
+bool addText(burn_write_opts &options, std::span<const audio::Pack> text)
+{
+    std::vector<unsigned char> bytes; // libburn takes a copy
+    for (const audio::Pack &pack : text)
+        bytes.insert(bytes.end(), pack.begin(), pack.end());
+    return text.empty()
+        || burn_write_opts_set_leadin_text(&options, bytes.data(), static_cast<int>(text.size()), 0) > 0;
+}
+
 Phase phaseOf(burn_drive_status status, Phase busy)
 {
     switch (status) {
@@ -291,15 +300,15 @@ LibburnDrive::Outcome LibburnDrive::wait(Stop stop, const Task &task, const Cont
     return outcome;
 }
 
-LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, WriteMode mode, Phase phase,
-    Family family, const Supply &supply, const Control &control)
+LibburnDrive::Outcome LibburnDrive::write(
+    const std::vector<Track> &tracks, const Manner &manner, const Supply &supply, const Control &control)
 {
     takeMessage();
     const bool audio = !tracks.empty() && tracks.front().audio;
     const Layout layout(tracks);
-    const Options options = optionsFor(handle(), mode);
+    const Options options = optionsFor(handle(), manner.mode);
     Outcome refused;
-    if (!options) {
+    if (!options || !addText(*options, manner.text)) {
         refused.message.text = "out of memory";
         return refused;
     }
@@ -311,7 +320,7 @@ LibburnDrive::Outcome LibburnDrive::write(const std::vector<Track> &tracks, Writ
     }
     const auto unitBytes = static_cast<unsigned>(audio ? audio::sectorSize : blockBytes);
     // From the start of the write on the sources belong to libburn's thread, which may change their sizes.
-    const Task task{ phase, family, unitBytes, sectorsOf(tracks, unitBytes), &supply };
+    const Task task{ manner.phase, manner.family, unitBytes, sectorsOf(tracks, unitBytes), &supply };
     burn_disc_write(options.get(), layout.disc());
     Outcome outcome = wait(Stop::cancels, task, control);
     for (const Track &track : tracks)

@@ -1,6 +1,7 @@
 // A drive that libburn has opened: an MMC drive or a file ("stdio:"). What both have in common.
 #pragma once
 
+#include "audio/CdText.h"
 #include "drive/Drive.h"
 #include "drive/Source.h"
 
@@ -72,10 +73,18 @@ public:
         LibburnMessage message; ///< the gravest message of a failure
     };
 
-    /// Writes one session of `tracks` and closes the disc. Progress is told as `phase`. A failure of `supply`, which
-    /// the sources of the tracks tell, ends the write. A stop signal ends it until the disc is being closed.
-    Outcome write(const std::vector<Track> &tracks, WriteMode mode, Phase phase, Family family,
-        const Supply &supply, const Control &control);
+    /// How a session is written.
+    struct Manner {
+        WriteMode mode = WriteMode::trackAtOnce;
+        Phase phase = Phase::writing; ///< what progress is told as
+        Family family = Family::none;
+        std::span<const audio::Pack> text; ///< CD-TEXT, with a session at once on a CD only
+    };
+
+    /// Writes one session of `tracks` and closes the disc. A failure of `supply`, which the sources of the tracks tell,
+    /// ends the write. A stop signal ends it until the disc is being closed.
+    Outcome write(
+        const std::vector<Track> &tracks, const Manner &manner, const Supply &supply, const Control &control);
 
     /// Waits for an erase or a format that was started. Neither can be broken off safely (MMC-6 6.2), so a
     /// stop signal is only noted.

@@ -39,7 +39,8 @@ public:
     Result<Medium> medium() override { return readMedium(*m_drive, m_device, m_stop); }
     Result<void> erase(EraseMode mode, const Control &control) override;
     Result<void> writeData(DiscData &data, BlockDigests &sent, const Control &control) override;
-    Result<void> writeAudio(const audio::AudioDisc &disc, const Control &control) override;
+    Result<AudioWritten> writeAudio(const audio::AudioDisc &disc, const Control &control) override;
+    Result<DiscTracks> tracks() override { return readTracks(*m_drive); }
     Result<void> reload() override;
     Result<std::size_t> read(std::uint64_t block, std::span<std::byte> buffer) override
     {
@@ -67,6 +68,7 @@ struct PhysicalLease::Job {
     std::function<Result<std::vector<Track>>()> tracks;
     std::shared_ptr<Supply> supply = std::make_shared<Supply>();
     std::uint64_t blocks = 0; ///< of which `supply` keeps digests, if it does
+    std::vector<audio::Pack> text; ///< gone when the drive refuses it
 };
 
 /// True when another attempt can start as if the failed one had not been.
@@ -84,6 +86,7 @@ Result<void> PhysicalLease::write(Job &job, const Medium &medium, const Control 
 {
     const auto family = factsOf(medium.kind).family;
     Attempt attempt = firstAttempt(medium.rewriting, medium.speeds);
+    attempt.named = !job.text.empty();
     while (true) {
         job.supply->start(job.blocks);
         Result<std::vector<Track>> tracks = job.tracks();
@@ -91,7 +94,7 @@ Result<void> PhysicalLease::write(Job &job, const Medium &medium, const Control 
             return withState(tracks.error(), m_name, Left::blank);
         burn_drive_set_speed(m_drive->handle(), 0, attempt.speed);
         LibburnDrive::Outcome outcome =
-            m_drive->write(*tracks, attempt.mode, job.phase, family, *job.supply, control);
+            m_drive->write(*tracks, { attempt.mode, job.phase, family, job.text }, *job.supply, control);
         if (outcome.well)
             return {};
         outcome.gone = outcome.signal == 0 && !outcome.sourceFailed && isGone(m_device);
@@ -100,6 +103,8 @@ Result<void> PhysicalLease::write(Job &job, const Medium &medium, const Control 
         if (!again || !next)
             return writeFailure(outcome, job.supply->outcome(), m_name, leftOf(medium, !again));
         attempt = *next;
+        if (!attempt.named)
+            job.text.clear();
     }
 }
 
@@ -129,7 +134,7 @@ Result<void> PhysicalLease::writeData(DiscData &data, BlockDigests &sent, const 
     return written;
 }
 
-Result<void> PhysicalLease::writeAudio(const audio::AudioDisc &disc, const Control &control)
+Result<AudioWritten> PhysicalLease::writeAudio(const audio::AudioDisc &disc, const Control &control)
 {
     const Result<Medium> now = medium();
     if (!now)
@@ -141,7 +146,10 @@ Result<void> PhysicalLease::writeAudio(const audio::AudioDisc &disc, const Contr
     Job job;
     job.audio = true;
     job.tracks = [&] { return audioTracks(disc, job.supply); };
-    return write(job, *now, control);
+    job.text = audio::packsOf(disc.text);
+    if (auto written = write(job, *now, control); !written)
+        return written.error();
+    return AudioWritten{ !job.text.empty() || disc.text.empty() };
 }
 
 Result<void> PhysicalLease::reload()

@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <sys/types.h>
 #include <thread>
 // libburn.h needs off_t to be known.
@@ -106,7 +108,64 @@ std::uint64_t volumeOn(LibburnDrive &drive)
     return volumeBlocks(descriptor);
 }
 
+struct DiscFree {
+    void operator()(burn_disc *disc) const { burn_disc_free(disc); }
+};
+
+TrackRecord trackOf(burn_track *track, int number, std::uint64_t beforeBlocks)
+{
+    burn_toc_entry entry{};
+    burn_track_get_entry(track, &entry);
+    constexpr int dataTrack = 0x04; // MMC-6 table 449, control field
+    constexpr int blocksTold = 1; // of extensions_valid
+    TrackRecord record;
+    record.number = number;
+    record.audio = (entry.control & dataTrack) == 0;
+    if (entry.extensions_valid & blocksTold) {
+        record.start = beforeBlocks + static_cast<std::uint64_t>(std::max(entry.start_lba, 0));
+        record.sectors = static_cast<std::uint64_t>(std::max(entry.track_blocks, 0));
+    }
+    return record;
+}
+
+audio::CdText textOn(burn_drive *drive, std::size_t tracks)
+{
+    unsigned char *bytes = nullptr;
+    int count = 0;
+    if (burn_disc_get_leadin_text(drive, &bytes, &count, 0) <= 0)
+        return { {}, std::vector<Texts>(tracks) };
+    const std::unique_ptr<unsigned char, decltype(&std::free)> owner(bytes, std::free);
+    std::vector<audio::Pack> packs(static_cast<std::size_t>(std::max(count, 0)));
+    for (std::size_t i = 0; i < packs.size(); ++i)
+        std::copy_n(bytes + i * packs[i].size(), packs[i].size(), packs[i].begin());
+    return audio::textOf(packs, tracks);
+}
+
 } // namespace
+
+DiscTracks readTracks(LibburnDrive &drive)
+{
+    DiscTracks found;
+    const std::unique_ptr<burn_disc, DiscFree> disc(burn_drive_get_disc(drive.handle()));
+    const bool isCd = factsOf(kindOfProfile(profileOf(drive))).family == Family::cd;
+    int sessions = 0;
+    burn_session **session = disc ? burn_disc_get_sessions(disc.get(), &sessions) : nullptr;
+    for (int i = 0; i < sessions; ++i) {
+        int tracks = 0;
+        burn_track **track = burn_session_get_tracks(session[i], &tracks);
+        for (int j = 0; j < tracks; ++j)
+            found.tracks.push_back(
+                trackOf(track[j], static_cast<int>(found.tracks.size()) + 1, isCd ? audio::firstPause : 0));
+    }
+    if (isCd && !found.tracks.empty()) {
+        const audio::CdText text = textOn(drive.handle(), found.tracks.size());
+        found.disc = text.disc;
+        for (std::size_t i = 0; i < found.tracks.size(); ++i)
+            found.tracks[i].texts = text.tracks[i];
+    }
+    LibburnDrive::takeMessage();
+    return found;
+}
 
 int profileOf(LibburnDrive &drive)
 {

@@ -3,6 +3,7 @@
 
 #include "drive/LibburnDrive.h"
 #include "medium/Medium.h"
+#include "medium/Tracks.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -19,6 +20,9 @@ int profileOf(LibburnDrive &drive);
 /// Asks the drive for everything that a Medium holds. Waits for a medium that is not ready yet, half a minute
 /// or until `stop`.
 Result<Medium> readMedium(LibburnDrive &drive, const std::string &device, const Stop &stop);
+
+/// The tracks in the table of contents, with their names where a CD has any; none when the drive tells none.
+DiscTracks readTracks(LibburnDrive &drive);
 
 /// Size in blocks of the ISO 9660 volume whose primary volume descriptor is `descriptor` (block 16 of a
 /// disc, ECMA-119 8.4); 0 when it is none. A UDF volume does not tell its size there, and counts as the largest number.

@@ -256,6 +256,15 @@ Result<void> RecorderFolder::clear() const
     return {};
 }
 
+Result<std::string> RecorderFolder::cueSheet() const
+{
+    const Result<std::string> text =
+        readSmallFile(m_folder.get(), cueSheetFile, "The cue sheet of " + m_name + " cannot be read");
+    if (!text)
+        return Error{ Exit::failed, text.error().message + "; write the disc again." };
+    return text;
+}
+
 Result<void> RecorderFolder::saveCueSheet(const std::string &text) const
 {
     return replaceFile(

@@ -49,6 +49,9 @@ public:
     /// Deletes what lies on the disc.
     Result<void> clear() const;
 
+    /// The cue sheet of the audio disc.
+    Result<std::string> cueSheet() const;
+
     /// Replaces the cue sheet at once.
     Result<void> saveCueSheet(const std::string &text) const;
 

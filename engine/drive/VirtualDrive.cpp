@@ -61,7 +61,8 @@ public:
     Result<Medium> medium() override;
     Result<void> erase(EraseMode mode, const Control &control) override;
     Result<void> writeData(DiscData &data, BlockDigests &sent, const Control &control) override;
-    Result<void> writeAudio(const audio::AudioDisc &disc, const Control &control) override;
+    Result<AudioWritten> writeAudio(const audio::AudioDisc &disc, const Control &control) override;
+    Result<DiscTracks> tracks() override;
     Result<void> reload() override;
     Result<std::size_t> read(std::uint64_t block, std::span<std::byte> buffer) override;
     void present() override { }
@@ -183,7 +184,7 @@ Result<LibburnDrive::Outcome> VirtualLease::stream(
     std::vector<Track> tracks;
     tracks.push_back(std::move(content.track));
     LibburnDrive::Outcome outcome = (*drive)->write(
-        tracks, WriteMode::trackAtOnce, Phase::writing, factsOf(kind).family, supply, control);
+        tracks, { WriteMode::trackAtOnce, Phase::writing, factsOf(kind).family, {} }, supply, control);
     outcome.well = outcome.well && supply.bytes() >= content.bytes;
     // A signal may come between the last look for one and a failure.
     if (!outcome.well && outcome.signal == 0)
@@ -230,7 +231,7 @@ Result<void> VirtualLease::writeData(DiscData &data, BlockDigests &sent, const C
     return written;
 }
 
-Result<void> VirtualLease::writeAudio(const audio::AudioDisc &disc, const Control &control)
+Result<AudioWritten> VirtualLease::writeAudio(const audio::AudioDisc &disc, const Control &control)
 {
     auto opened = audio::DiscStream::open(disc);
     if (!opened)
@@ -252,7 +253,20 @@ Result<void> VirtualLease::writeAudio(const audio::AudioDisc &disc, const Contro
         newSource(filled, (content.bytes + blockBytes - 1) / blockBytes * blockBytes, supply);
     content.file = audioDiscFile;
     content.cueSheet = audio::cueSheet(audioDiscFile, disc);
-    return write(std::move(content), *supply, control);
+    if (auto written = write(std::move(content), *supply, control); !written)
+        return written.error();
+    return AudioWritten();
+}
+
+Result<DiscTracks> VirtualLease::tracks()
+{
+    const auto sound = m_folder.openDisc(audioDiscFile);
+    if (!sound)
+        return DiscTracks();
+    const Result<std::string> sheet = m_folder.cueSheet();
+    if (!sheet)
+        return sheet.error();
+    return audio::tracksOfSheet(*sheet, sizeOf(*sound) / audio::sectorSize);
 }
 
 Result<void> VirtualLease::reload()

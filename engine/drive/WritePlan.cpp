@@ -8,7 +8,7 @@ Attempt firstAttempt(Rewriting rewriting, const std::vector<int> &speeds)
 {
     const bool sequential = rewriting == Rewriting::once || rewriting == Rewriting::erase;
     return { sequential ? WriteMode::sessionAtOnce : WriteMode::trackAtOnce,
-        speeds.empty() ? 0 : speeds.back() };
+        speeds.empty() ? 0 : speeds.back(), false };
 }
 
 bool isSpeedError(const LibburnMessage &refusal)
@@ -25,10 +25,12 @@ std::optional<Attempt> nextAttempt(
         const auto same = std::ranges::lower_bound(speeds, failed.speed);
         if (failed.speed == 0 || same == speeds.begin())
             return std::nullopt;
-        return Attempt{ failed.mode, *std::prev(same) };
+        return Attempt{ failed.mode, *std::prev(same), failed.named };
     }
+    if (failed.named)
+        return Attempt{ failed.mode, failed.speed, false };
     if (failed.mode == WriteMode::sessionAtOnce && !audio)
-        return Attempt{ WriteMode::trackAtOnce, failed.speed };
+        return Attempt{ WriteMode::trackAtOnce, failed.speed, false };
     return std::nullopt;
 }
 

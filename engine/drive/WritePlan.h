@@ -13,6 +13,7 @@ namespace engine::drive {
 struct Attempt {
     WriteMode mode = WriteMode::trackAtOnce;
     int speed = 0;
+    bool named = false; ///< with CD-TEXT
     bool operator==(const Attempt &) const = default;
 };
 
@@ -21,8 +22,8 @@ struct Attempt {
 Attempt firstAttempt(Rewriting rewriting, const std::vector<int> &speeds);
 
 /// What to try after `failed` got `refusal`, while the medium is still as it was. A speed error lowers the
-/// speed. Any other refusal of the session at once gives the incremental way, except for audio: track at
-/// once would put pauses between the tracks. No value: nothing is left.
+/// speed. Any other refusal of a disc with CD-TEXT leaves that away; any other of the session at once gives the
+/// incremental way, except for audio: track at once would put pauses between the tracks. No value: nothing is left.
 std::optional<Attempt> nextAttempt(
     const Attempt &failed, const LibburnMessage &refusal, bool audio, const std::vector<int> &speeds);
 

@@ -357,7 +357,7 @@ private Q_SLOTS:
         disc.tracks = { { "a", {}, 300 }, { "b", {}, 400 } };
         disc.text = { { "FILE \"disc.bin\"", "Band" }, { { "Ünder", "" }, { "Two", "Other" } } };
         const std::string sheet = cueSheet("disc.bin", disc);
-        QCOMPARE(QString::fromStdString(sheet),
+        QCOMPARE(QString::fromLatin1(sheet.c_str()),
             u"TITLE \"FILE 'disc.bin'\"\nPERFORMER \"Band\"\nFILE \"disc.bin\" BINARY\n"
             "  TRACK 01 AUDIO\n    TITLE \"Ünder\"\n    INDEX 00 00:00:00\n    INDEX 01 00:02:00\n"
             "  TRACK 02 AUDIO\n    TITLE \"Two\"\n    PERFORMER \"Other\"\n    INDEX 01 00:06:00\n"_s);

@@ -34,7 +34,11 @@ public:
     Result<Medium> medium() override { return Medium{}; }
     Result<void> erase(EraseMode, const Control &) override { return {}; }
     Result<void> writeData(DiscData &, BlockDigests &, const Control &) override { return {}; }
-    Result<void> writeAudio(const audio::AudioDisc &, const Control &) override { return {}; }
+    Result<AudioWritten> writeAudio(const audio::AudioDisc &, const Control &) override
+    {
+        return AudioWritten();
+    }
+    Result<DiscTracks> tracks() override { return DiscTracks(); }
     Result<void> reload() override { return {}; }
     void present() override { }
     Result<std::size_t> read(std::uint64_t block, std::span<std::byte> buffer) override

@@ -43,6 +43,17 @@ private Q_SLOTS:
         QVERIFY(!nextAttempt({ WriteMode::sessionAtOnce, 8467 }, mode, true, speeds));
     }
 
+    void aRefusedDiscWithNamesIsWrittenWithout()
+    {
+        const Attempt named{ WriteMode::sessionAtOnce, 8467, true };
+        const auto next = nextAttempt(named, mode, true, speeds);
+        QVERIFY((next == Attempt{ WriteMode::sessionAtOnce, 8467, false }));
+        QVERIFY(!nextAttempt(*next, mode, true, speeds));
+        // What a lower speed can mend is not the names' fault.
+        QVERIFY((nextAttempt(named, calibration, true, speeds)
+            == Attempt{ WriteMode::sessionAtOnce, 5540, true }));
+    }
+
     void aSpeedErrorLowersTheSpeedUntilTheSlowest()
     {
         Attempt attempt{ WriteMode::sessionAtOnce, 11080 };

@@ -115,6 +115,71 @@ private Q_SLOTS:
         QVERIFY2(toc.out.contains(u"2 tracks, length 00:13:00, 975 blocks"_s), qPrintable(toc.out));
     }
 
+    // Converted as the application converts, with names that the alphabet of CD-TEXT has and has not.
+    void namesGoFromTheFilesToTheDisc()
+    {
+        const QStringList titles{ u"Façade \"live\""_s, u"Łódź – Nr. 2"_s };
+        for (int i = 0; i < titles.size(); ++i) {
+            const QString file = source() + u"/%1.wav"_s.arg(i);
+            const Ran made = runProgram(u"ffmpeg"_s,
+                { u"-hide_banner"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=d=5"_s, u"-ar"_s, u"44100"_s,
+                    u"-ac"_s, u"2"_s, u"-metadata"_s, u"title="_s + titles.at(i), u"-metadata"_s,
+                    u"artist=Band"_s, u"-metadata"_s, u"album=Album"_s, file });
+            QVERIFY2(made.exit == 0, qPrintable(made.err));
+            QFile touched(file);
+            QVERIFY(touched.open(QFile::ReadWrite)
+                && touched.setFileTime(
+                    QDateTime::fromSecsSinceEpoch(1700000000 + i), QFileDevice::FileModificationTime));
+        }
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        const Ran burnt = (*m_drutil)({ u"burn"_s, u"-audio"_s, source() });
+        QVERIFY2(burnt.exit == 0, qPrintable(burnt.err));
+        QVERIFY2((burnt.out + burnt.err).contains(u"spelled otherwise: \"Łódź – Nr. 2\"."_s),
+            qPrintable(burnt.out));
+        const Ran tracks = (*m_drutil)({ u"tracks"_s });
+        QCOMPARE(tracks.exit, 0);
+        QCOMPARE(tracks.out,
+            u"Album: Album\nAlbum performer: Band\n"
+            "Track  Kind   Start     Length    Title          Performer\n"
+            "    1  audio  00:02:00  00:05:00  Façade 'live'  Band\n"
+            "    2  audio  00:07:00  00:05:00  Lódz - Nr. 2   Band\n"_s);
+        // Its output is UTF-8 only where the locale is.
+        QProcessEnvironment utf8 = QProcessEnvironment::systemEnvironment();
+        utf8.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+        const Ran info = runProgram(
+            u"cd-info"_s, { u"--no-header"_s, u"--no-device-info"_s, u"--no-cddb"_s, cue() }, utf8);
+        QVERIFY2(info.out.contains(u"TITLE: Façade 'live'"_s) && info.out.contains(u"TITLE: Lódz - Nr. 2"_s),
+            qPrintable(info.out));
+        QCOMPARE(info.out.count(u"PERFORMER: Band"_s), 3);
+        const Ran toc = runProgram(
+            u"/bin/sh"_s, { u"-c"_s, u"cd \"$0\" && cdrdao toc-info disc.cue"_s, m_drutil->recorder() });
+        QVERIFY2(toc.exit == 0, qPrintable(toc.err));
+        QVERIFY2(toc.out.contains(u"2 tracks, length 00:12:00, 900 blocks"_s), qPrintable(toc.out));
+        // The archived sheet names its file, and the titles are left alone.
+        QCOMPARE((*m_drutil)({ u"tray"_s, u"eject"_s }).exit, 0);
+        QCOMPARE(
+            (*m_drutil)({ u"tracks"_s }).err, u"drutil: The disc in drive 1 is blank: it has no tracks.\n"_s);
+    }
+
+    void tracksOfDataDiscs()
+    {
+        QVERIFY(writeFile(source() + u"/file"_s, "data"));
+        QVERIFY(m_drutil->insert(u"cd-r"_s));
+        QCOMPARE((*m_drutil)({ u"burn"_s, source() }).exit, 0);
+        const Ran cd = (*m_drutil)({ u"tracks"_s, u"-drive"_s, u"1"_s });
+        QVERIFY2(QRegularExpression(
+                     u"^Track  Kind   Start     Length\n    1  data   00:02:00  00:0\\d:\\d\\d\n$"_s)
+                     .match(cd.out)
+                     .hasMatch(),
+            qPrintable(cd.out));
+        QVERIFY(m_drutil->insert(u"dvd-r"_s));
+        QCOMPARE((*m_drutil)({ u"burn"_s, source() }).exit, 0);
+        QVERIFY((*m_drutil)({ u"tracks"_s }).out.contains(u"    1  data   00:00:00  00:0"_s));
+        QCOMPARE((*m_drutil)({ u"insert"_s, u"none"_s }).exit, 0);
+        QCOMPARE((*m_drutil)({ u"tracks"_s }).exit, 3);
+        QCOMPARE((*m_drutil)({ u"tracks"_s, u"more"_s }).exit, 2);
+    }
+
     void anArchivedDiscKeepsItsSheet()
     {
         addTrack(u"1.wav"_s, wave(samples(sector * 300, 1)), 1);

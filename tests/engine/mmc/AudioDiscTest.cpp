@@ -1,5 +1,6 @@
 // An audio CD as it reaches the drive: the cue sheet and every sector, against a drive that keeps to MMC-5.
 #include "Session.h"
+#include "report/TracksText.h"
 
 #include <chrono>
 #include <semaphore>
@@ -20,29 +21,42 @@ QByteArray samples(int track, qsizetype bytes)
     return all.left(bytes);
 }
 
-QByteArray wave(const QByteArray &data)
+QByteArray chunk(const char *id, const QByteArray &content)
 {
+    QByteArray chunk(id);
+    for (int byte = 0; byte < 4; ++byte)
+        chunk += char(content.size() >> (8 * byte));
+    return chunk + content + QByteArray(content.size() % 2, '\0');
+}
+
+/// Sound, and behind it a list of what it is called, if it is.
+QByteArray wave(const QByteArray &data, const QByteArray &title = {}, const QByteArray &artist = {})
+{
+    QByteArray list;
+    if (!title.isEmpty())
+        list = chunk("LIST",
+            "INFO" + chunk("INAM", title) + chunk("IART", artist) + chunk("IPRD", "The \xc3\x84lbum"));
     QByteArray header;
     QDataStream out(&header, QIODevice::WriteOnly);
     out.setByteOrder(QDataStream::LittleEndian);
     out.writeRawData("RIFF", 4);
-    out << quint32(36 + data.size());
+    out << quint32(36 + data.size() + list.size());
     out.writeRawData("WAVEfmt ", 8);
     out << quint32(16) << quint16(1) << quint16(2) << quint32(44100) << quint32(176400) << quint16(4)
         << quint16(16);
     out.writeRawData("data", 4);
     out << quint32(data.size());
-    return header + data;
+    return header + data + list;
 }
 
 /// Files of these sizes, in this order.
-std::string audioFolder(Session &session, const QList<qsizetype> &sizes)
+std::string audioFolder(Session &session, const QList<qsizetype> &sizes, const QByteArrayList &titles = {})
 {
     const QString folder = session.path(u"Audio"_s);
     QDir().mkpath(folder);
     for (int i = 0; i < sizes.size(); ++i) {
         const QString path = folder + u"/%1.wav"_s.arg(9 - i); // the names run against the order
-        Session::put(path, wave(samples(i + 1, sizes.at(i))));
+        Session::put(path, wave(samples(i + 1, sizes.at(i)), titles.value(i), "Band"));
         QFile file(path);
         if (!file.open(QFile::ReadWrite)
             || !file.setFileTime(QDateTime::fromSecsSinceEpoch(1000 + i), QFile::FileModificationTime))
@@ -113,6 +127,104 @@ private Q_SLOTS:
         QCOMPARE(sentence(done), QString());
         QCOMPARE(session.drive.commandsOf(sendCueSheet).first().data.size(), (99 + 3) * 8);
         QCOMPARE(session.drive.disc.blocks.lastKey(), 99 * 300 - 1);
+    }
+
+    void theNamesGoIntoTheLeadIn()
+    {
+        Session session({ cdR, State::blank, true, 2048 });
+        const QByteArrayList titles{ "First", "Zwei\xc3\xb6t \xe2\x80\x93 of several", "3" };
+        const auto done = engine::drive::burnAudioFolder(session.physical,
+            audioFolder(session, { sectorBytes * 400, sectorBytes * 300, 400 }, titles), session.options);
+        QCOMPARE(sentence(done), QString());
+        const Drive &drive = session.drive;
+        QCOMPARE(drive.commandsOf(sendCueSheet).size(), 1);
+        QCOMPARE(drive.commandsOf(sendCueSheet).first().data.left(8).toHex(' '),
+            line(0x01, 0, 0, 0x41, -150).toHex(' '));
+        // Titles and performers with their places, then the sizes; worked out by hand.
+        const QByteArrayList payloads{ QByteArray::fromHex("80000000") + "The \xc4lbum\0Fi"_ba,
+            QByteArray::fromHex("80010102") + "rst\0Zwei\xf6t -"_ba,
+            QByteArray::fromHex("80020208") + " of several\0"_ba,
+            QByteArray::fromHex("80030300") + "3\0\0\0\0\0\0\0\0\0\0\0"_ba,
+            QByteArray::fromHex("81000400") + "Band\0Band\0Ba"_ba,
+            QByteArray::fromHex("81020502") + "nd\0Band\0\0\0\0\0"_ba,
+            QByteArray::fromHex("8f000600 000103000402000000000000"),
+            QByteArray::fromHex("8f010700 000000000000000308000000"),
+            QByteArray::fromHex("8f020800 000000000900000000000000") };
+        QCOMPARE(drive.disc.text.size(), payloads.size() * 18);
+        for (int i = 0; i < payloads.size(); ++i)
+            QCOMPARE(drive.disc.text.mid(i * 18, 16).toHex(' '), payloads.at(i).toHex(' '));
+        QCOMPARE(drive.disc.state, State::complete);
+        QCOMPARE(drive.content(0).left(400), samples(1, 400));
+
+        const auto tracks = engine::drive::tracksOn(session.physical);
+        QCOMPARE(sentence(tracks), QString());
+        QCOMPARE(QString::fromStdString(engine::report::tracksText(*tracks)),
+            u"Album: The Älbum\nAlbum performer: Band\n"
+            "Track  Kind   Start     Length    Title                Performer\n"
+            "    1  audio  00:02:00  00:05:25  First                Band\n"
+            "    2  audio  00:07:25  00:04:00  Zweiöt - of several  Band\n"
+            "    3  audio  00:11:25  00:04:00  3                    Band\n"_s);
+    }
+
+    void ninetyNineNamesFillTheLeadIn()
+    {
+        Session session({ cdR, State::blank, true, 359844 });
+        QByteArrayList titles;
+        for (int i = 0; i < 99; ++i)
+            titles.append("A title that is too long for so many, number " + QByteArray::number(i));
+        const auto done = engine::drive::burnAudioFolder(
+            session.physical, audioFolder(session, QList<qsizetype>(99, 4), titles), session.options);
+        QCOMPARE(sentence(done), QString());
+        QVERIFY(session.drive.disc.text.size() / 18 > 250 && session.drive.disc.text.size() / 18 <= 256);
+        QVERIFY(!session.lines.filter(u"These names are cut, as CD-TEXT has no room"_s).isEmpty());
+        const auto tracks = engine::drive::tracksOn(session.physical);
+        QCOMPARE(tracks->tracks.size(), std::size_t(99));
+        QCOMPARE(tracks->tracks[98].texts.title, tracks->tracks[97].texts.title);
+        QVERIFY(tracks->tracks[98].texts.title.starts_with("A title that is too"));
+        QCOMPARE(tracks->tracks[98].texts.performer, std::string("Band"));
+    }
+
+    void aDriveThatDoesNotWriteNamesGetsTheDiscWithout()
+    {
+        Session session({ cdR, State::blank, true, 2048 });
+        session.drive.refuse = [](const Command &command) -> std::optional<Sense> {
+            const bool named = command.opcode() == sendCueSheet && (command.data.at(3) & 0x40) != 0;
+            return named ? std::optional(Sense{ 5, 0x26, 0x00 }) : std::nullopt;
+        };
+        const auto done = engine::drive::burnAudioFolder(session.physical,
+            audioFolder(session, { sectorBytes * 400, 400 }, { "One", "Two" }), session.options);
+        QCOMPARE(sentence(done), QString());
+        QCOMPARE(session.drive.commandsOf(sendCueSheet).size(), 2);
+        QVERIFY(session.drive.disc.text.isEmpty());
+        QCOMPARE(session.drive.disc.state, State::complete);
+        QCOMPARE(
+            session.lines.filter(u"The titles are not on the disc: drive 1 does not write CD-TEXT."_s).size(),
+            1);
+        const auto tracks = engine::drive::tracksOn(session.physical);
+        QCOMPARE(tracks->tracks.size(), std::size_t(2));
+        QCOMPARE(tracks->tracks[1].texts, engine::Texts());
+    }
+
+    void tracksOfOtherDiscs()
+    {
+        Session blank({ cdR });
+        QCOMPARE(sentence(engine::drive::tracksOn(blank.physical)),
+            u"The disc in drive 1 is blank: it has no tracks."_s);
+        Session empty({ none });
+        const auto nothing = engine::drive::tracksOn(empty.physical);
+        QVERIFY(!nothing);
+        QCOMPARE(int(nothing.error().exit), 3);
+        for (const int profile : { cdR, dvdR, dvdPlusR, bdR, dvdPlusRw }) {
+            Session data({ profile });
+            QCOMPARE(sentence(data.burn(100)), QString());
+            const auto tracks = engine::drive::tracksOn(data.physical);
+            QVERIFY2(tracks, qPrintable(QString::number(profile, 16) + u' ' + sentence(tracks)));
+            QCOMPARE(tracks->tracks.size(), std::size_t(1));
+            QVERIFY(!tracks->tracks[0].audio);
+            QCOMPARE(tracks->tracks[0].start, std::uint64_t(profile == cdR ? 150 : 0));
+            QVERIFY2(tracks->tracks[0].sectors >= 100,
+                QByteArray::number(qulonglong(tracks->tracks[0].sectors)).constData());
+        }
     }
 
     void progressRunsOverAllTracks()

@@ -22,6 +22,9 @@ namespace {
 std::mutex currentMutex;
 Drive *current = nullptr;
 
+/// Address of the first sector of the lead-in, whose times run up to 99:59:74 (MMC-5 4.2.3.3).
+constexpr qint32 leadInStart = 97 * 4500 + 34 * 75 + 23 - 450000 - 150;
+
 constexpr Sense noMedium{ 2, 0x3a, 0x00 };
 constexpr Sense invalidOpcode{ 5, 0x20, 0x00 };
 constexpr Sense outOfRange{ 5, 0x21, 0x00 };
@@ -352,8 +355,9 @@ Drive::Answer Drive::tellTrack(const Command &command)
 // READ TOC/PMA/ATIP, MMC-5 6.26
 Drive::Answer Drive::tellToc(const Command &command)
 {
-    const auto entry = [](int point, const QByteArray &address) {
-        return QByteArray("\x01\x14\x00", 3) + char(point) + QByteArray(4, '\0') + address;
+    const auto entry = [this](int point, const QByteArray &address) {
+        const char control = disc.audioTracks.isEmpty() ? '\x14' : '\x10';
+        return '\x01' + (control + QByteArray(1, '\0')) + char(point) + QByteArray(4, '\0') + address;
     };
     switch (command.number(2, 1) & 0x0f) {
     case 2: { // full TOC
@@ -361,8 +365,11 @@ Drive::Answer Drive::tellToc(const Command &command)
             return { {}, invalidField };
         if (disc.firstTrackOpen) // no session is closed
             return { big(2, 2) + QByteArray("\x01\x01", 2), {} };
-        const QByteArray entries = entry(0xa0, QByteArray("\x01\0\0", 3))
-            + entry(0xa1, QByteArray("\x01\0\0", 3)) + entry(0xa2, msf(end())) + entry(1, msf(0));
+        const QList<qint32> starts = disc.audioTracks.isEmpty() ? QList<qint32>{ 0 } : disc.audioTracks;
+        QByteArray entries = entry(0xa0, QByteArray("\x01\0\0", 3))
+            + entry(0xa1, char(starts.size()) + QByteArray(2, '\0')) + entry(0xa2, msf(end()));
+        for (int i = 0; i < starts.size(); ++i)
+            entries += entry(i + 1, msf(starts.at(i)));
         return { big(quint32(entries.size() + 2), 2) + QByteArray("\x01\x01", 2) + entries, {} };
     }
     case 4: { // ATIP
@@ -371,10 +378,14 @@ Drive::Answer Drive::tellToc(const Command &command)
         QByteArray data = big(26, 2) + QByteArray(26, '\0');
         data[4] = char(0xd0);
         data[6] = char(disc.profile == cdRw ? 0xc0 : 0x80);
-        data.replace(8, 3, QByteArray("\x61\x22\x17", 3)); // lead-in at 97:34:23
+        data.replace(8, 3, QByteArray("\x61\x22\x17", 3)); // 97:34:23, leadInStart
         data.replace(12, 3, msf(disc.capacity));
         return { data, {} };
     }
+    case 5: // CD-TEXT
+        if (disc.text.isEmpty())
+            return { {}, invalidField };
+        return { big(quint32(disc.text.size() + 2), 2) + QByteArray(2, '\0') + disc.text, {} };
     default:
         return { {}, invalidField };
     }
@@ -467,9 +478,16 @@ Drive::Answer Drive::takeCueSheet(const Command &command)
     if (!isCd() || quint8(leadOut.at(1)) != 0xaa)
         return { {}, invalidField };
     m_reserved = leadOut.at(5) * 4500 + leadOut.at(6) * 75 + leadOut.at(7) - 150;
-    m_next = -150;
+    const bool withText = (command.data.at(3) & 0x40) != 0; // data form of the lead-in, MMC-5 table 526
+    m_next = withText ? leadInStart : -150;
+    m_subcode.clear();
     const int form = command.data.at(8 + 3); // of the first track
     m_blockSize = form == 0 ? 2352 : 2048;
+    disc.audioTracks.clear();
+    for (qsizetype at = 8; form == 0 && at + 8 < command.data.size(); at += 8)
+        if (command.data.at(at + 2) == 1) // index
+            disc.audioTracks.append(command.data.at(at + 5) * 4500 + command.data.at(at + 6) * 75
+                + command.data.at(at + 7) - 150);
     return {};
 }
 
@@ -483,6 +501,8 @@ Drive::Answer Drive::write(const Command &command)
         return { {}, incompatibleMedium };
     if (!overwritable() && address != m_next)
         return { {}, wrongAddress };
+    if (address < -150)
+        return writeLeadIn(command, count);
     const qint32 limit = m_reserved > 0 ? m_reserved : disc.capacity;
     if (address + count > limit)
         return { {}, outOfRange };
@@ -493,6 +513,31 @@ Drive::Answer Drive::write(const Command &command)
     m_next = address + count;
     if (!overwritable())
         disc.state = State::appendable;
+    return {};
+}
+
+// The packs over and over, six bits a byte, 96 bytes a sector (MMC-3 annex J.3).
+Drive::Answer Drive::writeLeadIn(const Command &command, qint32 count)
+{
+    if (command.data.size() != qsizetype(count) * 96)
+        return { {}, invalidField };
+    disc.state = State::appendable;
+    m_subcode += command.data;
+    m_next += count;
+    if (m_next < -150)
+        return {};
+    QByteArray bytes;
+    for (qsizetype at = 0; at + 4 <= m_subcode.size(); at += 4) {
+        quint32 bits = 0;
+        for (int i = 0; i < 4; ++i) {
+            if (quint8(m_subcode.at(at + i)) > 0x3f)
+                return { {}, invalidField };
+            bits = bits << 6 | quint8(m_subcode.at(at + i));
+        }
+        bytes += big(bits, 3);
+    }
+    const qsizetype again = bytes.indexOf(bytes.left(18), 18);
+    disc.text = bytes.left(again);
     return {};
 }
 
@@ -525,6 +570,8 @@ Drive::Answer Drive::blank(const Command &command)
     disc.incremental = disc.profile != dvdRwSequential || type == 0;
     disc.state = State::blank;
     disc.blocks.clear();
+    disc.audioTracks.clear();
+    disc.text.clear();
     m_next = m_reserved = 0;
     return {};
 }

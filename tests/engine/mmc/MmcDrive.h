@@ -48,6 +48,8 @@ struct Disc {
     bool damaged = false; ///< its last track broke off, and the drive says so
     bool firstTrackOpen =
         false; ///< appendable without a closed session: what is written is the first track's
+    QList<qint32> audioTracks = {}; ///< where the tracks of an audio session begin; a data session has none
+    QByteArray text = {}; ///< packs of CD-TEXT in the lead-in
 };
 
 struct Sense {
@@ -163,6 +165,7 @@ private:
     Answer reserve(const Command &);
     Answer takeCueSheet(const Command &);
     Answer write(const Command &);
+    Answer writeLeadIn(const Command &, qint32 count);
     Answer flush(const Command &);
     Answer close(const Command &);
     Answer blank(const Command &);
@@ -184,6 +187,7 @@ private:
     qint32 m_next = 0; ///< next writable address
     qint32 m_reserved = 0; ///< end of the session at once
     int m_blockSize = 2048;
+    QByteArray m_subcode; ///< of the lead-in as it comes, six bits a byte
 };
 
 } // namespace mmc

@@ -5,6 +5,7 @@
 #include "image/DiskImage.h"
 #include "image/IsoImage.h"
 #include "image/NewFile.h"
+#include "image/VolumeName.h"
 #include "program/Program.h"
 #include "program/Session.h"
 
@@ -35,6 +36,7 @@ Exit status: 0 success, 1 failure, 2 wrong arguments, 3 no disc to burn to,
 image::IsoOptions imageOptions(Session &session, const std::uint64_t &size)
 {
     image::IsoOptions options;
+    options.volumeName = image::volumeNameFromEnvironment();
     options.links = image::Links::follow;
     options.stop = session.stop();
     options.progress = [control = session.control(), &size](std::uint64_t bytes) {

@@ -1,6 +1,7 @@
 #include "drive/DiscContent.h"
 
 #include "base/Words.h"
+#include "image/VolumeName.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -15,6 +16,7 @@ namespace {
 image::IsoOptions isoOptions(const Stop &stop)
 {
     image::IsoOptions options;
+    options.volumeName = image::volumeNameFromEnvironment();
     options.stop = stop;
     return options;
 }

@@ -83,6 +83,8 @@ bool FolderReader::readContent(std::uint32_t content, TreeOpener &opener)
     const std::uint64_t size = m_tree.contents()[content].size;
     if (size == 0)
         return true;
+    if (m_tree.contents()[content].isGap())
+        return fillGap(size);
     Fd file = opener.openFile(m_tree.contents()[content].entry);
     if (!file)
         return fail(content, errno);
@@ -103,6 +105,20 @@ bool FolderReader::readBytes(int fd, std::uint32_t content)
             return fail(content, got < 0 ? errno : 0);
         left -= static_cast<std::uint64_t>(got);
         slot.filled += static_cast<std::size_t>(got);
+        if (slot.filled == slotSize && !publish())
+            return false;
+    }
+    return true;
+}
+
+bool FolderReader::fillGap(std::uint64_t size)
+{
+    for (std::uint64_t left = size; left > 0;) {
+        Slot &slot = filling();
+        const auto part = static_cast<std::size_t>(std::min<std::uint64_t>(left, slotSize - slot.filled));
+        std::memset(slot.bytes.get() + slot.filled, 0, part);
+        left -= part;
+        slot.filled += part;
         if (slot.filled == slotSize && !publish())
             return false;
     }

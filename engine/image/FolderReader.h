@@ -67,6 +67,7 @@ private:
     bool readContent(std::uint32_t content, TreeOpener &opener);
     bool readBytes(int fd, std::uint32_t content);
     bool handOver(Fd file, std::uint32_t content);
+    bool fillGap(std::uint64_t size);
     bool pad(std::uint64_t size);
     bool publish();
     bool fail(std::uint32_t content, int error);

@@ -1,5 +1,6 @@
 // Reading a folder into a FolderTree.
 #include "base/Words.h"
+#include "image/DvdVideo.h"
 #include "image/FolderTree.h"
 #include "image/TreeOpener.h"
 
@@ -112,6 +113,8 @@ private:
         const int fd = m_opener.enter(folder);
         if (fd < 0 || !listNames(fd))
             return leaveContentOut(folder, errno);
+        if (folder == 0)
+            addAudioFolder(fd);
         const auto first = static_cast<std::uint32_t>(m_tree.m_entries.size());
         for (const std::string &name : m_names) {
             if (auto ok = addChild(fd, folder, name); !ok)
@@ -121,7 +124,7 @@ private:
         entry.first = first;
         entry.count = static_cast<std::uint32_t>(m_tree.m_entries.size()) - first;
         for (std::uint32_t child = first + entry.count; child-- > first;) {
-            if (S_ISDIR(m_tree.m_entries[child].mode))
+            if (S_ISDIR(m_tree.m_entries[child].mode) && !m_tree.m_entries[child].isMade)
                 m_pending.push_back(child);
         }
         return {};
@@ -148,6 +151,30 @@ private:
         return true;
     }
 
+    /// A video disc has a folder for sound as well, be it empty.
+    void addAudioFolder(int fd)
+    {
+        struct stat info { };
+        const bool isVideo = std::ranges::binary_search(m_names, videoFolder)
+            && fstatat(fd, videoFolder, &info, 0) == 0 && S_ISDIR(info.st_mode);
+        const auto place = std::ranges::lower_bound(m_names, audioFolder);
+        m_makesAudioFolder = isVideo && (place == m_names.end() || *place != audioFolder);
+        if (m_makesAudioFolder)
+            m_names.insert(place, audioFolder);
+    }
+
+    void addMade(std::uint32_t folder, const std::string &name)
+    {
+        Entry entry = m_tree.m_entries[folder];
+        entry.parent = folder;
+        entry.name = text(name);
+        entry.first = 0;
+        entry.count = 0;
+        entry.inode = 0;
+        entry.isMade = true;
+        m_tree.m_entries.push_back(entry);
+    }
+
     Result<void> addChild(int fd, std::uint32_t folder, const std::string &name)
     {
         if (m_tree.m_entries.size() % 4096 == 0)
@@ -157,6 +184,10 @@ private:
             return Error{ Exit::failed,
                 "The folder " + quoted(m_tree.folder())
                     + " holds too many names for a disc: take some out." };
+        if (folder == 0 && m_makesAudioFolder && name == audioFolder) {
+            addMade(folder, name);
+            return {};
+        }
         struct stat info { };
         if (fstatat(fd, name.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0) {
             leaveOut(folder, name,
@@ -331,6 +362,7 @@ private:
     std::vector<std::string> m_names; ///< of the folder being read
     std::unordered_map<FileId, std::uint32_t, FileIdHash> m_known;
     std::uint32_t m_linkedFolders = 0;
+    bool m_makesAudioFolder = false;
 };
 
 Result<FolderTree> FolderTree::read(const std::string &folder, const IsoOptions &options)

@@ -1,6 +1,16 @@
 #include "image/FolderTree.h"
 
+#include <sys/stat.h>
+
 namespace engine::image {
+
+void FolderTree::arrange(std::vector<Content> contents, const std::vector<std::uint32_t> &numbers)
+{
+    m_contents = std::move(contents);
+    for (std::size_t entry = 0; entry < m_entries.size(); ++entry)
+        if (S_ISREG(m_entries[entry].mode))
+            m_entries[entry].first = numbers[entry];
+}
 
 std::string FolderTree::relativePath(std::uint32_t entry) const
 {

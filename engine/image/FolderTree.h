@@ -27,13 +27,17 @@ struct Entry {
     dev_t device = 0; ///< the file system it lies on
     dev_t special = 0; ///< of a device file: which device
     std::uint64_t inode = 0;
+    bool isMade = false; ///< a folder that is on the disc only
     std::int64_t modified = 0, accessed = 0, changed = 0; ///< seconds since 1970
 };
 
 /// The data of a regular file, stored once whatever the number of its names.
 struct Content {
-    std::uint32_t entry = 0; ///< the name through which it is read
+    static constexpr std::uint32_t gap = UINT32_MAX;
+    std::uint32_t entry = 0; ///< the name through which it is read; `gap` for zeros that keep files apart
     std::uint64_t size = 0; ///< in bytes
+
+    bool isGap() const { return entry == gap; }
 };
 
 class FolderTree {
@@ -53,6 +57,10 @@ public:
 
     const char *name(const Entry &entry) const { return &m_texts[entry.name]; }
     const char *target(const Entry &entry) const { return &m_texts[entry.target]; }
+
+    /// Gives the data another order, with gaps: `numbers` has the number among `contents` of each entry that is a regular file.
+    void arrange(std::vector<Content> contents, const std::vector<std::uint32_t> &numbers);
+    void addNote(std::string note) { m_notes.push_back(std::move(note)); }
 
     /// Path of an entry below the root folder, without the folder itself; "." for the root.
     std::string relativePath(std::uint32_t entry) const;

@@ -47,7 +47,7 @@ struct WriteOptionsRelease {
 };
 using WriteOptions = std::unique_ptr<IsoWriteOpts, WriteOptionsRelease>;
 
-WriteOptions writeOptions(bool rockRidge)
+WriteOptions writeOptions(bool rockRidge, std::uint32_t start)
 {
     IsoWriteOpts *made = nullptr;
     if (iso_write_opts_new(&made, 0) < 0)
@@ -72,15 +72,11 @@ WriteOptions writeOptions(bool rockRidge)
     iso_write_opts_set_sort_files(made, 1);
     iso_write_opts_set_output_charset(made, "UTF-8");
     iso_write_opts_set_tail_blocks(made, paddingBlocks);
+    iso_write_opts_set_ms_block(made, start);
     // Only the tree comes through libisofs' ring buffer, which would otherwise take 2 MiB.
     constexpr std::size_t bufferedBlocks = 64;
     iso_write_opts_set_fifo_size(made, bufferedBlocks);
     return options;
-}
-
-std::uint64_t blocksFor(std::uint64_t bytes)
-{
-    return bytes / blockSize + (bytes % blockSize != 0);
 }
 
 std::uint64_t dataBlocks(const FolderTree &tree)
@@ -140,31 +136,33 @@ std::uint32_t IsoHeader::paddingBlocks()
     return image::paddingBlocks;
 }
 
-Result<IsoHeader> IsoHeader::make(const FolderTree &tree, const std::string &volumeName, bool rockRidge)
+Result<IsoHeader> IsoHeader::make(
+    const FolderTree &tree, const VolumeName &volumeName, bool rockRidge, std::uint32_t start)
 {
     initialize();
     ::IsoImage *made = nullptr;
-    if (const int code = iso_image_new(volumeName.c_str(), &made); code < 0)
+    if (const int code = iso_image_new(volumeName.iso.c_str(), &made); code < 0)
         return Error{ Exit::failed,
             std::string("The image cannot be begun: ") + iso_error_to_msg(code) + "." };
     IsoHeader header;
     header.m_tree = &tree;
     header.m_image.reset(made);
+    header.m_jolietName = volumeName.joliet;
     if (auto ok = addTree(tree, made); !ok)
         return ok.error();
-    if (auto ok = header.layOut(tree, rockRidge); !ok)
+    if (auto ok = header.layOut(tree, rockRidge, start); !ok)
         return ok.error();
     return header;
 }
 
-Result<void> IsoHeader::layOut(const FolderTree &tree, bool rockRidge)
+Result<void> IsoHeader::layOut(const FolderTree &tree, bool rockRidge, std::uint32_t start)
 {
     // libisofs counts in 32 bits and does not notice when they do not suffice.
     m_dataBlocks = dataBlocks(tree);
     const std::uint64_t afterHeader = m_dataBlocks + image::paddingBlocks;
-    if (afterHeader > mostBlocks)
-        return tooLarge(tree, afterHeader);
-    const WriteOptions options = writeOptions(rockRidge);
+    if (start + afterHeader > mostBlocks)
+        return tooLarge(tree, start + afterHeader);
+    const WriteOptions options = writeOptions(rockRidge, start);
     ::burn_source *source = nullptr; // libisofs knows libburn's structure outside its name space
     const int code = options ? iso_image_create_burn_source(m_image.get(), options.get(), &source)
                              : static_cast<int>(ISO_OUT_OF_MEM);
@@ -176,8 +174,9 @@ Result<void> IsoHeader::layOut(const FolderTree &tree, bool rockRidge)
     if (blocks < afterHeader)
         blocks += mostBlocks + 1;
     m_left = (blocks - afterHeader) * blockSize;
-    if (blocks > mostBlocks)
-        return tooLarge(tree, blocks);
+    if (start + blocks > mostBlocks)
+        return tooLarge(tree, start + blocks);
+    m_headerBlocks = static_cast<std::uint32_t>(blocks - afterHeader);
     m_imageBlocks = static_cast<std::uint32_t>(blocks);
     return {};
 }
@@ -189,12 +188,27 @@ Result<std::size_t> IsoHeader::read(std::span<std::byte> buffer)
     buffer = buffer.first(static_cast<std::size_t>(std::min<std::uint64_t>(buffer.size(), m_left)));
     if (auto ok = readSource(buffer); !ok)
         return ok.error();
+    nameForJoliet(buffer);
     m_left -= buffer.size();
     if (m_left == 0) {
         if (auto ok = finish(); !ok)
             return ok.error();
     }
     return buffer.size();
+}
+
+/// libisofs has one name for both volumes, and Joliet holds other characters than ISO 9660 (ECMA-119 8.5.6: 32 bytes).
+void IsoHeader::nameForJoliet(std::span<std::byte> buffer) const
+{
+    constexpr std::uint64_t field = 17 * blockSize + 40;
+    constexpr std::size_t fieldBytes = 32;
+    const std::uint64_t done = std::uint64_t{ m_headerBlocks } * blockSize - m_left;
+    for (std::size_t at = 0; at < fieldBytes; ++at) {
+        const char16_t unit = at / 2 < m_jolietName.size() ? m_jolietName[at / 2] : u'\0';
+        if (field + at >= done && field + at - done < buffer.size())
+            buffer[static_cast<std::size_t>(field + at - done)] =
+                static_cast<std::byte>(at % 2 == 0 ? unit >> 8 : unit & 0xff);
+    }
 }
 
 Result<void> IsoHeader::readSource(std::span<std::byte> buffer)

@@ -1,14 +1,16 @@
 #include "image/IsoImage.h"
 
 #include "base/Words.h"
+#include "image/DvdVideo.h"
 #include "image/FolderReader.h"
 #include "image/FolderTree.h"
 #include "image/ImageFile.h"
 #include "image/IsoHeader.h"
 #include "image/JolietNotes.h"
+#include "image/UdfBridge.h"
+#include "image/VolumeName.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
 #include <optional>
 #include <span>
@@ -19,14 +21,6 @@ namespace engine::image {
 namespace {
 
 constexpr std::size_t gatherSize = 64 * 1024;
-
-std::string nameOf(const std::string &folder)
-{
-    const std::unique_ptr<char, decltype(&std::free)> real(realpath(folder.c_str(), nullptr), std::free);
-    const std::string path = real ? real.get() : folder;
-    const std::string name = path.substr(path.rfind('/') + 1);
-    return name.empty() ? "DISC" : name;
-}
 
 } // namespace
 
@@ -42,13 +36,24 @@ public:
 
     Result<void> begin(const IsoOptions &options)
     {
-        const std::string volume = options.volumeName.empty() ? nameOf(tree.folder()) : options.volumeName;
-        auto made = IsoHeader::make(tree, volume, options.rockRidge);
+        const std::string wanted = options.volumeName.empty() ? volumeNameFor(tree) : options.volumeName;
+        const VolumeName volume = volumeName(wanted);
+        if (isDvdVideo(tree)) {
+            auto planned = UdfBridge::plan(tree, volume.udf);
+            if (!planned)
+                return planned.error();
+            bridge = std::move(*planned);
+        }
+        const std::uint32_t before = bridge ? bridge->blocks() : 0;
+        auto made = IsoHeader::make(tree, volume, options.rockRidge, before);
         if (!made)
             return made.error();
         header = std::move(*made);
-        blocks = header.imageBlocks();
+        blocks = before + header.imageBlocks();
+        if (bridge)
+            bridge->place(before + header.headerBlocks(), blocks);
         notes = tree.notes();
+        addVolumeNote(wanted, volume, bridge.has_value(), notes);
         addJolietNotes(tree, notes);
         return {};
     }
@@ -60,18 +65,37 @@ public:
             reader.emplace(tree, large);
             buffer.resize(gatherSize);
         }
-        const auto got = header.read(buffer);
-        if (!got)
-            return got.error();
-        if (*got > 0)
-            return Piece{ std::span(buffer).first(*got) };
+        if (held.empty()) {
+            const auto got = header.read(buffer);
+            if (!got)
+                return got.error();
+            held = std::span(buffer).first(*got);
+            if (bridge && step == Step::begin)
+                bridge->takeDescriptors(held);
+            step = bridge && step == Step::begin ? Step::bridge : Step::header;
+        }
+        if (step == Step::bridge) {
+            if (const auto made = bridge->next(); !made.empty())
+                return Piece{ made };
+            step = Step::header;
+        }
+        if (!held.empty())
+            return Piece{ std::exchange(held, {}) };
         Piece piece;
         if (reader->next(piece))
             return piece;
         if (auto ok = reader->outcome(); !ok)
             return ok.error();
+        return Piece{ end() };
+    }
+
+    /// What follows the data; nothing at the second call.
+    std::span<const std::byte> end()
+    {
         buffer.assign(std::exchange(padding, 0) * blockSize, std::byte{});
-        return Piece{ buffer };
+        if (bridge && !buffer.empty())
+            std::ranges::copy(bridge->anchor(), buffer.end() - blockSize);
+        return buffer;
     }
 
     /// Fills `wanted` but at the end of the image.
@@ -102,6 +126,11 @@ public:
     std::vector<std::string> notes;
 
 private:
+    enum class Step { begin, bridge, header }; ///< what is before the data of the files
+
+    Step step = Step::begin;
+    std::optional<UdfBridge> bridge; ///< of a video disc
+    std::span<const std::byte> held; ///< of the header, while what comes before it is passed on
     IsoHeader header;
     std::optional<FolderReader> reader;
     std::vector<std::byte> buffer; ///< what piece is not in the reader
@@ -114,6 +143,8 @@ Result<IsoImage> IsoImage::fromFolder(const std::string &folder, const IsoOption
     auto tree = FolderTree::read(folder, options);
     if (!tree)
         return tree.error();
+    if (isDvdVideo(*tree))
+        arrangeDvdVideo(*tree);
     auto stream = std::make_unique<Stream>(std::move(*tree), options);
     if (auto ok = stream->begin(options); !ok)
         return ok.error();
@@ -136,7 +167,8 @@ std::uint32_t IsoImage::blockCount() const
 
 std::uint32_t IsoImage::fileCount() const
 {
-    return static_cast<std::uint32_t>(m_stream->tree.contents().size());
+    return static_cast<std::uint32_t>(std::ranges::count_if(
+        m_stream->tree.contents(), [](const Content &content) { return !content.isGap(); }));
 }
 
 bool IsoImage::isEmpty() const

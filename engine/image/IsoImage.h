@@ -16,6 +16,12 @@ namespace engine::image {
 
 constexpr std::uint32_t blockSize = 2048; ///< bytes of a logical block (ECMA-119 6.1.2)
 
+/// Whole blocks for `bytes`.
+constexpr std::uint64_t blocksFor(std::uint64_t bytes)
+{
+    return bytes / blockSize + (bytes % blockSize != 0);
+}
+
 /// What becomes of symbolic links.
 enum class Links {
     /// Stored as Rock Ridge links. Left out, with a note, when there is no Rock Ridge, or when the target is
@@ -25,7 +31,7 @@ enum class Links {
 };
 
 struct IsoOptions {
-    std::string volumeName; ///< UTF-8; when empty, the folder's own name
+    std::string volumeName; ///< UTF-8; when empty, the one of volumeNameFor()
     bool rockRidge = true; ///< exact names, times, modes and owners beside the Joliet names
     Links links = Links::keep;
     Stop stop; ///< ends the reading of the folder and the writing of the image

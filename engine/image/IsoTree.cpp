@@ -49,7 +49,7 @@ public:
                     pending.push_back(child);
             }
         }
-        return {};
+        return addGaps();
     }
 
 private:
@@ -67,6 +67,38 @@ private:
         }
         copyAttributes(node, entry);
         return {};
+    }
+
+    /// Files that no folder shows: libisofs knows no other way to keep data apart.
+    Result<void> addGaps()
+    {
+        for (std::uint32_t content = 0; content < m_tree.contents().size(); ++content) {
+            if (!m_tree.contents()[content].isGap())
+                continue;
+            if (const int code = addGap(content); code < 0)
+                return Error{ Exit::failed,
+                    std::string("Files cannot be kept apart in the image: ") + iso_error_to_msg(code) + "." };
+        }
+        return {};
+    }
+
+    int addGap(std::uint32_t content)
+    {
+        IsoStream *stream = newPlace(content, m_tree.contents()[content].size);
+        if (!stream)
+            return static_cast<int>(ISO_OUT_OF_MEM);
+        IsoFile *file = nullptr;
+        std::string name = "gap " + std::to_string(content);
+        int code = static_cast<int>(ISO_NODE_NAME_NOT_UNIQUE);
+        // A file of the person may have any name.
+        for (; code == static_cast<int>(ISO_NODE_NAME_NOT_UNIQUE); name += '_')
+            code = iso_image_add_new_file(m_image, m_folders[0], name.c_str(), stream, &file);
+        if (code < 0)
+            return code;
+        auto *node = reinterpret_cast<IsoNode *>(file);
+        iso_node_set_hidden(node, LIBISO_HIDE_ON_RR | LIBISO_HIDE_ON_JOLIET | LIBISO_HIDE_BUT_WRITE);
+        iso_node_set_sort_weight(node, -static_cast<int>(content));
+        return code;
     }
 
     int addNode(std::uint32_t number, const Entry &entry, IsoDir *parent, IsoNode *&node)

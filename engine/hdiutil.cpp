@@ -2,7 +2,10 @@
 #include "base/Words.h"
 #include "drive/Burn.h"
 #include "drive/Drives.h"
+#include "drive/MountedDisc.h"
+#include "image/DiscCopy.h"
 #include "image/DiskImage.h"
+#include "image/ImageFile.h"
 #include "image/IsoImage.h"
 #include "image/NewFile.h"
 #include "image/VolumeName.h"
@@ -11,6 +14,7 @@
 
 #include <array>
 #include <cstdlib>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -32,6 +36,18 @@ Exit status: 0 success, 1 failure, 2 wrong arguments, 3 no disc to burn to,
 130 and 143 ended by SIGINT and SIGTERM.
 )";
 
+/// Tells how much of `size` bytes is written, which may be set later.
+std::function<void(std::uint64_t)> progressOf(Session &session, const std::uint64_t &size)
+{
+    return [control = session.control(), &size](std::uint64_t bytes) {
+        Progress progress;
+        progress.phase = Phase::writing;
+        progress.done = bytes;
+        progress.total = size;
+        control.report(progress, 0);
+    };
+}
+
 /// How the folder is read and its image written, with progress lines and until a signal comes.
 image::IsoOptions imageOptions(Session &session, const std::uint64_t &size)
 {
@@ -39,19 +55,14 @@ image::IsoOptions imageOptions(Session &session, const std::uint64_t &size)
     options.volumeName = image::volumeNameFromEnvironment();
     options.links = image::Links::follow;
     options.stop = session.stop();
-    options.progress = [control = session.control(), &size](std::uint64_t bytes) {
-        Progress progress;
-        progress.phase = Phase::writing;
-        progress.done = bytes;
-        progress.total = size;
-        control.report(progress, 0);
-    };
+    options.progress = progressOf(session, size);
     return options;
 }
 
 Result<void> makeImage(const std::string &folder, const std::string &path, Session &session)
 {
     std::uint64_t size = 0;
+    session.say("Making an image of the folder " + quoted(folder) + '.');
     session.control().report({}, 0);
     auto image = image::IsoImage::fromFolder(folder, imageOptions(session, size));
     if (!image)
@@ -71,6 +82,39 @@ Result<void> makeImage(const std::string &folder, const std::string &path, Sessi
     return {};
 }
 
+Result<void> copyWholeDisc(const image::DiscSource &disc, const std::string &path, Session &session)
+{
+    session.say("Copying the disc in " + disc.name + " block for block.");
+    session.control().report({}, 0);
+    const Result<std::uint64_t> blocks = image::volumeEnd(disc);
+    if (!blocks)
+        return blocks.error();
+    const std::uint64_t size = *blocks * image::blockSize;
+    auto file = image::NewFile::create(path, size);
+    if (!file)
+        return file.error();
+    image::ImageFile image(file->fd(), path, session.stop(), progressOf(session, size));
+    if (auto copied = image::copyDisc(disc, *blocks, image); !copied)
+        return copied;
+    if (auto kept = file->keep(); !kept)
+        return kept;
+    session.say("Done: " + quoted(path) + " holds the disc in " + sizeText(size) + ".");
+    return {};
+}
+
+/// An image of what is at `source`: the disc itself where that is the mount point of one, else the files of a folder.
+Result<void> makeImageOf(const std::string &source, const std::string &path, Session &session)
+{
+    const auto disc = drive::MountedDisc::at(source);
+    if (!disc)
+        return disc.error();
+    if (!*disc)
+        return makeImage(source, path, session);
+    image::DiscSource whole = (*disc)->source();
+    whole.stop = session.stop();
+    return copyWholeDisc(whole, path, session);
+}
+
 Result<void> makeHybrid(const Arguments &arguments)
 {
     const std::string path = arguments.valueOf("-o");
@@ -81,7 +125,7 @@ Result<void> makeHybrid(const Arguments &arguments)
     if (auto absent = image::checkAbsent(path); !absent)
         return absent;
     Session session;
-    auto made = makeImage(arguments.operands.front(), path, session);
+    auto made = makeImageOf(arguments.operands.front(), path, session);
     if (!made && isStop(made.error()))
         return Error{ made.error().exit, "Stopped: " + quoted(path) + " was not made." };
     return made;
@@ -110,7 +154,8 @@ constexpr std::array makingOptions{ Option{ "-o", "-o wants the name of the imag
 const std::array verbs{
     Verb{ "makehybrid", "makehybrid -o IMAGE SOURCE -iso -joliet", 1, makingOptions, makeHybrid,
         R"(  makehybrid -o IMAGE SOURCE -iso -joliet
-                     make an ISO 9660 image with Joliet and Rock Ridge names of the folder SOURCE
+                     make an ISO 9660 image with Joliet and Rock Ridge names of the folder SOURCE, or copy
+                     the disc block for block that is mounted there
 )" },
     Verb{ "burn", "burn IMAGE", 1, {}, burnImage,
         R"(  burn IMAGE         write an image to a drive with a blank or erasable disc; a blank disc comes first, and

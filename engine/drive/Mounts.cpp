@@ -82,6 +82,28 @@ std::vector<std::string> mountPointsIn(std::string_view mountInfo, unsigned majo
     return points;
 }
 
+std::optional<WholeMount> mountedWholeAt(std::string_view mountInfo, const std::string &point)
+{
+    std::optional<WholeMount> found;
+    std::istringstream lines{ std::string(mountInfo) };
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream fields(line);
+        std::string id, parent, device, root, at, options, field, type, source;
+        if (!(fields >> id >> parent >> device >> root >> at >> options) || unescaped(at) != point)
+            continue;
+        // Any number of optional fields, and a dash behind them (proc(5)).
+        while (fields >> field && field != "-") { }
+        fields >> type >> source;
+        WholeMount mount;
+        char colon = 0;
+        std::istringstream numbers(device);
+        const bool whole = root == "/" && numbers >> mount.major >> colon >> mount.minor;
+        mount.source = unescaped(source);
+        found = whole ? std::optional(mount) : std::nullopt;
+    }
+    return found;
+}
+
 std::vector<std::string> mountPoints(const std::string &device)
 {
     struct stat info { };

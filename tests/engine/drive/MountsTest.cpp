@@ -29,6 +29,25 @@ private Q_SLOTS:
         QVERIFY(mountPointsIn("", 11, 0).empty());
     }
 
+    void wholeMounts()
+    {
+        const auto disc = mountedWholeAt(table, "/media/ann/A disc\\");
+        QVERIFY(disc && disc->major == 11 && disc->minor == 0 && disc->source == "/dev/sr0");
+        const auto other = mountedWholeAt(table, "/other");
+        QVERIFY(other && other->minor == 10 && other->source == "/dev/sr10");
+        for (const char *point : { "/media", "/media/ann/A disc\\/folder", "", "/no" })
+            QVERIFY(!mountedWholeAt(table, point));
+        // A folder of the disc that is shown elsewhere, and what lies over another mount.
+        const std::string more = std::string(table)
+            + "\n414 29 11:0 /folder /part ro - iso9660 /dev/sr0 ro\n"
+              "415 29 11:0 / /twice ro shared:1 master:2 - iso9660 /dev/sr0 ro\n"
+              "416 29 8:1 / /twice rw - ext4 /dev/sda1 rw\n"
+              "417 29 11:0 / /fields ro shared:1 master:2 propagate_from:3 - udf /dev/sr0 ro\n";
+        QVERIFY(!mountedWholeAt(more, "/part"));
+        QVERIFY(mountedWholeAt(more, "/twice")->major == 8);
+        QVERIFY(mountedWholeAt(more, "/fields")->source == "/dev/sr0");
+    }
+
     void whatIsNotMountedNeedsNoUnmounting()
     {
         QVERIFY(mountPoints("/dev/null").empty());

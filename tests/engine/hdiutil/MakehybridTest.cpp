@@ -323,10 +323,11 @@ private Q_SLOTS:
         Scratch scratch;
         QVERIFY(makeFile(scratch.path("t/file"), std::string(5000000, 'x')));
         const QStringList lines = make(scratch.path("i.iso"), scratch.path("t")).out.split(u'\n');
-        QCOMPARE(lines.size(), 4);
-        QCOMPARE(lines.at(0), u"Preparing"_s);
-        QVERIFY2(lines.at(1).startsWith(u"Writing: "_s), qPrintable(lines.at(1)));
-        QVERIFY2(lines.at(2).endsWith(u" holds 1 file in 5.4 MB."_s), qPrintable(lines.at(2)));
+        QCOMPARE(lines.size(), 5);
+        QCOMPARE(lines.at(0), u"Making an image of the folder \"%1\"."_s.arg(text(scratch.path("t"))));
+        QCOMPARE(lines.at(1), u"Preparing"_s);
+        QVERIFY2(lines.at(2).startsWith(u"Writing: "_s), qPrintable(lines.at(2)));
+        QVERIFY2(lines.at(3).endsWith(u" holds 1 file in 5.4 MB."_s), qPrintable(lines.at(3)));
         struct stat info { };
         QCOMPARE(stat(scratch.path("i.iso").c_str(), &info), 0);
         const mode_t mask = umask(0);

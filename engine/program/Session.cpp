@@ -1,5 +1,6 @@
 #include "program/Session.h"
 
+#include "base/Words.h"
 #include "report/DriveList.h"
 
 #include <sys/stat.h>
@@ -28,7 +29,9 @@ Session::Session()
 void Session::sayDrive(const drive::Drive &drive)
 {
     const std::string title = report::driveTitle(drive.record());
-    say("Burning in " + drive.name() + (title.empty() ? "" : ": " + title) + '.');
+    const Result<std::string> folder = drive.folder();
+    say("Burning in " + drive.name() + (title.empty() ? "" : ": " + title) + '.'
+        + (folder ? " Its discs lie in " + quoted(*folder) + '.' : ""));
 }
 
 void Session::note(const std::string &sentence)

@@ -17,8 +17,9 @@ namespace {
 
 using Phase = ToolProgress::Phase;
 
-/// How our disc tools begin a line that tells of something left out or changed.
+/// How our disc tools begin a line that tells of something left out or changed, and the words for the former.
 constexpr QLatin1StringView notePrefix("note: ");
+constexpr QLatin1StringView leftOutWords("left out");
 
 QString joined(const QString &one, const QString &other)
 {
@@ -114,21 +115,30 @@ void Job::watch(ToolRun *run, Stage stage, bool decides)
 
 void Job::readLine(const QString &line)
 {
-    // "Drive: NAME (FOLDER)", the folder only of a drive whose discs lie in one.
-    static const QRegularExpression drive(u"^Drive: (.+?)(?: \\((/.*)\\))?$"_s);
+    // The folder is told of a drive whose discs lie in one.
+    static const QRegularExpression drive(
+        u"^Burning in (drive .)(?:: (.+?))?\\.(?: Its discs lie in \"(/.*)\"\\.)?$"_s);
     constexpr qsizetype most = 200;
     m_progress.words = forPerson(line.left(most).simplified());
     if (line.startsWith(notePrefix)) {
-        leaveOut(line.mid(notePrefix.size()), m_watched ? m_watched->position() : -1);
+        readNote(line.mid(notePrefix.size()));
     } else if (const auto told = runner::readProgress(line)) {
         return readProgress(*told);
     } else if (const auto match = drive.match(line); match.hasMatch()) {
-        m_drive = match.captured(1);
-        m_driveFolder = QFileInfo(match.captured(2)).isDir() ? match.captured(2) : QString();
+        m_drive = match.captured(match.hasCaptured(2) ? 2 : 1);
+        m_driveFolder = QFileInfo(match.captured(3)).isDir() ? match.captured(3) : QString();
     } else {
         m_lastWords = line;
     }
     Q_EMIT progressed(m_progress);
+}
+
+void Job::readNote(const QString &note)
+{
+    if (note.contains(leftOutWords))
+        leaveOut(note, m_watched ? m_watched->position() : -1);
+    else
+        m_changed.append(forPerson(note).simplified());
 }
 
 void Job::readProgress(const ToolProgress &told)
@@ -280,6 +290,7 @@ Outcome Job::end()
         outcome.folder = m_work.result == Work::Result::Image ? m_work.image : m_driveFolder;
     }
     outcome.leftOut = m_leftOut;
+    outcome.changed = m_changed;
     outcome.run = m_decidingRun >= 0 ? m_decidingRun : m_leftOutRun;
     Q_EMIT ended(outcome);
     return outcome;

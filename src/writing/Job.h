@@ -109,6 +109,7 @@ Q_SIGNALS:
 
 private:
     void readLine(const QString &line);
+    void readNote(const QString &note);
     void readProgress(const runner::ToolProgress &told);
     void decided(const runner::ToolRun &run);
     QString reasonOf(const runner::ToolRun &run) const;
@@ -137,7 +138,7 @@ private:
     QString m_lastWords; ///< of the running tool: its newest line that is neither progress nor a note
     QString m_reason, m_remark;
     qsizetype m_decidingRun = -1;
-    QStringList m_leftOut;
+    QStringList m_leftOut, m_changed;
     qsizetype m_leftOutRun = -1;
 };
 

@@ -34,9 +34,10 @@ QStringList Outcome::lines(qsizetype most) const
         if (!line.isEmpty())
             lines.append(line);
     }
-    lines += leftOut.first(qMin(most, leftOut.size()));
-    if (leftOut.size() > most)
-        lines.append(tr("and %1 more").arg(leftOut.size() - most));
+    const QStringList things = leftOut + changed;
+    lines += things.first(qMin(most, things.size()));
+    if (things.size() > most)
+        lines.append(tr("and %1 more").arg(things.size() - most));
     return lines;
 }
 

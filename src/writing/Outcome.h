@@ -27,12 +27,14 @@ struct Outcome {
     QString made; ///< what was made, of what, where; empty where nothing was
     QString folder; ///< the folder or file to show; empty: none
     QString reason; ///< what decided the end, and in what state the disc is; empty when all is well
-    QStringList leftOut; ///< one line for each thing that is not on the disc, by the names that a person knows
+    QStringList
+        leftOut; ///< one line for each thing that is not on the disc, by the names that a person knows
+    QStringList changed; ///< one line for each thing that is there, but not as it was
     qsizetype run = -1; ///< the run in the activity log that decided; -1: none
 
     /// The exit status of a batch run: 0 complete, 1 not done or stopped, 3 incomplete.
     int exitStatus() const;
-    /// All but the heading, line by line; `most` lines of what was left out and how many there are more.
+    /// All but the heading, line by line; `most` lines of what was left out or changed, and how many there are more.
     QStringList lines(qsizetype most) const;
 
     static QString headingOf(How how, Work::Result result);

@@ -121,6 +121,7 @@ private Q_SLOTS:
     void imageThatFailedIsToldBeforeTheDisc();
     void stoppedAfterATroubleTellsTheDisc();
     void notesAreLeftOut();
+    void notesOfWhatIsThereDoNotSpoilTheEnd();
     void remarkMakesItIncomplete();
     void neverShowsItsWorkingFolder();
     void tellsWhatWasMade();
@@ -249,13 +250,26 @@ void JobTest::notesAreLeftOut()
 {
     Bench bench(disc());
     QVERIFY(bench.runs(Stage::Writing,
-        u"out Preparing; out note: a link was left out.; out-raw note:  two  blanks\\r\\nnote: at the end"_s));
+        u"out Preparing; out note: a link was left out.; out-raw note:  two  left out\\r\\nnote: left out at the end"_s));
     const Outcome outcome = bench.job.end();
     QCOMPARE(outcome.how, How::Incomplete);
     QCOMPARE(outcome.exitStatus(), 3);
-    QCOMPARE(outcome.leftOut, (QStringList{ u"a link was left out."_s, u"two blanks"_s, u"at the end"_s }));
+    QCOMPARE(outcome.leftOut,
+        (QStringList{ u"a link was left out."_s, u"two left out"_s, u"left out at the end"_s }));
     QCOMPARE(outcome.reason, QString());
     QCOMPARE(outcome.run, 0);
+}
+
+void JobTest::notesOfWhatIsThereDoNotSpoilTheEnd()
+{
+    Bench bench(disc());
+    QVERIFY(bench.runs(Stage::Writing, u"out note: The names are cut.; out Done"_s));
+    const Outcome outcome = bench.job.end();
+    QCOMPARE(outcome.how, How::Complete);
+    QCOMPARE(outcome.exitStatus(), 0);
+    QCOMPARE(outcome.leftOut, QStringList());
+    QCOMPARE(outcome.changed, QStringList(u"The names are cut."_s));
+    QVERIFY(outcome.lines(9).contains(u"The names are cut."_s));
 }
 
 void JobTest::remarkMakesItIncomplete()
@@ -305,7 +319,8 @@ void JobTest::tellsWhatWasMade()
     Bench bench(work);
     bench.job.describe(u"2 files"_s, 3'000'000);
     QVERIFY(bench.runs(Stage::Writing,
-        u"out Drive: CORVALIS Virtual Recorder (1) (%1); out Writing: 1.0 %"_s.arg(recorder.path())));
+        u"out Burning in drive 1: CORVALIS Virtual Recorder (1). Its discs lie in \"%1\".; out Writing: 1.0 %"_s
+            .arg(recorder.path())));
     Outcome outcome = bench.job.end();
     QCOMPARE(outcome.made, u"MP3 CD, 2 files, 2.86 MB, CORVALIS Virtual Recorder (1)"_s);
     QCOMPARE(outcome.folder, recorder.path());

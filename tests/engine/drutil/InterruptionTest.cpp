@@ -460,7 +460,9 @@ private Q_SLOTS:
             { u"-c"_s, u"(\"$0\" burn \"$1\"; echo $? > \"$2\") 2>&1 | head -n 1"_s, Drutil::program(),
                 source(), m_drutil->path(u"exit"_s) },
             m_drutil->environment());
-        QCOMPARE(ran.out, u"Burning in drive 1: CORVALIS Virtual Recorder.\n"_s);
+        QVERIFY2(
+            ran.out.startsWith(u"Burning in drive 1: CORVALIS Virtual Recorder. "_s), qPrintable(ran.out));
+        QCOMPARE(ran.out.count(u'\n'), 1);
         QTRY_VERIFY_WITH_TIMEOUT(!readFile(m_drutil->path(u"exit"_s)).isEmpty(), 120000);
         QCOMPARE(readFile(m_drutil->path(u"exit"_s)).trimmed(), "0");
         QVERIFY(m_drutil->state().contains("state=written"));

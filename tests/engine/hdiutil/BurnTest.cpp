@@ -177,7 +177,8 @@ private Q_SLOTS:
         QCOMPARE(ran.exit, drive == 0 ? 3 : 0);
         for (int number = 1; number <= 2; ++number)
             QCOMPARE(contentOf(disc(number)).starts_with("xxxx"), number == drive);
-        const QString line = u"Burning in drive %1: CORVALIS Virtual Recorder.\n"_s.arg(drive);
+        const QString line =
+            u"Burning in drive %1: CORVALIS Virtual Recorder. Its discs lie in \""_s.arg(drive);
         QVERIFY2(drive == 0 || ran.out.startsWith(line), qPrintable(ran.out));
     }
 

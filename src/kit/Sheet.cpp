@@ -28,6 +28,11 @@ void Sheet::beginSheet()
     for (const auto *box : findChildren<QDialogButtonBox *>())
         for (QAbstractButton *button : box->buttons())
             button->setIcon({});
+    // Outside a window of its own, a default button that is automatic too stops being one with the first other focus.
+    for (QPushButton *button : findChildren<QPushButton *>()) {
+        if (button->isDefault())
+            button->setAutoDefault(false);
+    }
     if (const auto *heading = findChild<SheetHeading *>())
         setAccessibleName(heading->text());
     m_stage->begin(this);

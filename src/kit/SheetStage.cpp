@@ -102,8 +102,13 @@ void SheetStage::update()
 
 void SheetStage::giveKeyboard()
 {
-    if (Sheet *top = sheet())
-        top->takeKeyboard();
+    Sheet *top = sheet();
+    if (!top)
+        return;
+    top->setEnabled(true);
+    top->takeKeyboard();
+    for (Sheet *below : std::as_const(m_sheets))
+        below->setEnabled(below == top);
 }
 
 void SheetStage::paintEvent(QPaintEvent *event)

@@ -37,13 +37,6 @@ public:
     QList<QUrl> choose(const OpenPanel &, QWidget *) override { return std::exchange(answer, {}); }
 };
 
-QPalette darkPalette()
-{
-    QPalette dark(QColor(53, 53, 53), QColor(42, 42, 42));
-    dark.setColor(QPalette::Highlight, QColor(61, 122, 190));
-    return dark;
-}
-
 /// A scheme that somebody could have chosen: the wells of the sheet, and what to put into them.
 struct Choice {
     const char *well;
@@ -221,7 +214,7 @@ private:
         for (const auto &[name, open] : sheets) {
             (m_controller.*open)();
             shoot(name);
-            QTest::keyClick(QApplication::activeWindow(), Qt::Key_Escape);
+            QTest::keyClick(m_window.windowHandle(), Qt::Key_Escape); // a sheet stands in it
             QTest::qWait(100);
         }
     }
@@ -235,7 +228,8 @@ private:
         for (const auto &[name, open] : alerts) {
             QTimer::singleShot(500, qApp, [this, picture = name] {
                 shoot(picture);
-                QTest::keyClick(person::waitingDialog(), Qt::Key_Escape);
+                QWidget *const alert = person::waitingDialog();
+                QTest::keyClick(alert ? alert : &m_window, Qt::Key_Escape);
             });
             (m_controller.*open)();
         }
@@ -260,8 +254,6 @@ int main(int argc, char **argv)
         return 2;
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     const QString suffix = QString::fromLocal8Bit(argv[1]);
-    if (suffix == u"dark")
-        QApplication::setPalette(darkPalette());
     Photographer photographer(suffix, QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]));
     photographer.photographAll();
     std::_Exit(0);

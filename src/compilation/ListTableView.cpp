@@ -35,7 +35,7 @@ QColor mixed(const QColor &one, const QColor &other, double share)
 /// `ground`, away from the text's colour as far as the text then can be read (WCAG 2.1, 1.4.3).
 QColor readableGround(const QColor &ground, const QColor &text)
 {
-    constexpr double readable = 4.6; // a little more, as rims of letters are soft
+    constexpr double readable = 5.2; // more than 4.5, as styles tint the cell that has the keyboard
     const QColor away = text.lightness() < 128 ? Qt::white : Qt::black;
     for (double share = 0; share < 1; share += 0.05) {
         const QColor colour = mixed(ground, away, share);

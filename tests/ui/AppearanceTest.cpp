@@ -247,6 +247,7 @@ void AppearanceTest::rowsAndCellsOfEveryTable()
     const auto check = [&](const char *name) {
         auto *table = app.element<ListTableView>(name);
         table->clearSelection();
+        table->setCurrentIndex({}); // which is tinted where it has the keyboard
         QTRY_COMPARE(table->alternatingRowColors(), alternating == u"1");
         QCOMPARE(table->model()->rowCount(), 2);
         const auto cell = [&](int row, int column) {
@@ -454,6 +455,7 @@ void AppearanceTest::cellsArePaintedInTheSchemesColours()
     QVERIFY(app.add({ app.file(u"MMMMMMMM.mp3"_s), app.file(u"WWWWWWWW.mp3"_s) }));
     auto *table = app.element<ListTableView>("tableviewAudioFiles");
     table->clearSelection();
+    table->setCurrentIndex({}); // which is tinted where it has the keyboard
     const auto cell = [table](int row) {
         return table->viewport()->grab(table->visualRect(table->model()->index(row, 0))).toImage();
     };

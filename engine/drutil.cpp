@@ -3,6 +3,7 @@
 #include "drive/Drives.h"
 #include "program/Program.h"
 #include "program/Session.h"
+#include "program/SpeedOption.h"
 #include "report/DriveList.h"
 #include "report/StatusText.h"
 #include "report/TracksText.h"
@@ -109,6 +110,9 @@ Result<void> tracks(const Arguments &arguments)
 
 Result<void> burnDisc(const Arguments &arguments)
 {
+    const auto speed = program::wishedSpeed(arguments);
+    if (!speed)
+        return speed.error();
     Session session;
     const auto drive = chosenDrive(arguments);
     if (!drive)
@@ -117,7 +121,7 @@ Result<void> burnDisc(const Arguments &arguments)
     const bool audio = arguments.has("-audio");
     const bool verify = !audio && !arguments.has("-noverify");
     const auto operation = audio ? drive::burnAudioFolder : drive::burnFolder;
-    auto done = operation(**drive, arguments.operands.front(), session.burnOptions(verify));
+    auto done = operation(**drive, arguments.operands.front(), session.burnOptions(verify, *speed));
     if (done)
         session.say(
             "Done: the disc in " + (*drive)->name() + " is written" + (verify ? " and was compared." : "."));
@@ -178,7 +182,8 @@ bool isDriveNumber(std::string_view value)
 constexpr Option driveOption{ "-drive",
     "-drive wants the one character that 'drutil list' prints for the drive.", isDriveNumber };
 constexpr std::array options{ driveOption };
-constexpr std::array burnOptions{ driveOption, Option{ "-audio" }, Option{ "-noverify" } };
+constexpr std::array burnOptions{ driveOption, program::speedOption, Option{ "-audio" },
+    Option{ "-noverify" } };
 
 std::string insertHelp()
 {
@@ -193,9 +198,11 @@ const std::array verbs{
         "  status                        tell about the medium in the drive\n" },
     Verb{ "tracks", "tracks [-drive N]", 0, options, tracks,
         "  tracks                        list the tracks of the disc, their times and names\n" },
-    Verb{ "burn", "burn [-audio] [-noverify] FOLDER [-drive N]", 1, burnOptions, burnDisc,
+    Verb{ "burn", "burn [-audio] [-noverify] [-speed N|max] FOLDER [-drive N]", 1, burnOptions, burnDisc,
         R"(  burn [-noverify] FOLDER       write the content of FOLDER as a data disc
   burn -audio FOLDER            write the WAVE files in FOLDER as an audio disc
+  burn -speed N|max ...         at the drive's speed that is nearest to N times the single speed of the disc,
+                                or at the fastest; without it, $CORVALIS_SPEED says so
 )" },
     Verb{ "erase", "erase full|quick [-drive N]", 1, options, erase,
         "  erase full|quick              erase a rewritable medium\n" },

@@ -11,6 +11,7 @@
 #include "image/VolumeName.h"
 #include "program/Program.h"
 #include "program/Session.h"
+#include "program/SpeedOption.h"
 
 #include <array>
 #include <cstdlib>
@@ -136,13 +137,16 @@ Result<void> burnImage(const Arguments &arguments)
     const std::string &path = arguments.operands.front();
     if (auto plain = image::checkDiskImage(path); !plain)
         return plain;
+    const auto speed = program::wishedSpeed(arguments);
+    if (!speed)
+        return speed.error();
     Session session;
     const char *preferred = std::getenv("CORVALIS_PREFERRED_DRIVE");
     const auto burner = drive::defaultBurner(preferred ? preferred : "", session.stop());
     if (!burner)
         return burner.error();
     session.sayDrive(**burner);
-    auto done = drive::burnImageFile(**burner, path, session.burnOptions(true));
+    auto done = drive::burnImageFile(**burner, path, session.burnOptions(true, *speed));
     if (done)
         session.say("Done: the disc in " + (*burner)->name() + " is written and was compared.");
     return done;
@@ -151,15 +155,20 @@ Result<void> burnImage(const Arguments &arguments)
 constexpr std::array makingOptions{ Option{ "-o", "-o wants the name of the image." }, Option{ "-iso" },
     Option{ "-joliet" } };
 
+constexpr std::array burnOptions{ program::speedOption };
+
 const std::array verbs{
     Verb{ "makehybrid", "makehybrid -o IMAGE SOURCE -iso -joliet", 1, makingOptions, makeHybrid,
         R"(  makehybrid -o IMAGE SOURCE -iso -joliet
                      make an ISO 9660 image with Joliet and Rock Ridge names of the folder SOURCE, or copy
                      the disc block for block that is mounted there
 )" },
-    Verb{ "burn", "burn IMAGE", 1, {}, burnImage,
+    Verb{ "burn", "burn [-speed N|max] IMAGE", 1, burnOptions, burnImage,
         R"(  burn IMAGE         write an image to a drive with a blank or erasable disc; a blank disc comes first, and
                      among equals the one in the drive $CORVALIS_PREFERRED_DRIVE (its number in 'drutil list')
+  burn -speed N|max IMAGE
+                     at the drive's speed that is nearest to N times the single speed of the disc, or at the
+                     fastest; without it, $CORVALIS_SPEED says so
 )" },
 };
 

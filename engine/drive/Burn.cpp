@@ -126,7 +126,7 @@ Result<void> writeAndVerify(
     Lease &lease, DiscData &data, const std::string &driveName, const BurnOptions &options)
 {
     BlockDigests sent(options.verify);
-    if (auto written = lease.writeData(data, sent, options.control); !written)
+    if (auto written = lease.writeData(data, sent, options.pace, options.control); !written)
         return written;
     if (!options.verify)
         return toldIfStopped(driveName, options.control);
@@ -195,7 +195,7 @@ Result<void> burnAudioFolder(Drive &drive, const std::string &folder, const Burn
     if (auto fits = checkAudioMedium(medium, *disc, drive.name()); !fits)
         return withState(fits.error(), drive.name(), Left::asBefore);
     return eraseAndWrite(**lease, medium, drive.name(), options, [&] {
-        const auto written = (*lease)->writeAudio(*disc, options.control);
+        const auto written = (*lease)->writeAudio(*disc, options.pace, options.control);
         if (!written)
             return Result<void>(written.error());
         if (!written->named && options.note)

@@ -11,6 +11,7 @@ namespace engine::drive {
 /// What a burn is done with.
 struct BurnOptions {
     bool verify = true; ///< read the disc back and compare
+    Pace pace;
     Control control;
     std::function<void(const std::string &sentence)> say; ///< what is done next; may be empty
     /// What is left out of the disc or was changed, by the name below the folder that is written; may be empty.

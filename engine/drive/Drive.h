@@ -7,6 +7,7 @@
 #include "medium/DriveRecord.h"
 #include "medium/Medium.h"
 #include "medium/Progress.h"
+#include "medium/Speed.h"
 #include "medium/Tracks.h"
 
 #include <cstddef>
@@ -67,6 +68,14 @@ enum class EraseMode {
     full, ///< every block
 };
 
+/// How fast a disc is to be written.
+struct Pace {
+    SpeedWish wish;
+    /// Told the speed at which a write begins (1000 bytes a second, 0 where the drive names none and chooses by itself),
+    /// and each lower one after a refusal; may be empty.
+    std::function<void(int speed, Family family)> begins;
+};
+
 /// How an audio disc was written.
 struct AudioWritten {
     bool named = true; ///< false: the drive does not write CD-TEXT, and the names are not on the disc
@@ -93,10 +102,12 @@ public:
     /// Writes `data` from the first block on, closes the disc and notes every block that went out in
     /// `sent`, if that keeps them. The medium must be writable from its start now and large enough. An error
     /// says in which state the disc is left.
-    virtual Result<void> writeData(DiscData &data, BlockDigests &sent, const Control &control) = 0;
+    virtual Result<void> writeData(
+        DiscData &data, BlockDigests &sent, const Pace &pace, const Control &control) = 0;
 
     /// Writes all tracks of an audio disc, session at once, and its names. The medium must be a blank CD.
-    virtual Result<AudioWritten> writeAudio(const audio::AudioDisc &disc, const Control &control) = 0;
+    virtual Result<AudioWritten> writeAudio(
+        const audio::AudioDisc &disc, const Pace &pace, const Control &control) = 0;
 
     /// The tracks in the table of contents, with their names where the disc has CD-TEXT. None on a blank disc, and none
     /// on one that has no such table: that is one track of data.

@@ -10,6 +10,7 @@
 #include "drive/WritePlan.h"
 
 #include <algorithm>
+#include <optional>
 #include <sys/types.h>
 #include <utility>
 // libburn.h needs off_t to be known.
@@ -38,8 +39,10 @@ public:
 
     Result<Medium> medium() override { return readMedium(*m_drive, m_device, m_stop); }
     Result<void> erase(EraseMode mode, const Control &control) override;
-    Result<void> writeData(DiscData &data, BlockDigests &sent, const Control &control) override;
-    Result<AudioWritten> writeAudio(const audio::AudioDisc &disc, const Control &control) override;
+    Result<void> writeData(
+        DiscData &data, BlockDigests &sent, const Pace &pace, const Control &control) override;
+    Result<AudioWritten> writeAudio(
+        const audio::AudioDisc &disc, const Pace &pace, const Control &control) override;
     Result<DiscTracks> tracks() override { return readTracks(*m_drive); }
     Result<void> reload() override;
     Result<std::size_t> read(std::uint64_t block, std::span<std::byte> buffer) override
@@ -68,6 +71,7 @@ struct PhysicalLease::Job {
     std::function<Result<std::vector<Track>>()> tracks;
     std::shared_ptr<Supply> supply = std::make_shared<Supply>();
     std::uint64_t blocks = 0; ///< of which `supply` keeps digests, if it does
+    Pace pace;
     std::vector<audio::Pack> text; ///< gone when the drive refuses it
 };
 
@@ -85,14 +89,19 @@ bool PhysicalLease::untouched(const LibburnDrive::Outcome &outcome, const Medium
 Result<void> PhysicalLease::write(Job &job, const Medium &medium, const Control &control)
 {
     const auto family = factsOf(medium.kind).family;
-    Attempt attempt = firstAttempt(medium.rewriting, medium.speeds);
+    Attempt attempt =
+        firstAttempt(medium.rewriting, nearestSpeed(medium.speeds, job.pace.wish, singleSpeed(family)));
     attempt.named = !job.text.empty();
+    std::optional<int> toldSpeed;
     while (true) {
         job.supply->start(job.blocks);
         Result<std::vector<Track>> tracks = job.tracks();
         if (!tracks)
             return withState(tracks.error(), m_name, Left::blank);
         burn_drive_set_speed(m_drive->handle(), 0, attempt.speed);
+        if (job.pace.begins && toldSpeed != attempt.speed)
+            job.pace.begins(attempt.speed, family);
+        toldSpeed = attempt.speed;
         LibburnDrive::Outcome outcome =
             m_drive->write(*tracks, { attempt.mode, job.phase, family, job.text }, *job.supply, control);
         if (outcome.well)
@@ -108,7 +117,8 @@ Result<void> PhysicalLease::write(Job &job, const Medium &medium, const Control 
     }
 }
 
-Result<void> PhysicalLease::writeData(DiscData &data, BlockDigests &sent, const Control &control)
+Result<void> PhysicalLease::writeData(
+    DiscData &data, BlockDigests &sent, const Pace &pace, const Control &control)
 {
     if (auto formatted = formatIfNeeded(control); !formatted)
         return formatted;
@@ -121,6 +131,7 @@ Result<void> PhysicalLease::writeData(DiscData &data, BlockDigests &sent, const 
     Job job;
     job.supply = std::make_shared<Supply>(std::move(sent));
     job.blocks = data.blocks();
+    job.pace = pace;
     job.tracks = [&]() -> Result<std::vector<Track>> {
         const Result<Read> stream = data.start();
         if (!stream)
@@ -134,7 +145,8 @@ Result<void> PhysicalLease::writeData(DiscData &data, BlockDigests &sent, const 
     return written;
 }
 
-Result<AudioWritten> PhysicalLease::writeAudio(const audio::AudioDisc &disc, const Control &control)
+Result<AudioWritten> PhysicalLease::writeAudio(
+    const audio::AudioDisc &disc, const Pace &pace, const Control &control)
 {
     const Result<Medium> now = medium();
     if (!now)
@@ -145,6 +157,7 @@ Result<AudioWritten> PhysicalLease::writeAudio(const audio::AudioDisc &disc, con
         return withState(fits.error(), m_name, Left::blank);
     Job job;
     job.audio = true;
+    job.pace = pace;
     job.tracks = [&] { return audioTracks(disc, job.supply); };
     job.text = audio::packsOf(disc.text);
     if (auto written = write(job, *now, control); !written)

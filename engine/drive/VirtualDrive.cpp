@@ -60,8 +60,10 @@ public:
 
     Result<Medium> medium() override;
     Result<void> erase(EraseMode mode, const Control &control) override;
-    Result<void> writeData(DiscData &data, BlockDigests &sent, const Control &control) override;
-    Result<AudioWritten> writeAudio(const audio::AudioDisc &disc, const Control &control) override;
+    Result<void> writeData(
+        DiscData &data, BlockDigests &sent, const Pace &pace, const Control &control) override;
+    Result<AudioWritten> writeAudio(
+        const audio::AudioDisc &disc, const Pace &pace, const Control &control) override;
     Result<DiscTracks> tracks() override;
     Result<void> reload() override;
     Result<std::size_t> read(std::uint64_t block, std::span<std::byte> buffer) override;
@@ -69,7 +71,7 @@ public:
 
 private:
     Result<RecorderState> begin(std::uint64_t bytes);
-    Result<void> write(Content content, const Supply &supply, const Control &control);
+    Result<void> write(Content content, const Supply &supply, const Pace &pace, const Control &control);
     Result<LibburnDrive::Outcome> stream(
         Content &content, const Fd &file, MediumKind kind, const Supply &supply, const Control &control);
     Result<void> finish(RecorderState state, const Content &content, const Fd &file);
@@ -192,7 +194,8 @@ Result<LibburnDrive::Outcome> VirtualLease::stream(
     return outcome;
 }
 
-Result<void> VirtualLease::write(Content content, const Supply &supply, const Control &control)
+Result<void> VirtualLease::write(
+    Content content, const Supply &supply, const Pace &pace, const Control &control)
 {
     const Result<RecorderState> state = begin(content.bytes);
     if (!state)
@@ -204,6 +207,8 @@ Result<void> VirtualLease::write(Content content, const Supply &supply, const Co
     if (!content.cueSheet.empty())
         if (auto saved = m_folder.saveCueSheet(content.cueSheet); !saved)
             return abandon(*state, content, *file, {}, saved);
+    if (pace.begins)
+        pace.begins(0, factsOf(state->kind).family);
     const auto outcome = stream(content, *file, state->kind, supply, control);
     if (!outcome)
         return abandon(*state, content, *file, {}, outcome.error());
@@ -214,7 +219,8 @@ Result<void> VirtualLease::write(Content content, const Supply &supply, const Co
     return {};
 }
 
-Result<void> VirtualLease::writeData(DiscData &data, BlockDigests &sent, const Control &control)
+Result<void> VirtualLease::writeData(
+    DiscData &data, BlockDigests &sent, const Pace &pace, const Control &control)
 {
     const Result<Read> stream = data.start();
     if (!stream)
@@ -226,12 +232,13 @@ Result<void> VirtualLease::writeData(DiscData &data, BlockDigests &sent, const C
     content.bytes = data.blocks() * blockBytes;
     content.track.source = newSource(*stream, content.bytes, supply);
     content.file = dataDiscFile;
-    auto written = write(std::move(content), *supply, control);
+    auto written = write(std::move(content), *supply, pace, control);
     sent = supply->takeDigests();
     return written;
 }
 
-Result<AudioWritten> VirtualLease::writeAudio(const audio::AudioDisc &disc, const Control &control)
+Result<AudioWritten> VirtualLease::writeAudio(
+    const audio::AudioDisc &disc, const Pace &pace, const Control &control)
 {
     auto opened = audio::DiscStream::open(disc);
     if (!opened)
@@ -253,7 +260,7 @@ Result<AudioWritten> VirtualLease::writeAudio(const audio::AudioDisc &disc, cons
         newSource(filled, (content.bytes + blockBytes - 1) / blockBytes * blockBytes, supply);
     content.file = audioDiscFile;
     content.cueSheet = audio::cueSheet(audioDiscFile, disc);
-    if (auto written = write(std::move(content), *supply, control); !written)
+    if (auto written = write(std::move(content), *supply, pace, control); !written)
         return written.error();
     return AudioWritten();
 }

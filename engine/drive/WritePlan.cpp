@@ -4,11 +4,10 @@
 
 namespace engine::drive {
 
-Attempt firstAttempt(Rewriting rewriting, const std::vector<int> &speeds)
+Attempt firstAttempt(Rewriting rewriting, int speed)
 {
     const bool sequential = rewriting == Rewriting::once || rewriting == Rewriting::erase;
-    return { sequential ? WriteMode::sessionAtOnce : WriteMode::trackAtOnce,
-        speeds.empty() ? 0 : speeds.back(), false };
+    return { sequential ? WriteMode::sessionAtOnce : WriteMode::trackAtOnce, speed, false };
 }
 
 bool isSpeedError(const LibburnMessage &refusal)

@@ -17,9 +17,8 @@ struct Attempt {
     bool operator==(const Attempt &) const = default;
 };
 
-/// The first way for a medium: at once where the medium knows that, at the fastest of `speeds` (ascending).
-/// Overwritable media know one way only.
-Attempt firstAttempt(Rewriting rewriting, const std::vector<int> &speeds);
+/// The first way for a medium: at once where the medium knows that, at `speed`. Overwritable media know one way only.
+Attempt firstAttempt(Rewriting rewriting, int speed);
 
 /// What to try after `failed` got `refusal`, while the medium is still as it was. A speed error lowers the
 /// speed. Any other refusal of a disc with CD-TEXT leaves that away; any other of the session at once gives the

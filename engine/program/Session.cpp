@@ -2,6 +2,7 @@
 
 #include "base/Words.h"
 #include "report/DriveList.h"
+#include "report/StatusText.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -48,9 +49,23 @@ drive::Control Session::control()
         stop() };
 }
 
-drive::BurnOptions Session::burnOptions(bool verify)
+/// `speed` as Pace::begins is told it.
+void Session::saySpeed(int speed, Family family, SpeedWish wish)
 {
-    return { verify, control(), [this](const std::string &line) { say(line); },
+    if (speed == 0)
+        return say("The drive names no speeds and writes at one that it chooses.");
+    const std::string factor = report::speedFactor(speed, family);
+    const std::string wanted = wish ? report::speedFactor(*wish * singleSpeed(family), family) : factor;
+    say("Writing at " + factor
+        + (factor == wanted ? "." : ", which is the speed of the drive next to " + wanted + "."));
+}
+
+drive::BurnOptions Session::burnOptions(bool verify, const ToldWish &speed)
+{
+    drive::Pace pace{ speed.speed, {} };
+    if (speed.told)
+        pace.begins = [this, wish = speed.speed](int begun, Family family) { saySpeed(begun, family, wish); };
+    return { verify, std::move(pace), control(), [this](const std::string &line) { say(line); },
         [this](const std::string &sentence) { note(sentence); } };
 }
 

@@ -3,6 +3,7 @@
 
 #include "drive/Burn.h"
 #include "program/Output.h"
+#include "program/SpeedOption.h"
 #include "report/ProgressText.h"
 
 #include <string>
@@ -19,7 +20,7 @@ public:
     drive::Control control();
 
     /// What a burn is done with; what is done next is said on standard output.
-    drive::BurnOptions burnOptions(bool verify);
+    drive::BurnOptions burnOptions(bool verify, const ToldWish &speed);
 
     /// One sentence on standard output.
     void say(const std::string &line) { m_output.tell(line + '\n'); }
@@ -34,6 +35,8 @@ public:
     Stop stop() const { return m_signals.stop(); }
 
 private:
+    void saySpeed(int speed, Family family, SpeedWish wish);
+
     StopSignals m_signals;
     Output m_output;
     Output m_errors;

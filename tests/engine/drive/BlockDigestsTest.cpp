@@ -33,8 +33,8 @@ public:
 
     Result<Medium> medium() override { return Medium{}; }
     Result<void> erase(EraseMode, const Control &) override { return {}; }
-    Result<void> writeData(DiscData &, BlockDigests &, const Control &) override { return {}; }
-    Result<AudioWritten> writeAudio(const audio::AudioDisc &, const Control &) override
+    Result<void> writeData(DiscData &, BlockDigests &, const Pace &, const Control &) override { return {}; }
+    Result<AudioWritten> writeAudio(const audio::AudioDisc &, const Pace &, const Control &) override
     {
         return AudioWritten();
     }

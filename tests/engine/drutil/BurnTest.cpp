@@ -51,6 +51,27 @@ class BurnTest : public QObject {
     }
 
 private Q_SLOTS:
+    void aSpeedThatIsNoneIsRefused()
+    {
+        Drutil drutil;
+        QVERIFY(drutil.insert(u"cd-r"_s) && QDir().mkpath(drutil.path(u"data"_s)));
+        QVERIFY(writeFile(drutil.path(u"data/file"_s), "content"));
+        const Ran option = drutil({ u"burn"_s, drutil.path(u"data"_s), u"-speed"_s, u"fast"_s });
+        QCOMPARE(option.exit, 2);
+        QVERIFY2(option.err.contains(u"-speed wants a factor such as 8 or 2.4, or max."_s),
+            qPrintable(option.err));
+        drutil.environment().insert(u"CORVALIS_SPEED"_s, u"fast"_s);
+        const Ran variable = drutil({ u"burn"_s, drutil.path(u"data"_s) });
+        QCOMPARE(variable.exit, 1);
+        QVERIFY2(variable.err.contains(u"CORVALIS_SPEED has the value \"fast\", which is no speed"_s),
+            qPrintable(variable.err));
+        QCOMPARE(drutil.fact(u"Writability:"_s), u"appendable, blank, overwritable"_s);
+        // The option is what counts, and a drive without speeds says so.
+        const Ran burnt = drutil({ u"burn"_s, u"-speed"_s, u"16x"_s, drutil.path(u"data"_s) });
+        QVERIFY2(burnt.exit == 0, qPrintable(burnt.err));
+        QCOMPARE(burnt.out.count(u"The drive names no speeds and writes at one that it chooses.\n"_s), 1);
+    }
+
     void cleanup()
     {
         // Qt's own removal gives up at names that are no text.

@@ -41,6 +41,51 @@ class FaultsTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void theNearestSpeedIsTakenAndTold_data()
+    {
+        QTest::addColumn<double>("factor"); // 0 for the fastest
+        QTest::addColumn<bool>("cd");
+        QTest::addColumn<int>("speed");
+        QTest::newRow("DVD, nearest") << 3.9 << false << 5540;
+        QTest::newRow("DVD, fastest") << 0.0 << false << 11080;
+        QTest::newRow("CD, nearest") << 5.0 << true << 706;
+    }
+
+    void theNearestSpeedIsTakenAndTold()
+    {
+        QFETCH(double, factor);
+        QFETCH(bool, cd);
+        QFETCH(int, speed);
+        Session session({ cd ? int(cdR) : int(dvdR) },
+            cd ? QList<int>{ 706, 1411 } : QList<int>{ 2770, 5540, 11080 });
+        QList<int> told;
+        session.options.pace = { factor > 0 ? engine::SpeedWish(factor) : engine::SpeedWish(),
+            [&](int begun, engine::Family) { told.append(begun); } };
+        QCOMPARE(sentence(session.burn(100)), QString());
+        QCOMPARE(told, QList<int>{ speed });
+        // libburn rounds what it asks of a CD drive.
+        QVERIFY2(qAbs(session.drive.writeSpeed - speed) <= 1,
+            QByteArray::number(session.drive.writeSpeed).constData());
+    }
+
+    void aLowerSpeedIsToldAsWell()
+    {
+        Session session({ dvdR });
+        int refused = 0;
+        session.drive.refuse = [&](const Command &command) -> std::optional<Sense> {
+            const bool write = command.opcode() == write10 || command.opcode() == write12;
+            return write && session.drive.writeSpeed > 2770 && ++refused
+                ? std::optional(Sense{ 3, 0x73, 0x03 })
+                : std::nullopt;
+        };
+        QList<int> told;
+        session.options.pace = { engine::SpeedWish(4.0),
+            [&](int begun, engine::Family) { told.append(begun); } };
+        QCOMPARE(sentence(session.burn(100)), QString());
+        QCOMPARE(told, (QList<int>{ 5540, 2770 }));
+        QVERIFY(refused > 0);
+    }
+
     void aPowerCalibrationErrorLowersTheSpeed_data()
     {
         QTest::addColumn<int>("profile");

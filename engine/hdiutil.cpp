@@ -60,27 +60,44 @@ image::IsoOptions imageOptions(Session &session, const std::uint64_t &size)
     return options;
 }
 
+/// One attempt at an image. A file that cannot be read after all is added to those that `options` leave out.
+Result<void> tryImage(const std::string &folder, const std::string &path, image::IsoOptions &options,
+    std::uint64_t &size, Session &session)
+{
+    auto image = image::IsoImage::fromFolder(folder, options);
+    if (!image)
+        return image.error();
+    size = std::uint64_t{ image->blockCount() } * image::blockSize;
+    auto file = image::NewFile::create(path, size);
+    if (!file)
+        return file.error();
+    if (auto written = image->writeTo(file->fd(), path); !written) {
+        if (const auto unreadable = image->unreadable())
+            options.leftOut.push_back(*unreadable);
+        return written;
+    }
+    if (auto kept = file->keep(); !kept)
+        return kept;
+    for (const std::string &note : image->notes())
+        session.note(note);
+    session.say("Done: " + quoted(path) + " holds " + std::to_string(image->fileCount())
+        + (image->fileCount() == 1 ? " file in " : " files in ") + sizeText(size) + ".");
+    return {};
+}
+
 Result<void> makeImage(const std::string &folder, const std::string &path, Session &session)
 {
     std::uint64_t size = 0;
     session.say("Making an image of the folder " + quoted(folder) + '.');
     session.control().report({}, 0);
-    auto image = image::IsoImage::fromFolder(folder, imageOptions(session, size));
-    if (!image)
-        return image.error();
-    for (const std::string &note : image->notes())
-        session.note(note);
-    size = std::uint64_t{ image->blockCount() } * image::blockSize;
-    auto file = image::NewFile::create(path, size);
-    if (!file)
-        return file.error();
-    if (auto written = image->writeTo(file->fd(), path); !written)
-        return written;
-    if (auto kept = file->keep(); !kept)
-        return kept;
-    session.say("Done: " + quoted(path) + " holds " + std::to_string(image->fileCount())
-        + (image->fileCount() == 1 ? " file in " : " files in ") + sizeText(size) + ".");
-    return {};
+    image::IsoOptions options = imageOptions(session, size);
+    while (true) {
+        const std::size_t before = options.leftOut.size();
+        auto made = tryImage(folder, path, options, size, session);
+        // The places of all files behind it change with one that is left out, so the image is made anew.
+        if (made || options.leftOut.size() == before)
+            return made;
+    }
 }
 
 Result<void> copyWholeDisc(const image::DiscSource &disc, const std::string &path, Session &session)

@@ -52,6 +52,12 @@ Result<void> FolderReader::outcome() const
     return m_outcome;
 }
 
+std::optional<std::pair<std::uint32_t, int>> FolderReader::unreadable() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_unreadable;
+}
+
 Error FolderReader::contentError(const FolderTree &tree, std::uint32_t content, int error)
 {
     const std::string why = error != 0
@@ -163,6 +169,8 @@ bool FolderReader::fail(std::uint32_t content, int error)
 {
     const std::lock_guard lock(m_mutex);
     m_outcome = contentError(m_tree, content, error);
+    if (error != 0)
+        m_unreadable.emplace(content, error);
     return false;
 }
 

@@ -10,8 +10,10 @@
 #include <cstddef>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <span>
 #include <thread>
+#include <utility>
 
 namespace engine::image {
 
@@ -48,6 +50,9 @@ public:
     bool next(Piece &piece);
     /// The error that ended the reading early: names the file.
     Result<void> outcome() const;
+
+    /// The content whose file could not be read, and errno; nothing where another fault ended the reading.
+    std::optional<std::pair<std::uint32_t, int>> unreadable() const;
 
     /// The sentence for a file that fails while its image is written; `error` is an errno value, or 0
     /// when the file has become shorter.
@@ -90,6 +95,7 @@ private:
     bool m_ended = false; ///< nothing more will be published
     bool m_stopping = false;
     Result<void> m_outcome;
+    std::optional<std::pair<std::uint32_t, int>> m_unreadable;
     std::thread m_thread; ///< last, so that it finds the other members
 };
 

@@ -213,8 +213,8 @@ private:
     Result<void> addByKind(int fd, Entry &entry, const struct stat &info, const std::string &name)
     {
         if (S_ISREG(info.st_mode)) {
-            if (!mayRead(info, fd, name.c_str())) {
-                leaveOut(entry.parent, name, cannotBeRead(EACCES));
+            if (const int error = mayRead(info, fd, name.c_str()) ? knownError(entry.parent, name) : EACCES) {
+                leaveOut(entry.parent, name, cannotBeRead(error));
                 return {};
             }
             entry.first = contentOf(info);
@@ -319,8 +319,22 @@ private:
 
     void leaveOut(std::uint32_t folder, const std::string &name, const std::string &why)
     {
-        const std::string path = folder == 0 ? name : m_tree.relativePath(folder) + '/' + name;
-        m_tree.m_notes.push_back(quoted(path) + " is left out: " + why + ".");
+        m_tree.m_notes.push_back(quoted(pathBelow(folder, name)) + " is left out: " + why + ".");
+    }
+
+    /// Why another attempt could not read the file; 0 where it could, or there was none.
+    int knownError(std::uint32_t folder, const std::string &name) const
+    {
+        if (m_options.leftOut.empty())
+            return 0;
+        const auto known =
+            std::ranges::find(m_options.leftOut, pathBelow(folder, name), &UnreadableFile::path);
+        return known == m_options.leftOut.end() ? 0 : known->error;
+    }
+
+    std::string pathBelow(std::uint32_t folder, const std::string &name) const
+    {
+        return folder == 0 ? name : m_tree.relativePath(folder) + '/' + name;
     }
 
     static std::string cannotBeRead(int error) { return "it cannot be read: " + reason(error); }

@@ -84,9 +84,17 @@ public:
         Piece piece;
         if (reader->next(piece))
             return piece;
-        if (auto ok = reader->outcome(); !ok)
+        if (auto ok = reader->outcome(); !ok) {
+            if (const auto bad = reader->unreadable())
+                setUnreadable(bad->first, bad->second);
             return ok.error();
+        }
         return Piece{ end() };
+    }
+
+    void setUnreadable(std::uint32_t content, int error)
+    {
+        unreadable = { tree.relativePath(tree.contents()[content].entry), error };
     }
 
     /// What follows the data; nothing at the second call.
@@ -124,6 +132,7 @@ public:
     const FolderTree tree;
     std::uint32_t blocks = 0;
     std::vector<std::string> notes;
+    std::optional<UnreadableFile> unreadable; ///< that ended the stream
 
 private:
     enum class Step { begin, bridge, header }; ///< what is before the data of the files
@@ -187,6 +196,11 @@ Result<std::size_t> IsoImage::read(std::span<std::byte> buffer)
     return m_stream->read(buffer);
 }
 
+std::optional<UnreadableFile> IsoImage::unreadable() const
+{
+    return m_stream->unreadable;
+}
+
 Result<void> IsoImage::writeTo(int fd, const std::string &destination)
 {
     ImageFile file(fd, destination, m_stream->stop, m_stream->progress);
@@ -201,6 +215,8 @@ Result<void> IsoImage::writeTo(int fd, const std::string &destination)
         if (piece->file < 0)
             continue;
         const auto unreadable = [&](int error) {
+            if (error != 0)
+                m_stream->setUnreadable(piece->content, error);
             return FolderReader::contentError(m_stream->tree, piece->content, error);
         };
         if (auto ok = file.copy(piece->file, piece->fileSize, unreadable); !ok)

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -30,10 +31,18 @@ enum class Links {
     follow, ///< stored as what they point to; loops and dangling links left out, with a note
 };
 
+/// A file that turned out to be unreadable while its image was written.
+struct UnreadableFile {
+    std::string path; ///< below the folder
+    int error = 0; ///< errno
+};
+
 struct IsoOptions {
     std::string volumeName; ///< UTF-8; when empty, the one of volumeNameFor()
     bool rockRidge = true; ///< exact names, times, modes and owners beside the Joliet names
     Links links = Links::keep;
+    std::vector<UnreadableFile>
+        leftOut; ///< by another attempt at the same folder: these are left out, with a note
     Stop stop; ///< ends the reading of the folder and the writing of the image
     /// Told by writeTo(), several times a second, how many bytes of the image are written. May be empty.
     std::function<void(std::uint64_t bytes)> progress;
@@ -69,6 +78,9 @@ public:
     /// Fills `buffer` with the next bytes of the image and returns their number, which is less than its size only at
     /// the end. An error names the file that cannot be read or became shorter.
     Result<std::size_t> read(std::span<std::byte> buffer);
+
+    /// The file that ended read() or writeTo() because it cannot be read. One that became shorter is none.
+    std::optional<UnreadableFile> unreadable() const;
 
     /// Writes the whole image to `fd` from its current position. The error of a failed write
     /// speaks of `destination`, one of a source file names that file.

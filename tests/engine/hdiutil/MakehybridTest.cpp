@@ -156,6 +156,40 @@ private Q_SLOTS:
         QVERIFY(access(scratch.path("i.iso").c_str(), F_OK) != 0);
     }
 
+    void whatTurnsOutToBeUnreadableIsLeftOutToo()
+    {
+        // The kernel lets nobody read such a file, whatever root may do elsewhere.
+        QStringList closed;
+        QDirIterator files(
+            u"/sys/bus"_s, { u"uevent"_s }, QDir::Files | QDir::System, QDirIterator::Subdirectories);
+        while (files.hasNext() && closed.size() < 2) {
+            const QString path = files.next();
+            struct stat info { };
+            if (stat(path.toLocal8Bit().constData(), &info) == 0 && (info.st_mode & 0777) == 0200
+                && info.st_size > 0)
+                closed.append(path);
+        }
+        if (closed.size() < 2)
+            QSKIP("this system has no files that nobody may read");
+        Scratch scratch;
+        QVERIFY(makeFile(scratch.path("t/open"), "data") && makeFile(scratch.path("t/z"), "last"));
+        QVERIFY(makeFolder(scratch.path("t/inner")));
+        QCOMPARE(symlink(closed.at(0).toLocal8Bit().constData(), scratch.path("t/closed").c_str()), 0);
+        QCOMPARE(symlink(closed.at(1).toLocal8Bit().constData(), scratch.path("t/inner/closed").c_str()), 0);
+        const Ran ran = make(scratch.path("i.iso"), scratch.path("t"));
+        QCOMPARE(ran.exit, 0);
+        QStringList notes = notesIn(ran.err);
+        notes.sort();
+        QCOMPARE(notes.size(), 2);
+        QVERIFY2(notes.at(0).startsWith(u"\"closed\" is left out: "_s)
+                && notes.at(1).startsWith(u"\"inner/closed\" is left out: "_s),
+            qPrintable(ran.err));
+        QVERIFY(extractRockRidge(scratch.path("i.iso"), scratch.path("out")));
+        QCOMPARE(list(scratch.path("out")),
+            (Listing{ { "inner", "folder" }, { "open", list(scratch.path("t")).at("open") },
+                { "z", list(scratch.path("t")).at("z") } }));
+    }
+
     void existingImageIsRefused()
     {
         Scratch scratch;

@@ -49,7 +49,7 @@ too_large() {
     mkdir f
     truncate -s 5G f/huge
     call drutil burn f -drive "$number"
-    expect_refusal 1 'need 26[0-9]{5} blocks, .* room for 2[0-9]{6}'
+    expect_refusal 1 'need 5[0-9.]+ MB \(26[0-9]{5} blocks\), .* room for [0-9.]+ MB \(2[0-9]{6} blocks\)'
     expect_medium 'appendable, blank, overwritable'
 }
 check medium-too-small too_large
@@ -82,7 +82,7 @@ phases_in_order() {
     call drutil burn f -drive "$number"
     expect_status 0
     sed 's/[:,. ].*//' out | uniq | paste -sd ' ' >phases
-    [ "$(cat phases)" = "Preparing Writing Closing Verifying Done" ] || fail "phases: $(cat phases)"
+    [ "$(cat phases)" = "Burning Preparing Writing Closing Verifying Done" ] || fail "phases: $(cat phases)"
 }
 check phases-in-order phases_in_order
 

@@ -50,7 +50,7 @@ too_large() {
     mkdir f
     truncate -s 5G f/huge
     call drutil burn f -drive "$number"
-    expect_refusal 1 'need 26[0-9]{5} blocks, .* room for 2[0-9]{6}'
+    expect_refusal 1 'need 5[0-9.]+ MB \(26[0-9]{5} blocks\), .* room for [0-9.]+ MB \(2[0-9]{6} blocks\)'
 }
 check ram-too-small too_large
 

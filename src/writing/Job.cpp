@@ -183,9 +183,10 @@ QString Job::reasonOf(const ToolRun &run) const
     const bool endedItself = end.how == ToolEnd::How::Ended
         || (end.how == ToolEnd::How::Stopped && run.state() == QProcess::NotRunning
             && run.exitStatus() == QProcess::NormalExit);
-    if (endedItself && !m_lastWords.isEmpty())
-        return forPerson(m_lastWords);
     const QString tool = QFileInfo(run.program()).fileName();
+    // Our tools begin a failure with their name, as command-line programs do.
+    if (endedItself && !m_lastWords.isEmpty())
+        return forPerson(m_lastWords.mid(m_lastWords.startsWith(tool + u": "_s) ? tool.size() + 2 : 0));
     const QString happened = end.how == ToolEnd::How::Stopped ? QString() : tool + u' ' + end.text() + u'.';
     return joined(
         happened, end.how == ToolEnd::How::CouldNotStart ? tr("The disc is as it was.") : stateOfDisc());

@@ -204,8 +204,7 @@ private Q_SLOTS:
         const QByteArray before = machine.recorder.status();
         writeImage(machine, machine.media.path(), u"wrong.iso"_s);
         QVERIFY(machine.completes());
-        QVERIFY2(machine.trouble().startsWith(u"hdiutil: "_s) && machine.trouble().contains(words),
-            qUtf8Printable(machine.trouble()));
+        QVERIFY2(machine.trouble().contains(words), qUtf8Printable(machine.trouble()));
         QCOMPARE(machine.recorder.status(), before);
     }
 
@@ -312,8 +311,7 @@ private Q_SLOTS:
             destination = machine.mediaPath(u"out"_s);
         QDir().mkpath(destination);
         makeImage(machine, machine.mediaPath(u"tree"_s), destination);
-        QVERIFY2(machine.trouble().startsWith(u"hdiutil: "_s) && machine.trouble().contains(words),
-            qUtf8Printable(machine.trouble()));
+        QVERIFY2(machine.trouble().contains(words), qUtf8Printable(machine.trouble()));
         QVERIFY2(machine.controller->activityLog->text().contains(words),
             qUtf8Printable(machine.controller->activityLog->text()));
         QVERIFY(!QFile::exists(destination + u"/image.iso"_s));

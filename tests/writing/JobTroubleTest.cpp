@@ -477,7 +477,7 @@ private Q_SLOTS:
         ready(app);
         app.press("btnBurn");
         QVERIFY(app.completes());
-        QCOMPARE(app.trouble(), u"drutil: The disc is full."_s);
+        QCOMPARE(app.trouble(), u"The disc is full."_s);
         const auto buttons = app.controller->windowOperationCompleted->findChildren<QPushButton *>();
         QCOMPARE(buttons.size(), 2);
         for (QPushButton *button : buttons) {

@@ -3,6 +3,8 @@
 #include "kit/SymbolIcon.h"
 #include "ui/PaintedViews.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -38,6 +40,50 @@ QColor withAlpha(QColor colour, double alpha)
     return colour;
 }
 
+/// The button for who cannot see it. A mode button is one of several of which one is chosen.
+class ButtonFace : public QAccessibleWidget {
+public:
+    explicit ButtonFace(BarButton *button)
+        : QAccessibleWidget(
+            button, button->look() == BarButton::Look::Mode ? QAccessible::RadioButton : QAccessible::Button)
+    {
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = button()->look() == BarButton::Look::Mode;
+        state.checked = button()->isBordered();
+        state.pressed = button()->isDown();
+        return state;
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const QString text = QAccessibleWidget::text(kind);
+        return text.isEmpty() && kind == QAccessible::Name ? button()->text() : text;
+    }
+
+    QStringList actionNames() const override { return { pressAction(), setFocusAction() }; }
+
+    void doAction(const QString &name) override
+    {
+        if (name == pressAction() && button()->isEnabled())
+            button()->animateClick();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+private:
+    BarButton *button() const { return static_cast<BarButton *>(widget()); }
+};
+
+QAccessibleInterface *makeFace(const QString &, QObject *object)
+{
+    auto *button = qobject_cast<BarButton *>(object);
+    return button ? new ButtonFace(button) : nullptr;
+}
+
 } // namespace
 
 QColor textColourOnBar(const QWidget *widget)
@@ -52,6 +98,7 @@ BarButton::BarButton(QWidget *parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::ArrowCursor);
+    QAccessible::installFactory(makeFace); // a second time it changes nothing
 }
 
 void BarButton::setLook(Look look)
@@ -78,9 +125,29 @@ void BarButton::setDescription(const QString &text)
 
 void BarButton::setBordered(bool bordered)
 {
+    const bool isNew = bordered != m_bordered;
     m_bordered = bordered;
-    setAccessibleDescription(bordered ? tr("chosen") : QString());
     update();
+    if (!isNew)
+        return;
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+void BarButton::setPossibleTexts(const QStringList &texts)
+{
+    m_possibleTexts = texts;
+    updateGeometry();
+}
+
+int BarButton::widestText(const QFontMetrics &metrics) const
+{
+    int widest = metrics.horizontalAdvance(text());
+    for (const QString &text : m_possibleTexts)
+        widest = qMax(widest, metrics.horizontalAdvance(text));
+    return widest;
 }
 
 QFont BarButton::headingFont() const
@@ -100,7 +167,7 @@ QSize BarButton::sizeHint() const
     QFont widest = headingFont();
     widest.setBold(true);
     const QFontMetrics metrics(m_look == Look::Mode ? widest : headingFont());
-    const QSize text(metrics.horizontalAdvance(this->text()), metrics.height());
+    const QSize text(widestText(metrics), metrics.height());
     switch (m_look) {
     case Look::Tool:
         return { qMax(64, text.width() + 16), 6 + toolIcon + 4 + text.height() + 6 };

@@ -36,6 +36,8 @@ public:
     /// The border marks the chosen one of several mode buttons.
     bool isBordered() const { return m_bordered; }
     void setBordered(bool bordered);
+    /// All texts that the button may come to have: it is as wide as the widest of them.
+    void setPossibleTexts(const QStringList &texts);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -56,9 +58,11 @@ private:
     void paintSymbolBesideText(QPainter &painter, const QColor &text) const;
     void paintSymbol(QPainter &painter, const QRect &where, const QColor &colour) const;
     QFont headingFont() const;
+    int widestText(const QFontMetrics &metrics) const;
 
     Look m_look = Look::Tool;
     QString m_symbol, m_description;
+    QStringList m_possibleTexts;
     bool m_bordered = false;
 };
 

@@ -48,6 +48,10 @@ void AppDelegate::setModeDefaults()
     for (const int code : { 1, 4, 6 })
         markVariant(code);
     ui->tabviewMain->setCurrentIndex(0);
+    QStringList titles;
+    for (const ProjectType &type : projects::all)
+        titles.append(type.burnTitle);
+    ui->btnBurn->setPossibleTexts(titles); // the gauge beside it keeps its width
     ui->btnBurn->setText(projects::byCode(1)->burnTitle);
 }
 

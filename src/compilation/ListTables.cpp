@@ -1,6 +1,7 @@
 // The tables' contents, their order, and the totals behind the gauge.
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
+#include "compilation/GaugeText.h"
 #include "compilation/ListTableModel.h"
 #include "compilation/Sorting.h"
 #include "compilation/SpaceOccupiedView.h"
@@ -15,23 +16,6 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// hours:minutes:seconds, as many fields as the time needs.
-QString timeText(qint64 seconds)
-{
-    const QString rest =
-        u"%1:%2"_s.arg(seconds / 60 % 60, 2, 10, QChar(u'0')).arg(seconds % 60, 2, 10, QChar(u'0'));
-    return seconds < 3600 ? rest : u"%1:%2"_s.arg(seconds / 3600).arg(rest);
-}
-
-QString sizeInWords(qint64 kilobytes)
-{
-    return QLocale().formattedDataSize(kilobytes * 1024, 1, QLocale::DataSizeTraditionalFormat);
-}
-
-} // namespace
 
 qsizetype AppDelegate::numberOfRowsInTableView(const ListTableView *table) const
 {
@@ -117,9 +101,10 @@ void AppDelegate::PaintSpaceOccupiedControl()
     const qint32 capacity = compilation::capacity(measure.page, measure.kind);
     const qint64 percent = compilation::percentage(static_cast<quint64>(measure.total), capacity);
     ui->spaceoccupiedviewControl->setI_Percentage(percent);
-    const auto inWords = measure.page == Page::Data ? sizeInWords : timeText;
-    ui->label_BottomBar_SpaceOcuupied->setText(
-        tr("Space occupied: %1 of %2 (%3 %)").arg(inWords(measure.total), inWords(capacity)).arg(percent));
+    const QString text = compilation::gaugeText(measure.page, measure.total, capacity);
+    ui->label_BottomBar_SpaceOcuupied->setText(text);
+    ui->label_BottomBar_SpaceOcuupied->setToolTip(text); // where the window is too narrow for it
+    ui->spaceoccupiedviewControl->setAccessibleDescription(text);
 }
 
 void AppDelegate::tableView_sortDescriptorsDidChange(ListTableView *table)

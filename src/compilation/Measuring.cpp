@@ -12,6 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace compilation {
 
+static constexpr std::array units{ "bytes", "KB", "MB", "GB", "TB" };
+
 QString durationText(const QByteArray &report)
 {
     constexpr auto mark = "Duration:"_L1;
@@ -68,18 +70,27 @@ qint64 secondsFromDurationText(const QString &duration)
     return field(1) * 3600 + field(4) * 60 + field(7);
 }
 
-QString sizeText(quint64 bytes)
+Size scaled(quint64 bytes)
 {
-    constexpr std::array units{ "bytes", "KB", "MB", "GB", "TB" };
-    auto value = static_cast<double>(bytes);
-    std::size_t unit = 0;
+    Size size{ static_cast<double>(bytes), 0 };
     if (bytes >= 1025) {
         do {
-            value *= 0.0009765625;
-            ++unit;
-        } while (value > 1024.0 && unit + 1 < units.size());
+            size.value *= 0.0009765625;
+            ++size.unit;
+        } while (size.value > 1024.0 && size.unit + 1 < static_cast<int>(units.size()));
     }
-    return QString::asprintf("%4.2f %s", value, units[unit]);
+    return size;
+}
+
+QString unitWord(int unit)
+{
+    return QLatin1StringView(units.at(static_cast<std::size_t>(unit)));
+}
+
+QString sizeText(quint64 bytes)
+{
+    const Size size = scaled(bytes);
+    return QString::asprintf("%4.2f ", size.value) + unitWord(size.unit);
 }
 
 quint64 fileSize(const QString &path)

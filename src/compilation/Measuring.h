@@ -29,6 +29,18 @@ qint64 lenientNumber(QStringView field);
 /// 1024 stays in the smaller unit.
 QString sizeText(quint64 bytes);
 
+/// A byte count in the largest unit by the same rule.
+struct Size {
+    double value;
+    int unit; ///< 0 bytes to 4 TB
+
+    /// In the next smaller unit; bytes have none.
+    Size finer() const { return { value * 1024, unit - 1 }; }
+};
+Size scaled(quint64 bytes);
+/// "bytes", "KB" to "TB"
+QString unitWord(int unit);
+
 /// The size of a file in bytes, links followed; 0 when it cannot be read.
 quint64 fileSize(const QString &path);
 

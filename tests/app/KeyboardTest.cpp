@@ -12,6 +12,7 @@
 #include "writing/Window_Video_Settings.h"
 
 #include <QAccessible>
+#include <QLabel>
 #include <QMenuBar>
 #include <QTest>
 
@@ -51,6 +52,9 @@ private Q_SLOTS:
     void buttonsArePushButtons();
     void burnButtonIsNamedAsItIsTitled();
     void chosenModeIsTold();
+    void gaugeHasAValue();
+    void everyControlSpeaks();
+    void listsSpeakTheirRows();
     void tabOrder_data();
     void tabOrder();
     void enterAndSpacePress();
@@ -200,7 +204,8 @@ void KeyboardTest::buttonsArePushButtons()
 {
     for (QAbstractButton *button : m_app->window->findChildren<BarButton *>()) {
         QAccessibleInterface *face = QAccessible::queryAccessibleInterface(button);
-        QVERIFY2(face->role() == QAccessible::Button, qPrintable(described(button)));
+        const bool isMode = static_cast<BarButton *>(button)->look() == BarButton::Look::Mode;
+        QCOMPARE(face->role(), isMode ? QAccessible::RadioButton : QAccessible::Button);
         QVERIFY2(face->actionInterface(), qPrintable(described(button)));
         QVERIFY(face->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
     }
@@ -222,14 +227,103 @@ void KeyboardTest::burnButtonIsNamedAsItIsTitled()
 
 void KeyboardTest::chosenModeIsTold()
 {
-    person::click(m_app->window.get(), "btnMP3CD");
-    const auto description = [this](const char *button) {
-        return QAccessible::queryAccessibleInterface(m_app->element<BarButton>(button))
-            ->text(QAccessible::Description);
+    const auto isChecked = [this](const char *button) {
+        const auto state = QAccessible::queryAccessibleInterface(m_app->element<BarButton>(button))->state();
+        return state.checkable && state.checked;
     };
-    QVERIFY(description("btnMP3CD") != description("btnAudioCD"));
-    person::click(m_app->window.get(), "btnAudioCD");
-    QVERIFY(description("btnMP3CD") != description("btnAudioCD"));
+    for (const char *chosen : { "btnMP3CD", "btnAudioCD", "btnMP3DVD" }) {
+        person::click(m_app->window.get(), chosen);
+        for (const char *button : { "btnAudioCD", "btnMP3CD", "btnMP3DVD" })
+            QCOMPARE(isChecked(button), qstrcmp(button, chosen) == 0);
+    }
+    QVERIFY(!QAccessible::queryAccessibleInterface(m_app->element<BarButton>("btnBurn"))->state().checkable);
+}
+
+void KeyboardTest::gaugeHasAValue()
+{
+    auto *gauge = QAccessible::queryAccessibleInterface(m_app->element<QWidget>("spaceoccupiedviewControl"));
+    QVERIFY(gauge->valueInterface());
+    QCOMPARE(gauge->role(), QAccessible::ProgressBar);
+    NodeMediaFile hour;
+    hour.i_Duration_in_Seconds = 3600;
+    for (const qsizetype files : { 1, 2, 0 }) {
+        m_app->controller->arrayMediaFiles = QList<NodeMediaFile>(files, hour);
+        m_app->controller->refreshTableAudioFiles();
+        const qint64 percent = files * 3600 * 100 / 4440;
+        QCOMPARE(gauge->valueInterface()->currentValue().toLongLong(), percent);
+        QCOMPARE(gauge->valueInterface()->maximumValue().toLongLong(), qMax(qint64(100), percent));
+        QCOMPARE(gauge->text(QAccessible::Value), u"%1 %"_s.arg(percent));
+        QCOMPARE(gauge->text(QAccessible::Description),
+            m_app->element<QLabel>("label_BottomBar_SpaceOcuupied")->text());
+    }
+}
+
+/// All that a screen reader finds below an object, itself included, but for what it is told is not there.
+static QList<QAccessibleInterface *> accessibleTree(QAccessibleInterface *top)
+{
+    QList<QAccessibleInterface *> found;
+    if (!top || !top->isValid() || top->state().invisible)
+        return found;
+    found.append(top);
+    for (int child = 0; child < top->childCount(); ++child)
+        found += accessibleTree(top->child(child));
+    return found;
+}
+
+void KeyboardTest::everyControlSpeaks()
+{
+    const QList<QAccessible::Role> controls{ QAccessible::Button, QAccessible::RadioButton,
+        QAccessible::CheckBox, QAccessible::PageTab, QAccessible::PageTabList, QAccessible::MenuItem,
+        QAccessible::Table, QAccessible::ColumnHeader, QAccessible::ProgressBar, QAccessible::StaticText };
+    QSet<int> seen;
+    for (int tab = 0; tab < 5; ++tab) {
+        person::clickTab(m_app->element<QTabWidget>("tabviewMain"), tab);
+        NodeMediaFile file;
+        file.s_File_Name_With_Extension = u"a.mp3"_s;
+        file.whyNotMeasured = u"The file is empty."_s;
+        m_app->controller->arrayMediaFiles = { file };
+        m_app->controller->arrayDataFolders = { { u"/x"_s, 1, u"1.00 KB"_s } };
+        m_app->controller->refreshTableAudioFiles();
+        m_app->controller->refreshTableVideoFiles();
+        m_app->controller->refreshTableDataFolders();
+        QAccessibleInterface *const window = QAccessible::queryAccessibleInterface(m_app->window.get());
+        for (QAccessibleInterface *face : accessibleTree(window)) {
+            const QString what = u"%1, role %2"_s.arg(face->object() ? described(face->object()) : u"part"_s)
+                                     .arg(face->role());
+            const bool isControl = controls.contains(face->role());
+            seen.insert(face->role());
+            if (isControl && !face->state().invisible)
+                QVERIFY2(!face->text(QAccessible::Name).isEmpty(), qPrintable(what));
+            if (face->state().focusable && face->object() && face->object()->isWidgetType()) {
+                QVERIFY2(face->role() != QAccessible::NoRole && face->role() != QAccessible::Client,
+                    qPrintable(what));
+                QVERIFY2(!face->text(QAccessible::Name).isEmpty(), qPrintable(what));
+            }
+        }
+    }
+    for (const QAccessible::Role role : { QAccessible::Button, QAccessible::RadioButton, QAccessible::PageTab,
+             QAccessible::Table, QAccessible::ColumnHeader, QAccessible::ProgressBar })
+        QVERIFY2(seen.contains(role), qPrintable(QString::number(role)));
+}
+
+void KeyboardTest::listsSpeakTheirRows()
+{
+    NodeMediaFile file;
+    file.s_File_Name_With_Extension = u"a.mp3"_s;
+    file.s_Folder_Path = u"/x"_s;
+    file.whyNotMeasured = u"The file is empty."_s;
+    m_app->controller->arrayMediaFiles = { file };
+    m_app->controller->refreshTableAudioFiles();
+    auto *table = QAccessible::queryAccessibleInterface(m_app->element<QWidget>("tableviewAudioFiles"));
+    QVERIFY(table->tableInterface());
+    QCOMPARE(table->tableInterface()->rowCount(), 1);
+    QStringList cells;
+    for (int column = 0; column < 4; ++column)
+        cells.append(table->tableInterface()->cellAt(0, column)->text(QAccessible::Name));
+    QCOMPARE(cells.first(2), QStringList({ u"a.mp3"_s, u"not measured"_s }));
+    QCOMPARE(table->tableInterface()->cellAt(0, 0)->text(QAccessible::Description), u"The file is empty."_s);
+    m_app->element<QTableView>("tableviewAudioFiles")->selectRow(0);
+    QVERIFY(table->tableInterface()->cellAt(0, 1)->state().selected);
 }
 
 QWidgetList KeyboardTest::reached()

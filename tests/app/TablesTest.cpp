@@ -66,6 +66,7 @@ private Q_SLOTS:
     void gaugeOfAFolder();
     void gaugeFollowsTheKind();
     void gaugeTellsItsLabel();
+    void gaugeKeepsItsWidth();
 
 private:
     void show(const QList<NodeMediaFile> &files);
@@ -561,11 +562,30 @@ void TablesTest::gaugeTellsItsLabel()
     hour.i_Duration_in_Seconds = 3661;
     show({ hour });
     QCOMPARE(label(), u"Space occupied: 1:01:01 of 1:14:00 (82 %)"_s);
+    hour.i_Duration_in_Seconds = 4500;
+    show({ hour });
+    QCOMPARE(label(), u"Space occupied: 1:15:00 of 1:14:00 (101 %), too long by 01:00"_s);
     person::click(m_app->window.get(), "toolbar_btn_Audio_Clear");
     QCOMPARE(label(), u"Space occupied: 00:00 of 1:14:00 (0 %)"_s);
     showTab(2);
-    show({ { u"/a"_s, 1024 * 1024, u"1 GB"_s } });
-    QVERIFY2(label().contains(u"1.0 GB"_s) && label().contains(u"(153 %)"_s), qPrintable(label()));
+    show({ { u"/a"_s, 1024 * 1024 + 1, u"1.00 GB"_s } });
+    QVERIFY2(label().contains(u"1.00 GB"_s) && label().contains(u"(153 %)"_s), qPrintable(label()));
+    // What the button of a kind says that it holds is what the gauge says.
+    const QString capacity = label().section(u" of "_s, 1).section(u' ', 0, 0).section(u'.', 0, 0);
+    QVERIFY(m_app->element<BarButton>("btnDataCD")->toolTip().contains(capacity + u" MB"_s));
+}
+
+void TablesTest::gaugeKeepsItsWidth()
+{
+    const auto *gauge = m_app->element<SpaceOccupiedView>("spaceoccupiedviewControl");
+    const int width = gauge->width();
+    for (const auto &[tab, button] : { std::pair(0, "btnMP3DVD"), { 1, "btnVideoBluray" },
+             { 2, "btnDataBluray" }, { 2, "btnDataCD" }, { 0, "btnMP3CD" } }) {
+        showTab(tab);
+        person::click(m_app->window.get(), button);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        QCOMPARE(gauge->width(), width);
+    }
 }
 
 QTEST_MAIN(TablesTest)

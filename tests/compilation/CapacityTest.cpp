@@ -1,14 +1,20 @@
 #include "compilation/Capacity.h"
 
+#include "compilation/GaugeText.h"
+
 #include <QTest>
 
 #include <limits>
 
+using namespace Qt::StringLiterals;
 using compilation::Page;
 
 class CapacityTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
+    void tellsAmounts_data();
+    void tellsAmounts();
+    void amountsAreToldApart();
     void knowsEachKindOfDisc_data();
     void knowsEachKindOfDisc();
     void computesThePercentage_data();
@@ -110,6 +116,60 @@ void CapacityTest::dividesTheGauge()
     const compilation::GaugeBars bars = compilation::gaugeBars(percent, width);
     QTEST(bars.bar, "bar");
     QTEST(bars.red, "red");
+}
+
+void CapacityTest::tellsAmounts_data()
+{
+    QTest::addColumn<compilation::Page>("page");
+    QTest::addColumn<qint64>("total");
+    QTest::addColumn<qint32>("capacity");
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("text");
+    using compilation::Page;
+    const auto row = [](Page page, qint64 total, qint32 capacity, const char *locale, const char *text) {
+        QTest::addRow("%s", text) << page << total << capacity << QString::fromLatin1(locale)
+                                  << u"Space occupied: "_s + QString::fromUtf8(text);
+    };
+    row(Page::Audio, 0, 4440, "C", "00:00 of 1:14:00 (0 %)");
+    row(Page::Audio, 3996, 4440, "C", "1:06:36 of 1:14:00 (90 %)");
+    row(Page::Audio, 3997, 4440, "C", "1:06:37 of 1:14:00 (90 %), nearly full");
+    row(Page::Audio, 4440, 4440, "C", "1:14:00 of 1:14:00 (100 %), nearly full");
+    row(Page::Audio, 4441, 4440, "C", "1:14:01 of 1:14:00 (100 %), too long by 00:01");
+    row(Page::Video, 18000, 9000, "C", "5:00:00 of 2:30:00 (200 %), too long by 2:30:00");
+    row(Page::Audio, 4500, 4440, "ar_EG", "١:١٥:٠٠ of ١:١٤:٠٠ (١٠١ %), too long by ٠١:٠٠");
+    row(Page::Data, 0, 683593, "C", "0.00 bytes of 667.57 MB (0 %)");
+    row(Page::Data, 300, 683593, "C", "300.00 KB of 667.57 MB (0 %)");
+    row(Page::Data, 19046, 683593, "de_DE", "18,60 MB of 667,57 MB (2 %)");
+    row(Page::Data, 683592, 683593, "C", "683592.00 KB of 683593.00 KB (99 %), nearly full");
+    row(Page::Data, 683593, 683593, "C", "667.57 MB of 667.57 MB (100 %), nearly full");
+    row(Page::Data, 683594, 683593, "C", "683594.00 KB of 683593.00 KB (100 %), too large by 1024.00 bytes");
+    row(Page::Data, 4928000, 4928307, "C", "4812.50 MB of 4812.80 MB (99 %), nearly full");
+    row(Page::Data, 52428800, 26214400, "C", "50.00 GB of 25.00 GB (200 %), too large by 25.00 GB");
+    row(Page::Data, 68359300, 683593, "de_DE", "65,19 GB of 667,57 MB (10.000 %), too large by 64,54 GB");
+}
+
+void CapacityTest::tellsAmounts()
+{
+    QFETCH(compilation::Page, page);
+    QFETCH(qint64, total);
+    QFETCH(qint32, capacity);
+    QFETCH(QString, locale);
+    QTEST(compilation::gaugeText(page, total, capacity, QLocale(locale)), "text");
+}
+
+void CapacityTest::amountsAreToldApart()
+{
+    using namespace compilation;
+    for (const qint32 capacity :
+        { constDataCDSpaceInKBytes, constDataDVDSpaceInKBytes, constDataBRSpaceInKBytes }) {
+        for (qint64 away = 1; away < capacity; away = away * 3 + 1) {
+            for (const qint64 total : { capacity - away, capacity + away }) {
+                const QString text = gaugeText(Page::Data, total, capacity, QLocale::c());
+                const QString one = text.section(u": "_s, 1).section(u" of "_s, 0, 0);
+                QVERIFY2(one != text.section(u" of "_s, 1).section(u" ("_s, 0, 0), qPrintable(text));
+            }
+        }
+    }
 }
 
 QTEST_GUILESS_MAIN(CapacityTest)

@@ -134,6 +134,7 @@ int runBatch(const BatchJob &job)
     MainWindow window;
     Surroundings around = Surroundings::ofThisMachine(&questions);
     around.stagingUntilCopied = true;
+    around.remembersWindow = job.show;
     const auto exitProcess = around.exitProcess;
     int status = notWritten;
     // However it ends, only a job that came to its end is a success.

@@ -2,6 +2,7 @@
 
 #include "app/MainWindow.h"
 #include "app/Preferences.h"
+#include "app/WindowPlace.h"
 #include "compilation/FolderTree.h"
 #include "compilation/ListTableView.h"
 #include "runner/ActivityLog.h"
@@ -124,6 +125,11 @@ void AppDelegate::applicationDidFinishLaunching()
     schedule(timerForceColorsAtStartup, &AppDelegate::TimerForceColorsAtStartupRoutine);
     window->setWindowTitle(u"Corvalis"_s);
     focusList();
+    if (around.remembersWindow) {
+        new WindowPlace(window,
+            { ui->tableviewAudioFiles, ui->tableviewVideoFiles, ui->tableviewDataFolders }, preferences.get(),
+            this);
+    }
     window->show();
     window->raise();
     window->activateWindow();

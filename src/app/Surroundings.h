@@ -17,6 +17,7 @@ struct Surroundings {
     int stagingPoll = 60'000; ///< ms between two measurements of a folder that is being copied
     int copyEndLimit = 10'000; ///< ms that a folder copy has to stop when the disc is written
     bool stagingUntilCopied = false; ///< goes on when a folder is copied, without waiting for the next look
+    bool remembersWindow = true; ///< its size, place and columns; somebody sees it
     Questions *questions = nullptr; ///< answers alerts and panels; not owned
     std::function<void(int)> exitProcess; ///< ends the process at once with this status
 

@@ -40,16 +40,26 @@ static QString nearestFolder(QString path)
     return path;
 }
 
+/// The folder that a choice was made in: the one shown, `shown`, unless a path was typed that leads elsewhere.
+static QString folderOf(const QList<QUrl> &chosen, const QString &shown)
+{
+    const QString path = chosen.isEmpty() ? shown : QDir::cleanPath(chosen.first().toLocalFile());
+    return path == shown ? shown : QFileInfo(path).path();
+}
+
 QList<QUrl> WindowQuestions::choose(const OpenPanel &panel, QWidget *over)
 {
     const QString start = !panel.startFolder.isEmpty() ? panel.startFolder
+        : !panel.places.isEmpty()                      ? panel.places.first().toLocalFile()
         : !m_lastFolder.isEmpty()                      ? m_lastFolder
                                                        : QDir::homePath();
     Window_Open_Panel dialog(panel, nearestFolder(start), over);
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    m_lastFolder = dialog.directory().absolutePath();
-    return usable(dialog.chosen(), panel.extensions, over);
+    const QList<QUrl> chosen = dialog.chosen();
+    if (panel.places.isEmpty()) // a disc is ejected, and its folder goes with it
+        m_lastFolder = folderOf(chosen, dialog.directory().absolutePath());
+    return usable(chosen, panel.extensions, over);
 }
 
 QList<QUrl> WindowQuestions::usable(QList<QUrl> chosen, const QStringList &extensions, QWidget *over)

@@ -32,6 +32,8 @@ struct OpenPanel {
     QStringList extensions; ///< accepted ones, in any case; none: every file
     QString message; ///< what the person is asked for
     QString startFolder; ///< where the panel opens; empty: where the last one was
+    QList<QUrl>
+        places; ///< folders that the panel offers at its side; without a start folder it opens in the first
 };
 
 /// Called on the GUI thread only.

@@ -1,5 +1,6 @@
 #include "app/Window_Open_Panel.h"
 
+#include "app/NaturalOrder.h"
 #include "compilation/FolderNames.h"
 
 #include <QApplication>
@@ -7,12 +8,15 @@
 #include <QFileInfo>
 #include <QFileSystemModel>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTreeView>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -48,6 +52,9 @@ Window_Open_Panel::Window_Open_Panel(const OpenPanel &panel, const QString &star
     : QFileDialog(over, panel.message, start)
 {
     setUp(panel);
+    sortNaturally();
+    makeRoom();
+    offerPlaces(panel.places);
     keepMarksExact();
     tellWhatIsHidden(panel);
 }
@@ -67,6 +74,34 @@ void Window_Open_Panel::setUp(const OpenPanel &panel)
         setNameFilter(nameFilter(panel.extensions));
         setOption(HideNameFilterDetails);
     }
+}
+
+// A desktop's own dialog sorts for itself, and takes no notice.
+void Window_Open_Panel::sortNaturally()
+{
+    setProxyModel(new NaturalOrder(this));
+    if (auto *const list = findChild<QTreeView *>(u"treeView"_s))
+        list->sortByColumn(0, Qt::AscendingOrder);
+}
+
+/// For the places at the side, names of some length, and whole sizes, kinds and dates beside them.
+void Window_Open_Panel::makeRoom()
+{
+    auto *const list = findChild<QTreeView *>(u"treeView"_s);
+    if (!list)
+        return;
+    const int unit = fontMetrics().averageCharWidth();
+    const QSize room = screen()->availableSize() * 9 / 10;
+    resize(QSize(unit * 140, fontMetrics().height() * 38).expandedTo(sizeHint()).boundedTo(room));
+    constexpr std::array widths{ 48, 14, 18, 24 }; // name, size, kind, date; in characters
+    for (std::size_t column = 0; column < widths.size(); ++column)
+        list->header()->resizeSection(static_cast<int>(column), unit * widths[column]);
+}
+
+void Window_Open_Panel::offerPlaces(const QList<QUrl> &places)
+{
+    if (!places.isEmpty())
+        setSidebarUrls(places + sidebarUrls());
 }
 
 // The dialog writes what is marked into its name field, takes the field's text apart at the quotes, and

@@ -23,6 +23,9 @@ protected:
 
 private:
     void setUp(const OpenPanel &panel);
+    void sortNaturally();
+    void makeRoom();
+    void offerPlaces(const QList<QUrl> &places);
     void keepMarksExact();
     void tellWhatIsHidden(const OpenPanel &panel);
     QString typedName() const;

@@ -1,6 +1,5 @@
 #include "compilation/Sorting.h"
 
-#include <QCollator>
 #include <QLocale>
 
 #include <algorithm>
@@ -11,7 +10,6 @@
 #include <vector>
 
 namespace compilation {
-namespace {
 
 QCollator fileBrowserCollator()
 {
@@ -23,6 +21,8 @@ QCollator fileBrowserCollator()
     collator.setIgnorePunctuation(false);
     return collator;
 }
+
+namespace {
 
 using Keys = std::vector<QCollatorSortKey>;
 

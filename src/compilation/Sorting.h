@@ -1,12 +1,16 @@
 // The order in which a file browser lists names: by locale, without regard to case, digit runs by value.
 #pragma once
 
+#include <QCollator>
 #include <QList>
 #include <QStringList>
 
 #include <utility>
 
 namespace compilation {
+
+/// Compares names in that order.
+QCollator fileBrowserCollator();
 
 /// The order of the positions of `texts` that sorts them, equal ones in their present order.
 /// Descending compares the second with the first.

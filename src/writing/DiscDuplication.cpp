@@ -1,6 +1,7 @@
 // Copying a disc with one drive: an image of the mounted disc, the eject, a blank, the image onto it.
 #include "app/MainWindow.h"
 #include "drives/MediaStatus.h"
+#include "drives/MountedDiscs.h"
 #include "writing/DiscForms.h"
 #include "writing/Job.h"
 
@@ -19,6 +20,7 @@ void AppDelegate::DuplicateMedia()
     OpenPanel panel;
     panel.choose = OpenPanel::Choose::Folder;
     panel.message = u"Select a volume to duplicate."_s;
+    panel.places = drives::mountedDiscs();
     const QList<QUrl> chosen = around.questions->choose(panel, window);
     if (chosen.isEmpty())
         return;

@@ -15,6 +15,7 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QTest>
 
 #include <algorithm>
@@ -82,6 +83,10 @@ private Q_SLOTS:
     void namesTypedWithQuotes();
     void quotesPartSeveralTypedNames();
     void manyMarkedFiles();
+    void panelSortsAsTheListsDo();
+    void panelIsLargeEnough();
+    void panelRemembersATypedPath();
+    void panelOffersPlaces();
     void panelCancelled_data();
     void panelCancelled();
     void recordsOfAddedFiles();
@@ -350,6 +355,110 @@ void ListsTest::manyMarkedFiles()
     QVERIFY(dialog.happened());
     QVERIFY(awaitAdded());
     QCOMPARE(audio()->model()->rowCount(), count);
+}
+
+// The tests' locale is one in which a file system's model does not know of numbers.
+void ListsTest::panelSortsAsTheListsDo()
+{
+    for (const auto &[name, size] : { std::pair(u"Track 10.mp3"_s, 5), { u"track 2.mp3"_s, 3000 },
+             { u"Track 1.mp3"_s, 200 }, { u"zoo/x.mp3"_s, 1 }, { u"Alps/x.mp3"_s, 1 } })
+        makeFile(media(name), QByteArray(size, 'x'));
+    const QStringList files{ u"Track 1.mp3"_s, u"track 2.mp3"_s, u"Track 10.mp3"_s };
+    const auto reversed = [](QStringList names) {
+        std::ranges::reverse(names);
+        return names;
+    };
+    QList<QStringList> shown;
+    person::Expect<QFileDialog> dialog([&](QFileDialog *panel) {
+        person::shownFiles(panel, m_media->path(), u"track 2.mp3"_s);
+        auto *list = panel->findChild<QTreeView *>(u"treeView"_s);
+        for (const auto &[column, order] :
+            { std::pair(0, Qt::AscendingOrder), { 0, Qt::DescendingOrder }, { 1, Qt::AscendingOrder } }) {
+            list->sortByColumn(column, order);
+            shown.append(person::shownFiles(panel, m_media->path(), u"track 2.mp3"_s));
+        }
+        panel->reject();
+    });
+    click("toolbar_btn_Audio_Add_Files");
+    QVERIFY(dialog.happened());
+    const QStringList folders{ u"Alps"_s, u"zoo"_s };
+    QCOMPARE(shown.at(0), folders + files);
+    QCOMPARE(shown.at(1), reversed(folders) + reversed(files));
+    QCOMPARE(shown.at(2).last(3), QStringList({ u"Track 10.mp3"_s, u"Track 1.mp3"_s, u"track 2.mp3"_s }));
+}
+
+void ListsTest::panelIsLargeEnough()
+{
+    makeFile(media(u"A name that is long, as the names of songs often are.mp3"_s));
+    person::Expect<QFileDialog> dialog([&](QFileDialog *panel) {
+        person::shownFiles(
+            panel, m_media->path(), u"A name that is long, as the names of songs often are.mp3"_s);
+        const auto *list = panel->findChild<QTreeView *>(u"treeView"_s);
+        const QSize room = panel->screen()->availableSize();
+        QVERIFY(panel->width() > room.width() / 2 && panel->width() <= room.width());
+        QVERIFY(panel->height() > room.height() / 2 && panel->height() <= room.height());
+        const QModelIndex file = list->model()->index(0, 0, list->rootIndex());
+        for (int column = 1; column < 4; ++column) {
+            const QString text = file.siblingAtColumn(column).data().toString();
+            QVERIFY2(
+                list->columnWidth(column) >= list->fontMetrics().horizontalAdvance(text), qPrintable(text));
+        }
+        panel->reject();
+    });
+    click("toolbar_btn_Audio_Add_Files");
+    QVERIFY(dialog.happened());
+}
+
+void ListsTest::panelRemembersATypedPath()
+{
+    makeFile(media(u"far/away/a.mp3"_s));
+    makeFile(media(u"far/away/b.mp3"_s));
+    QString second;
+    {
+        person::Expect<QFileDialog> dialog([&](QFileDialog *panel) {
+            person::pastePath(panel, media(u"far/away/a.mp3"_s));
+            person::pressTitled(panel, u"Open"_s);
+        });
+        click("toolbar_btn_Audio_Add_Files");
+        QVERIFY(dialog.happened());
+        QVERIFY(awaitAdded());
+    }
+    {
+        person::Expect<QFileDialog> dialog([&](QFileDialog *panel) {
+            second = panel->directory().absolutePath();
+            person::markFolder(panel, media(u"far/away"_s));
+        });
+        click("toolbar_btn_Audio_Add_Folder");
+        QVERIFY(dialog.happened());
+        QVERIFY(awaitAdded());
+    }
+    QCOMPARE(second, media(u"far/away"_s));
+    QCOMPARE(column(audio(), 0).size(), 3);
+    person::Expect<QFileDialog> dialog([&](QFileDialog *panel) {
+        second = panel->directory().absolutePath();
+        panel->reject();
+    });
+    click("toolbar_btn_Audio_Add_Folder");
+    QVERIFY(dialog.happened());
+    QCOMPARE(second, media(u"far"_s)); // where the folder was marked
+}
+
+void ListsTest::panelOffersPlaces()
+{
+    for (const auto &name : { u"DISC_1"_s, u"DISC_2"_s })
+        QDir().mkpath(media(name));
+    OpenPanel panel;
+    panel.choose = OpenPanel::Choose::Folder;
+    panel.places = { QUrl::fromLocalFile(media(u"DISC_1"_s)), QUrl::fromLocalFile(media(u"DISC_2"_s)) };
+    QList<QUrl> offered;
+    person::Expect<QFileDialog> dialog([&](QFileDialog *shown) {
+        offered = shown->sidebarUrls();
+        person::pressTitled(shown, u"Choose"_s);
+    });
+    QCOMPARE(m_app->dialogs.choose(panel, m_app->window.get()), panel.places.first(1));
+    QVERIFY(dialog.happened());
+    QCOMPARE(offered.first(2), panel.places);
+    QVERIFY(offered.size() > 2);
 }
 
 void ListsTest::panelCancelled_data()

@@ -95,8 +95,14 @@ QVariant ListTableModel::mark(int row, int column, int role) const
     if (role == Qt::AccessibleTextRole)
         return tr("not measured");
     const QColor colour = m_controller->cellTextColour();
-    return symbolIcon(
-        u"warning"_s, colour.isValid() ? colour : QGuiApplication::palette().color(QPalette::Text));
+    const QPalette palette = QGuiApplication::palette();
+    constexpr int side = 64; // drawn smaller
+    QIcon mark;
+    mark.addPixmap(
+        symbolIcon(u"warning"_s, colour.isValid() ? colour : palette.color(QPalette::Text)).pixmap(side));
+    mark.addPixmap(
+        symbolIcon(u"warning"_s, palette.color(QPalette::HighlightedText)).pixmap(side), QIcon::Selected);
+    return mark;
 }
 
 bool ListTableModel::isNumber(int column) const

@@ -133,6 +133,7 @@ void BatchRun::add()
 
 void BatchRun::burn()
 {
+    m_questions->forgetAlerts(); // of the adding; the list is as it could be made
     m_controller->ui->btnBurn->click();
     if (m_questions->alerted())
         end(1);

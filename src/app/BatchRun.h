@@ -32,6 +32,8 @@ public:
     QList<QUrl> choose(const OpenPanel &panel, QWidget *over) override;
 
     bool alerted() const { return m_alerted; }
+    /// What was told so far does not end the run.
+    void forgetAlerts() { m_alerted = false; }
     /// What is done before an alert's texts are printed.
     void setBeforeAlert(std::function<void()> act) { m_beforeAlert = std::move(act); }
     void answerNextPanelWith(const QList<QUrl> &urls) { m_answer = urls; }

@@ -54,7 +54,12 @@ BatchRun::BatchRun(
     , m_questions(questions)
     , m_finish(std::move(finish))
 {
-    m_questions->setBeforeAlert([this] { endLine(); });
+    m_questions->setBeforeAlert([this] {
+        show();
+        endLine();
+    });
+    m_look.setInterval(200);
+    connect(&m_look, &QTimer::timeout, this, &BatchRun::show);
 }
 
 QString BatchRun::meantPath(const QString &argument)
@@ -94,12 +99,17 @@ void BatchRun::start()
 {
     connect(m_controller, &AppDelegate::operationCompleted, this, &BatchRun::completed, Qt::QueuedConnection);
     connect(m_controller, &AppDelegate::addingEnded, this, &BatchRun::burn, Qt::QueuedConnection);
-    connect(m_controller, &AppDelegate::addingProgressed, this, &BatchRun::showAdding);
+    connect(m_controller, &AppDelegate::addingProgressed, this, [this](qsizetype done, qsizetype count) {
+        m_show = [this, done, count] { showAdding(done, count); };
+    });
     connect(m_controller, &AppDelegate::jobBegan, this, [this](writing::Job *job) {
-        connect(job, &writing::Job::progressed, this, &BatchRun::showProgress);
+        connect(job, &writing::Job::progressed, this, [this](const writing::Progress &progress) {
+            m_show = [this, progress] { showProgress(progress); };
+        });
         connect(job, &writing::Job::ended, this,
             [this](const writing::Outcome &outcome) { m_outcome = outcome; });
     });
+    m_look.start();
     chooseType();
     add();
 }
@@ -147,8 +157,16 @@ bool BatchRun::stop()
     return true;
 }
 
+void BatchRun::show()
+{
+    if (const auto print = std::exchange(m_show, {}))
+        print();
+}
+
 void BatchRun::completed()
 {
+    m_look.stop();
+    show();
     printLine(Stage::Done, m_outcome.heading);
     endLine();
     constexpr qsizetype all = std::numeric_limits<qsizetype>::max();

@@ -6,6 +6,7 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QTimer>
 
 #include <functional>
 
@@ -75,6 +76,7 @@ private:
     void showAdding(qsizetype done, qsizetype count);
     void showProgress(const writing::Progress &progress);
     enum class Stage { None, Adding, Converting, Gathering, Writing, Done };
+    void show(); ///< prints what was told last, if it has not been printed
     void printLine(Stage stage, const QString &line);
     void endLine();
     void end(int status);
@@ -84,6 +86,8 @@ private:
     BatchQuestions *const m_questions;
     const std::function<void(int)> m_finish;
     writing::Outcome m_outcome;
+    QTimer m_look; ///< a few times a second: a tool may tell more than a terminal can show
+    std::function<void()> m_show; ///< prints what was told last; empty when it has been printed
     Stage m_stage = Stage::None;
     QString m_lastLine;
     bool m_newTenth = false; ///< the line at hand tells of another tenth of the writing than the last one

@@ -224,6 +224,7 @@ void AppDelegate::measureMediaFiles(ListKind kind, const QList<QUrl> &urls, int 
     const auto measuring = std::make_shared<Measuring>(urls, before);
     connect(windowUniqueProgress, &WorkSheet::stopRequested, this, [measuring] { measuring->stop = true; });
     windowUniqueProgress->beginSheet();
+    Q_EMIT addingProgressed(0, urls.size());
     // The task only measures. The records travel to the GUI thread one by one and go onto the list
     // together, so the list is never touched from two threads.
     QThreadPool::globalInstance()->start([this, kind, measuring] {

@@ -265,7 +265,7 @@ private Q_SLOTS:
         QVERIFY(app.completes());
         QCOMPARE(app.hdiutil.runs(u"burn"_s).size(), 1);
         QCOMPARE(app.drutil.runs(u"tray"_s).size(), 1);
-        QCOMPARE(app.trouble(), u"hdiutil: The disc cannot be read.\nhdiutil: The disc cannot be read."_s);
+        QCOMPARE(app.trouble(), u"The disc cannot be read."_s);
         QCOMPARE(app.namesIn(app.controller->s_Data_Folder), QStringList());
     }
 

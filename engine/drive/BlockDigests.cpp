@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
+#include <new>
 #include <sys/mman.h>
 #include <unistd.h>
 #include <xxhash.h>
@@ -15,7 +16,7 @@ namespace engine::drive {
 
 namespace {
 
-constexpr std::size_t readBlocks = 32; // 64 KiB at a time
+constexpr std::size_t readBlocks = 256; // half a MiB at a time, a second of the slowest CD
 
 constexpr std::size_t mostRecent = 8 * 1024; // digests in memory: 32 KiB, for 16 MiB of the disc
 
@@ -30,6 +31,26 @@ Error badBlock(std::uint64_t block, bool readable, const std::string &driveName)
         "The disc in " + driveName + " does not hold what was sent: block " + std::to_string(block)
             + (readable ? " differs" : " cannot be read") + "; write another disc." };
 }
+
+/// Memory that begins with a page, so that the kernel can have a drive write right into it.
+class PageBuffer {
+public:
+    explicit PageBuffer(std::size_t size)
+        : m_bytes(static_cast<std::byte *>(::operator new(size, page)))
+        , m_size(size)
+    {
+    }
+    ~PageBuffer() { ::operator delete(m_bytes, page); }
+    PageBuffer(const PageBuffer &) = delete;
+    PageBuffer &operator=(const PageBuffer &) = delete;
+
+    std::span<std::byte> bytes() const { return { m_bytes, m_size }; }
+
+private:
+    static constexpr std::align_val_t page{ 4096 };
+    std::byte *m_bytes;
+    std::size_t m_size;
+};
 
 /// A file without a name that has room for `bytes`.
 Fd roomFor(std::uint64_t bytes)
@@ -121,7 +142,7 @@ Error stoppedUncompared(int signal, const std::string &driveName)
 Result<void> verify(
     Lease &lease, const BlockDigests &sent, const std::string &driveName, const Control &control)
 {
-    std::vector<std::byte> buffer(readBlocks * blockBytes);
+    const PageBuffer buffer(readBlocks * blockBytes);
     Progress progress;
     progress.phase = Phase::verifying;
     progress.total = sent.blocks();
@@ -131,7 +152,7 @@ Result<void> verify(
         progress.done = block;
         control.report(progress, blockBytes);
         const auto count = std::min<std::uint64_t>(readBlocks, sent.blocks() - block);
-        const std::span<std::byte> part(buffer.data(), count * blockBytes);
+        const std::span<std::byte> part = buffer.bytes().first(count * blockBytes);
         const Result<std::size_t> got = lease.read(block, part);
         if (!got)
             return got.error();

@@ -2,6 +2,7 @@
 
 #include "audio/AudioDisc.h"
 #include "audio/TrackStream.h"
+#include "drive/BlockReader.h"
 #include "drive/DeviceNode.h"
 #include "drive/LibburnDrive.h"
 #include "drive/Mounts.h"
@@ -45,10 +46,7 @@ public:
         const audio::AudioDisc &disc, const Pace &pace, const Control &control) override;
     Result<DiscTracks> tracks() override { return readTracks(*m_drive); }
     Result<void> reload() override;
-    Result<std::size_t> read(std::uint64_t block, std::span<std::byte> buffer) override
-    {
-        return m_drive->read(block, buffer);
-    }
+    Result<std::size_t> read(std::uint64_t block, std::span<std::byte> buffer) override;
     void present() override;
 
 private:
@@ -61,6 +59,7 @@ private:
 
     std::unique_ptr<LibburnDrive> m_drive;
     std::string m_device;
+    std::optional<BlockReader> m_reader; ///< from the first read on
     Stop m_stop; ///< ends a wait for the medium
     std::string m_name;
 };
@@ -165,8 +164,18 @@ Result<AudioWritten> PhysicalLease::writeAudio(
     return AudioWritten{ !job.text.empty() || disc.text.empty() };
 }
 
+Result<std::size_t> PhysicalLease::read(std::uint64_t block, std::span<std::byte> buffer)
+{
+    if (!m_reader)
+        m_reader = BlockReader::open(m_device);
+    if (m_reader && m_reader->read(block, buffer))
+        return buffer.size();
+    return m_drive->read(block, buffer);
+}
+
 Result<void> PhysicalLease::reload()
 {
+    m_reader.reset();
     m_drive->release(LibburnDrive::Leave::unlocked);
     m_drive.reset();
     auto drive = LibburnDrive::grab(m_device, m_name, true, true);
@@ -180,6 +189,7 @@ void PhysicalLease::present()
 {
     // The kernel keeps the old size and content until the medium is loaded anew. A drive that cannot pull its
     // tray in by itself leaves it open with the finished disc.
+    m_reader.reset();
     if (!m_drive)
         return;
     m_drive->release(LibburnDrive::Leave::open);

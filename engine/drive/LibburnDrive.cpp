@@ -277,7 +277,6 @@ LibburnDrive::Outcome LibburnDrive::wait(Stop stop, const Task &task, const Cont
             const Phase told = phaseOf(status, task.phase);
             if (told == task.phase)
                 count.update(p);
-            outcome.sectors = count.done();
             phase = nextPhase(phase, told, count);
             control.report(progressOf(p, count, phase, task.family, phase == task.phase), task.unitBytes);
         }

@@ -69,7 +69,6 @@ public:
         int signal = 0; ///< the stop signal that came; it has ended the write unless that is well
         bool sourceFailed = false;
         bool gone = false; ///< the drive has left the machine; set by whoever knows its device
-        std::uint64_t sectors = 0; ///< how far the drive was seen
         LibburnMessage message; ///< the gravest message of a failure
     };
 

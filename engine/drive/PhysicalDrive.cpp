@@ -23,8 +23,9 @@ using namespace burn;
 
 namespace {
 
-/// A write may be tried in another way as long as the drive took no more than this of it.
-constexpr std::uint64_t harmlessSectors = 512;
+/// A write may be tried in another way as long as no more than this of it was on its way to the drive. How far the drive
+/// was seen tells less: a fast one is far ahead of that, and another disc may be in it by then.
+constexpr std::uint64_t harmlessBytes = 512 * blockBytes;
 constexpr std::uint64_t headBlocks =
     512; ///< what a quick erase overwrites: all volume descriptors and UDF anchors
 
@@ -55,7 +56,7 @@ private:
     Result<void> blank(bool fast, const Control &control);
     Result<void> overwrite(std::uint64_t blocks, const Medium &medium, const Control &control);
     Result<void> formatIfNeeded(const Control &control);
-    bool untouched(const LibburnDrive::Outcome &outcome, const Medium &before);
+    bool untouched(const LibburnDrive::Outcome &outcome, const Supply &supply, const Medium &before);
 
     std::unique_ptr<LibburnDrive> m_drive;
     std::string m_device;
@@ -75,9 +76,10 @@ struct PhysicalLease::Job {
 };
 
 /// True when another attempt can start as if the failed one had not been.
-bool PhysicalLease::untouched(const LibburnDrive::Outcome &outcome, const Medium &before)
+bool PhysicalLease::untouched(
+    const LibburnDrive::Outcome &outcome, const Supply &supply, const Medium &before)
 {
-    if (outcome.signal != 0 || outcome.sourceFailed || outcome.sectors > harmlessSectors)
+    if (outcome.signal != 0 || outcome.sourceFailed || supply.bytes() > harmlessBytes)
         return false;
     if (!reload())
         return false;
@@ -106,7 +108,7 @@ Result<void> PhysicalLease::write(Job &job, const Medium &medium, const Control 
         if (outcome.well)
             return {};
         outcome.gone = outcome.signal == 0 && !outcome.sourceFailed && isGone(m_device);
-        const bool again = !outcome.gone && untouched(outcome, medium);
+        const bool again = !outcome.gone && untouched(outcome, *job.supply, medium);
         const auto next = nextAttempt(attempt, outcome.message, job.audio, medium.speeds);
         if (!again || !next)
             return writeFailure(outcome, job.supply->outcome(), m_name, leftOf(medium, !again));

@@ -56,8 +56,8 @@ private Q_SLOTS:
         QFETCH(double, factor);
         QFETCH(bool, cd);
         QFETCH(int, speed);
-        Session session({ cd ? int(cdR) : int(dvdR) },
-            cd ? QList<int>{ 706, 1411 } : QList<int>{ 2770, 5540, 11080 });
+        Session session(
+            { cd ? int(cdR) : int(dvdR) }, cd ? QList<int>{ 706, 1411 } : QList<int>{ 2770, 5540, 11080 });
         QList<int> told;
         session.options.pace = { factor > 0 ? engine::SpeedWish(factor) : engine::SpeedWish(),
             [&](int begun, engine::Family) { told.append(begun); } };
@@ -268,6 +268,121 @@ private Q_SLOTS:
         QCOMPARE(int(done.error().exit), 130);
         QVERIFY(!session.lines.contains(u"Preparing"_s)); // the wait comes before that
         QVERIFY(!session.drive.trayLocked);
+    }
+
+    void aDiscThatIsSlowToGetReadyIsWaitedFor()
+    {
+        Session session({ dvdPlusR });
+        int asked = 0;
+        session.drive.refuse = [&](const Command &command) -> std::optional<Sense> {
+            const bool turning =
+                (command.opcode() == testUnitReady || command.opcode() == readDiscInformation)
+                && ++asked <= 12;
+            return turning ? std::optional(Sense{ 2, 0x04, 0x01 }) : std::nullopt; // becoming ready
+        };
+        QCOMPARE(sentence(session.burn()), QString());
+        QVERIFY(asked > 12);
+        QVERIFY(session.drive.content(0).contains(session.bigFile()));
+    }
+
+    // The button was pressed, and another disc is in; what was announced is gone.
+    void anotherDiscBetweenTwoCommandsEndsTheWrite()
+    {
+        Session session({ dvdPlusR });
+        session.drive.refuse = [&, changed = false](const Command &command) mutable -> std::optional<Sense> {
+            if (!changed && isWrite(command) && command.number(2, 4) == 640) {
+                changed = true;
+                session.drive.exchange({ dvdPlusR });
+                return Sense{ 6, 0x28, 0x00 };
+            }
+            return {};
+        };
+        const QString said = sentence(session.burn(700));
+        QVERIFY2(said.startsWith(u"The write to drive 1 failed ("_s), qPrintable(said));
+        QVERIFY2(said.contains(u"[6 28 00]"_s) || said.contains(u"[5 21 02]"_s), qPrintable(said));
+        QVERIFY2(said.endsWith(u"The disc in drive 1 is spoilt."_s), qPrintable(said));
+        QVERIFY(!session.drive.trayLocked);
+    }
+
+    void whatTheDriveCachesReachesTheDisc_data()
+    {
+        QTest::addColumn<int>("profile");
+        for (const auto &[name, profile] : { std::pair{ "CD-R", cdR }, { "DVD-R", dvdR },
+                 { "DVD-RW", dvdRwSequential }, { "DVD+R", dvdPlusR }, { "DVD+RW", dvdPlusRw },
+                 { "DVD-RAM", dvdRam }, { "BD-R", bdR }, { "BD-RE", bdRe } })
+            QTest::newRow(name) << int(profile);
+    }
+
+    void whatTheDriveCachesReachesTheDisc()
+    {
+        QFETCH(int, profile);
+        Session session({ profile });
+        session.drive.caches = true;
+        QCOMPARE(sentence(session.burn(300)), QString());
+        QVERIFY(session.drive.content(0).contains(session.bigFile()));
+    }
+
+    void aCacheThatCannotBeFlushedIsTold()
+    {
+        Session session({ dvdR });
+        session.drive.caches = true;
+        session.drive.refuse = [](const Command &command) -> std::optional<Sense> {
+            return command.opcode() == synchronizeCache ? std::optional(writeError) : std::nullopt;
+        };
+        const QString said = sentence(session.burn(300));
+        QVERIFY2(said.startsWith(u"The write to drive 1 failed (Failed to synchronize drive cache. "_s),
+            qPrintable(said));
+        QVERIFY(!session.drive.trayLocked);
+    }
+
+    // The drive had said that all is well when it took the blocks.
+    void anErrorThatComesLateIsTold()
+    {
+        Session session({ dvdPlusR });
+        session.drive.refuse = [](const Command &command) -> std::optional<Sense> {
+            return isWrite(command) && command.number(2, 4) >= 640
+                ? std::optional(Sense{ 3, 0x0c, 0x00, true })
+                : std::nullopt;
+        };
+        const QString said = sentence(session.burn(700));
+        QVERIFY2(said.startsWith(u"The write to drive 1 failed ("_s), qPrintable(said));
+        QVERIFY2(said.contains(u"[3 0C 00]"_s), qPrintable(said));
+        QVERIFY2(said.endsWith(u"The disc in drive 1 is spoilt."_s), qPrintable(said));
+    }
+
+    void aDriveThatPromisesMoreRoomThanThereIs()
+    {
+        for (const int profile : { cdR, dvdR, dvdPlusR, bdR }) {
+            Session session({ profile });
+            session.drive.promised = 1000;
+            const QString said = sentence(session.burn(1500));
+            QVERIFY2(said.startsWith(u"The write to drive 1 failed ("_s), qPrintable(said));
+            QVERIFY2(said.endsWith(u"The disc in drive 1 is spoilt."_s), qPrintable(said));
+            QVERIFY(!session.drive.trayLocked);
+        }
+    }
+
+    void theDiscIsReadBackInLargePieces()
+    {
+        Session session({ dvdR });
+        int pieces = 0, large = 0;
+        bool largeOnes = true;
+        session.drive.refuse = [&](const Command &command) -> std::optional<Sense> {
+            if (command.opcode() != read10 || command.number(7, 2) == 1)
+                return {};
+            ++pieces;
+            const bool isLarge = command.number(7, 2) > 32;
+            large += int(isLarge);
+            return isLarge && !largeOnes ? std::optional(Sense{ 5, 0x24, 0x00 }) : std::nullopt;
+        };
+        QCOMPARE(sentence(session.burn(700)), QString());
+        QVERIFY2(large >= 3 && pieces < 10, QByteArray::number(pieces).constData());
+
+        // A drive that does not take such reads is read as libburn reads.
+        Session other({ dvdR });
+        largeOnes = false;
+        other.drive.refuse = session.drive.refuse;
+        QCOMPARE(sentence(other.burn(700)), QString());
     }
 
     void theCableIsPulled()

@@ -7,6 +7,7 @@
 #include <cstdarg>
 #include <cstring>
 #include <linux/cdrom.h>
+#include <linux/fs.h>
 #include <sched.h>
 #include <scsi/scsi.h>
 #include <scsi/sg.h>
@@ -148,6 +149,13 @@ bool Drive::isOpenAs(int fd) const
     return ::fstat(fd, &opened) == 0 && opened.st_dev == m_node.st_dev && opened.st_ino == m_node.st_ino;
 }
 
+void Drive::exchange(Disc other)
+{
+    disc = std::move(other);
+    m_next = m_reserved = 0;
+    m_cache.clear();
+}
+
 void Drive::unplug()
 {
     m_unplugged = true;
@@ -213,7 +221,7 @@ int Drive::transfer(void *header)
     io.sb_len_wr = 0;
     if (said.sense && io.sbp && io.mx_sb_len >= 18) { // fixed format, SPC-4 4.5.3
         std::memset(io.sbp, 0, io.mx_sb_len);
-        io.sbp[0] = 0x70;
+        io.sbp[0] = said.sense->deferred ? 0x71 : 0x70;
         io.sbp[2] = quint8(said.sense->key);
         io.sbp[7] = 10;
         io.sbp[12] = quint8(said.sense->asc);
@@ -346,7 +354,7 @@ Drive::Answer Drive::tellTrack(const Command &command)
         data[7] = 1;
         data.replace(8, 4, big(quint32(second ? end() : 0), 4));
         data.replace(12, 4, big(quint32(end()), 4));
-        data.replace(16, 4, big(quint32(disc.capacity - end()), 4));
+        data.replace(16, 4, big(quint32(disc.capacity + promised - end()), 4));
     }
     data.replace(24, 4, big(quint32(open ? disc.capacity - end() : end()), 4));
     return { data, {} };
@@ -450,6 +458,8 @@ Drive::Answer Drive::moveTray(const Command &command)
         return { {}, locked };
     if (motion >= 2)
         trayOpen = motion == 2;
+    if (trayOpen)
+        m_cache.clear();
     return {};
 }
 
@@ -503,13 +513,14 @@ Drive::Answer Drive::write(const Command &command)
         return { {}, wrongAddress };
     if (address < -150)
         return writeLeadIn(command, count);
-    const qint32 limit = m_reserved > 0 ? m_reserved : disc.capacity;
+    const qint32 limit = m_reserved > 0 ? std::min(m_reserved, disc.capacity) : disc.capacity;
     if (address + count > limit)
         return { {}, outOfRange };
     if (m_typeAtWrite < 0)
         m_typeAtWrite = m_mode;
     for (qint32 i = 0; i < count; ++i)
-        disc.blocks[address + i] = command.data.mid(qsizetype(i) * m_blockSize, m_blockSize);
+        (caches ? m_cache : disc.blocks)[address + i] =
+            command.data.mid(qsizetype(i) * m_blockSize, m_blockSize);
     m_next = address + count;
     if (!overwritable())
         disc.state = State::appendable;
@@ -543,6 +554,8 @@ Drive::Answer Drive::writeLeadIn(const Command &command, qint32 count)
 
 Drive::Answer Drive::flush(const Command &)
 {
+    disc.blocks.insert(m_cache);
+    m_cache.clear();
     // A session at once closes itself behind its last block.
     if (m_reserved > 0 && m_next >= m_reserved && disc.profile != dvdPlusR && disc.profile != bdR)
         disc.state = State::complete;
@@ -612,6 +625,9 @@ int requestOf(unsigned long request, void *argument)
     switch (request) {
     case CDROM_DRIVE_STATUS:
         return current->trayOpen ? CDS_TRAY_OPEN : current->disc.profile == none ? CDS_NO_DISC : CDS_DISC_OK;
+    case BLKSECTGET: // as much as a drive on SATA
+        *static_cast<unsigned short *>(argument) = 2560;
+        return 0;
     case SCSI_IOCTL_GET_IDLUN:
         std::memset(argument, 0, 8);
         return 0;

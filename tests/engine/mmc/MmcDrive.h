@@ -56,6 +56,7 @@ struct Sense {
     int key = 0;
     int asc = 0;
     int ascq = 0;
+    bool deferred = false; ///< the error of an earlier command (SPC-4 4.5.5)
 };
 
 /// One command as it came.
@@ -111,12 +112,16 @@ public:
 
     /// Asked before each command; what it returns is the answer. It may change the disc.
     std::function<std::optional<Sense>(const Command &)> refuse;
+    /// A hand puts another disc in. The drive forgets what was announced for the one before.
+    void exchange(Disc other);
     /// The cable is out: the node is gone and every command fails with ENODEV.
     void unplug();
 
     Disc disc;
     QList<int> speeds; ///< what it writes with, ascending, in 1000 bytes a second
     qint32 spares = 0; ///< blocks that FORMAT UNIT takes off a BD-RE
+    qint32 promised = 0; ///< blocks that the drive says are free beyond those there are
+    bool caches = false; ///< what is written is on the disc only after SYNCHRONIZE CACHE
     bool trayOpen = false;
     bool trayLocked = false;
     int writeSpeed = 0; ///< the last that was asked for
@@ -187,6 +192,7 @@ private:
     qint32 m_next = 0; ///< next writable address
     qint32 m_reserved = 0; ///< end of the session at once
     int m_blockSize = 2048;
+    QMap<qint32, QByteArray> m_cache; ///< blocks that are not on the disc yet
     QByteArray m_subcode; ///< of the lead-in as it comes, six bits a byte
 };
 

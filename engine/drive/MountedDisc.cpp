@@ -24,7 +24,7 @@ constexpr unsigned opticalMajor = 11; // SCSI CD-ROM devices (Linux, devices.txt
 // Drives take this as the slowest that they know for the disc.
 constexpr int slowest = 1;
 
-/// Whether the films of a DVD are scrambled: copyright protection system 1 (MMC-6 6.22.3.2.3).
+/// Whether the films of a DVD are scrambled: READ DISC STRUCTURE, format 01h (MMC-6 6.22).
 bool isScrambled(int file)
 {
     constexpr unsigned contentScrambling = 1;

@@ -111,8 +111,7 @@ private Q_SLOTS:
         QVERIFY(ran.out.contains(u"makehybrid -o IMAGE SOURCE -iso -joliet"));
         QCOMPARE(runProgram(program(), { u"help"_s }).out, ran.out);
         const Ran verb = runProgram(program(), { u"burn"_s, u"--help"_s });
-        QVERIFY2(
-            verb.exit == 0 && verb.out.startsWith(u"Usage: hdiutil burn IMAGE\n"_s), qPrintable(verb.out));
+        QVERIFY2(verb.exit == 0 && verb.out.startsWith(u"Usage: hdiutil burn "_s), qPrintable(verb.out));
         QCOMPARE(runProgram(program(), { u"--version"_s }).exit, 0);
     }
 

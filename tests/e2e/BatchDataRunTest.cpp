@@ -1,4 +1,4 @@
-// A data disc by the unattended form. It takes the minute that a folder's copy is waited for at least.
+// A data disc by the unattended form.
 #include "support/WholeMachine.h"
 
 #include <csignal>
@@ -78,14 +78,13 @@ private Q_SLOTS:
         QCOMPARE(QDir(run.dataFolder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
     }
 
-    void aRunThatIsEndedIsClearedAwayByTheNext()
+    void aRunThatIsKilledIsClearedAwayByTheNext()
     {
         DataRun run;
         run.start();
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(run.dataFolder(u"photos/large"_s)), 60'000);
-        run.process.terminate();
+        run.process.kill();
         QVERIFY(run.process.waitForFinished(30'000));
-        QCOMPARE(run.process.exitStatus(), QProcess::CrashExit); // of the signal: no disc was made
         QVERIFY(QFile::exists(run.dataFolder(u"photos"_s)));
 
         QVERIFY(QDir(run.source()).removeRecursively());

@@ -247,7 +247,11 @@ void AppDelegate::gatherFolders()
     connect(&gathering, &writing::FolderGathering::ended, this,
         [this] { schedule(timerBurnDataFolder, &AppDelegate::TimerBurnDataFolder); });
     connect(job.get(), &Job::stopping, &gathering, &writing::FolderGathering::stop);
-    gathering.start();
+    // The sheet was up for a moment before, with its Stop button.
+    if (job->isStopping())
+        gathering.stop();
+    else
+        gathering.start();
 }
 
 void AppDelegate::Show_Window_Data_Copy_Folders()

@@ -230,9 +230,11 @@ private Q_SLOTS:
         program.drutil.print(u"status"_s,
             "           Type: CD-R                 Name: /dev/sr0\n"
             "    Writability: appendable, blank, overwritable\n");
-        program.drutil.run("[ \"$1\" = burn ] || exit 0\necho Preparing\n"
-                           "for word in Writing Verifying; do i=0; while [ $i -lt 1000 ]; do\n"
-                           "echo \"$word: $((i / 10)).$((i % 10)) %\"; i=$((i + 1)); done; done\n");
+        program.drutil.run(
+            "[ \"$1\" = burn ] || exit 0\necho Preparing\n"
+            "for word in Writing Verifying; do for i in 0 20 40 60 80; do\n"
+            "for more in 1 2 3 4 5 6 7 8; do echo \"$word: $((i + more)).0 %\"; sleep 0.1; done\n"
+            "done; done\n");
         QCOMPARE(program.run({ u"--burn"_s, u"MP3 CD"_s, media(u"song.wma"_s) }), 0);
         QMap<int, int> tenths;
         const QList<QByteArray> lines = program.process.readAllStandardOutput().split('\n');

@@ -122,6 +122,7 @@ private Q_SLOTS:
     void stoppedAfterATroubleTellsTheDisc();
     void notesAreLeftOut();
     void notesOfWhatIsThereDoNotSpoilTheEnd();
+    void changesAreNotLeftOut();
     void remarkMakesItIncomplete();
     void neverShowsItsWorkingFolder();
     void tellsWhatWasMade();
@@ -272,6 +273,16 @@ void JobTest::notesOfWhatIsThereDoNotSpoilTheEnd()
     QVERIFY(outcome.lines(9).contains(u"The names are cut."_s));
 }
 
+void JobTest::changesAreNotLeftOut()
+{
+    Bench bench(disc());
+    QVERIFY(bench.runs(Stage::Writing, u"out Preparing; out note: “a” is called “A” on the disc."_s));
+    const Outcome outcome = bench.job.end();
+    QCOMPARE(outcome.how, How::Complete);
+    QCOMPARE(outcome.changed, QStringList(u"“a” is called “A” on the disc."_s));
+    QCOMPARE(outcome.leftOut, QStringList());
+}
+
 void JobTest::remarkMakesItIncomplete()
 {
     Bench bench(disc());
@@ -298,14 +309,14 @@ void JobTest::neverShowsItsWorkingFolder()
     bench.job.leaveOut(in + u": it cannot be read."_s);
     bench.job.leaveOut(folder.path() + u"2/other: it cannot be read."_s); // another one that begins alike
     QVERIFY(bench.runs(Stage::Writing,
-        u"out Reading %1; out note: “%1” was left out.; out note: %2: there is no room.; err %2.; exit 1"_s
-            .arg(in, folder.path())));
+        u"out Reading %1; out note: “%1” was left out.; out note: %2 was left out.; err %2.; exit 1"_s.arg(
+            in, folder.path())));
     const Outcome outcome = bench.job.end();
     QCOMPARE(outcome.reason, u"the working folder."_s);
     QCOMPARE(outcome.leftOut,
         (QStringList{ u"album/song.mp3: it cannot be read."_s,
             folder.path() + u"2/other: it cannot be read."_s, u"“album/song.mp3” was left out."_s,
-            u"the working folder: there is no room."_s }));
+            u"the working folder was left out."_s }));
     QCOMPARE(bench.words.first(), u"Reading album/song.mp3"_s);
     for (const QString &words : std::as_const(bench.words))
         QVERIFY2(!words.contains(folder.path()), qPrintable(words));

@@ -55,7 +55,7 @@ BatchRun::BatchRun(
     , m_finish(std::move(finish))
 {
     m_questions->setBeforeAlert([this] {
-        show();
+        m_show = {};
         endLine();
     });
     m_look.setInterval(200);

@@ -7,6 +7,7 @@
 #include "writing/Job.h"
 
 #include <QCursor>
+#include <QDir>
 #include <QGuiApplication>
 #include <QThreadPool>
 
@@ -71,6 +72,8 @@ void AppDelegate::TimerBurnDataFolder()
         job->remark(what);
     }
     const writing::Progress gathered = job->progress();
+    if (QDir(s_Data_Folder).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot))
+        job->foundNothing();
     job->describe(counted(gathered.files, tr("1 file"), tr("%1 files")), gathered.bytes);
     runInBackground(around.drutil, { u"burn"_s, s_Data_Folder, u"-drive"_s, s_Current_Drive_Number },
         writing::Stage::Writing, &AppDelegate::dataBurnTerminated, Output::Observed);

@@ -179,6 +179,10 @@ void Job::decided(const ToolRun &run)
 QString Job::reasonOf(const ToolRun &run) const
 {
     const ToolEnd &end = run.end();
+    // The tool would speak of a folder that nobody knows.
+    if (m_nothing && end.how == ToolEnd::How::Ended
+        && (m_lastWords.contains("empty"_L1) || m_lastWords.isEmpty()))
+        return tr("There was nothing left to write. The disc is as it was.");
     // What a tool said before a signal ended it tells nothing of that end.
     const bool endedItself = end.how == ToolEnd::How::Ended
         || (end.how == ToolEnd::How::Stopped && run.state() == QProcess::NotRunning

@@ -79,6 +79,9 @@ public:
     /// The medium that is written can be erased, by its newest status.
     void setRewritable(bool rewritable) { m_work.rewritable = rewritable; }
 
+    /// What the writing tool is about to be given is empty: a failure of it needs no other reason.
+    void foundNothing() { m_nothing = true; }
+
     /// What goes onto the disc or into the image, as far as it is known before: "12 tracks", and its bytes.
     void describe(const QString &content, qint64 bytes);
 
@@ -130,6 +133,7 @@ private:
     qint64 m_doneWeight = 0, m_weight = 0, m_weights = 0; ///< of the items before, of the present one, of all
     runner::ToolProgress::Phase m_phase = runner::ToolProgress::Phase::Other; ///< of the running tool
     bool m_stopping = false;
+    bool m_nothing = false; ///< there is nothing to be written
     bool m_ended = false;
     bool m_done = false; ///< the work of the last deciding run was done
     QString m_content;

@@ -44,6 +44,8 @@ void AppDelegate::describeConverted(const QString &folder)
     const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden);
     for (const QFileInfo &file : files)
         bytes += file.size();
+    if (files.isEmpty())
+        job->foundNothing();
     const bool tracks = job->work().name == projects::byCode(1)->name;
     job->describe(tracks ? counted(files.size(), tr("1 track"), tr("%1 tracks"))
                          : counted(files.size(), tr("1 file"), tr("%1 files")),

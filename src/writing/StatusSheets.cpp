@@ -195,9 +195,13 @@ void Window_Operation_Terminated::showOutcome(const Outcome &outcome)
     constexpr qsizetype shown = 8;
     Outcome trouble = outcome;
     trouble.made.clear();
+    trouble.changed.clear();
+    Outcome changed;
+    changed.changed = outcome.changed;
     const std::pair<QLabel *, QString> texts[] = {
         { m_ui->labelMade, outcome.made },
         { m_ui->labelDescription, trouble.lines(shown).join(u'\n') },
+        { m_ui->labelChanged, changed.lines(shown).join(u'\n') },
     };
     for (const auto &[label, text] : texts) {
         label->setTextFormat(Qt::PlainText);

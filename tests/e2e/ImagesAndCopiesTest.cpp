@@ -190,7 +190,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<qint64>("size");
         QTest::addColumn<QString>("words");
-        QTest::newRow("larger than the disc") << 900'000'000LL << u"need 439454 blocks"_s;
+        QTest::newRow("larger than the disc") << 900'000'000LL << u"439454 blocks"_s;
         QTest::newRow("empty") << 0LL << u"is empty"_s;
     }
     void anImageOfAWrongSizeIsTold()

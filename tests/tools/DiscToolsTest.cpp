@@ -352,11 +352,14 @@ private Q_SLOTS:
         ready(app, {});
         app.press("toolbar_btn_Tools_Eject_Disc");
         app.press("toolbar_btn_Tools_Load_Disc");
-        QCOMPARE(app.texts(), QStringList());
         app.press("toolbar_btn_Tools_Disc_Info");
-        QCOMPARE(app.texts(), QStringList(u"Disc Information | "_s));
+        QCOMPARE(app.texts().size(), 3);
+        for (const QString &text : app.texts())
+            QVERIFY2(
+                text.startsWith(u"The disc utility cannot be used | "_s) && text.contains(app.around.drutil),
+                qUtf8Printable(text));
         app.trigger("menuitemEraseQuick");
-        QCOMPARE(app.texts().size(), 2);
+        QCOMPARE(app.texts().size(), 4);
         QVERIFY(app.texts().last().startsWith(u"Media not rewritable"_s));
     }
 };

@@ -120,7 +120,7 @@ private Q_SLOTS:
     void leavesOutTheWorkingFolder();
     void refusesToCopyTheWorkingFolderIntoItself();
     void leavesNoHalfFileWhenOneGetsTooLarge();
-    void endsWhenTheDiskIsFull();
+    void namesAllThatDoesNotFit();
     void survivesASourceThatVanishes();
     void overwritesNothing();
     void stopsBeforeItHasBegun();
@@ -206,8 +206,14 @@ void FolderStagingTest::keepsModesAndTimes()
     for (const auto &file : files)
         QVERIFY2(sameModeAndTime(scratch / "source/" + file.name, scratch / "disc/source/" + file.name),
             file.name);
-    for (const char *name : { "source", "source/folder", "source/folder/file", "source/link" })
+    for (const char *name : { "source/folder/file", "source/link" })
         QVERIFY2(sameModeAndTime(scratch / name, scratch / "disc/" + name), name);
+    // Folders keep their times; their owner may do with the copies what making a disc takes.
+    for (const char *name : { "source", "source/folder" }) {
+        const struct stat info = infoOf(scratch / "disc/" + name);
+        QCOMPARE(info.st_mode & 07777U, 0755U);
+        QCOMPARE(info.st_mtim.tv_sec, 1'100'000'000);
+    }
 }
 
 void FolderStagingTest::keepsLinksAsTheyAre()
@@ -399,7 +405,7 @@ void FolderStagingTest::tellsOfWrongPlaces_data()
     QTest::newRow("the destination is a file")
         << QByteArray("folder") << QByteArray("file") << QByteArray("file: Not a directory");
     QTest::newRow("a file has the name of the copy")
-        << QByteArray("folder") << QByteArray("taken") << QByteArray("taken/folder: Not a directory");
+        << QByteArray("folder") << QByteArray("taken") << QByteArray("folder: Not a directory");
     QTest::newRow("the root") << QByteArray("/") << QByteArray("disc")
                               << QByteArray("/: has no name under which it could be copied");
     QTest::newRow("the folder above") << QByteArray("folder/..") << QByteArray("disc")
@@ -477,7 +483,7 @@ void FolderStagingTest::leavesOutWhatTheDestinationRefuses()
     writeFile(scratch / "source/file", "1");
     const int status = asOrdinaryUser(scratch.path(), [] {
         const Result result = copied("source", "disc");
-        return result.ended && result.told == Told{ "disc/source: Permission denied" } ? 0 : 1;
+        return result.ended && result.told == Told{ "source: Permission denied" } ? 0 : 1;
     });
     QCOMPARE(status, 0);
     QVERIFY(!exists(scratch / "disc/source"));
@@ -536,7 +542,7 @@ void FolderStagingTest::leavesNoHalfFileWhenOneGetsTooLarge()
 }
 
 /// A file system of 1 MiB of its own, seen by this process alone.
-void FolderStagingTest::endsWhenTheDiskIsFull()
+void FolderStagingTest::namesAllThatDoesNotFit()
 {
     if (support::ownMounts().isEmpty())
         QSKIP(support::noOwnMounts);
@@ -560,7 +566,9 @@ void FolderStagingTest::endsWhenTheDiskIsFull()
                 ++(infoOf(copy).st_size == 400'000 && readFile(copy) == randomContent(400'000) ? whole
                                                                                                : broken);
         }
-        const bool told = result.told.size() == 1 && result.told[0].ends_with(": No space left on device");
+        const bool told = result.told.size() == 6
+            && std::ranges::all_of(result.told,
+                [](const std::string &line) { return line.ends_with(": No space left on device"); });
         ::_exit(result.ended && told && whole == 2 && broken == 0 ? 0 : 1);
     }
     int status = 0;

@@ -235,7 +235,7 @@ private Q_SLOTS:
         app.asked.choices = { { url(app, u"source"_s) }, { url(app, u"destination"_s) } };
         app.press("toolbar_btn_ISO_Create_ISO");
         QVERIFY(app.completes());
-        QCOMPARE(app.trouble(), u"hdiutil: There is no room left."_s);
+        QCOMPARE(app.trouble(), u"There is no room left."_s);
     }
 
     void aMissingToolIsTold()

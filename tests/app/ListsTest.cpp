@@ -11,6 +11,7 @@
 #include "writing/StatusSheets.h"
 
 #include <QAbstractItemModelTester>
+#include <QLabel>
 #include <QMenu>
 #include <QMimeData>
 #include <QProgressBar>
@@ -91,6 +92,7 @@ private Q_SLOTS:
     void panelCancelled();
     void recordsOfAddedFiles();
     void oddNames();
+    void stoppedAddingKeepsWhatIsMeasured();
     void stepsAndRowsAtTheEnd();
     void windowAnswersWhileMeasuring();
     void quitWhileMeasuring();
@@ -535,6 +537,28 @@ void ListsTest::oddNames()
     const int bold = static_cast<int>(listed.indexOf(u"<b>bold<b>.mp3"_s));
     const QString tip = audio()->model()->index(bold, 0).data(Qt::ToolTipRole).toString();
     QVERIFY(!tip.contains(u"<b>"_s));
+}
+
+void ListsTest::stoppedAddingKeepsWhatIsMeasured()
+{
+    QList<QUrl> files;
+    for (const auto &name : { u"0.mp3"_s, u"1.mp3"_s, u"2.mp3"_s }) {
+        makeFile(media(name));
+        files.append(QUrl::fromLocalFile(media(name)));
+    }
+    m_app->ffmpeg.run("while [ ! -e \"$2.go\" ]; do sleep 0.02; done");
+    m_app->controller->addMediaFiles(AppDelegate::ListKind::Audio, files);
+    const QPointer<Window_Unique_Progress> sheet = m_app->controller->windowUniqueProgress;
+    const auto *told = sheet->findChild<QLabel *>(u"labelItem"_s);
+    QCOMPARE(told->text(), u"0.mp3 (1 of 3)"_s);
+    makeFile(media(u"0.mp3.go"_s));
+    QTRY_COMPARE(told->text(), u"1.mp3 (2 of 3)"_s);
+    person::press(QKeySequence(Qt::Key_Escape));
+    person::click(sheet->findChild<QAbstractButton *>(u"btnStopNow"_s));
+    makeFile(media(u"1.mp3.go"_s));
+    QVERIFY(awaitAdded());
+    QCOMPARE(column(audio(), 0), (QStringList{ u"0.mp3"_s, u"1.mp3"_s }));
+    QVERIFY(m_app->element<QTabWidget>("tabviewMain")->isEnabled());
 }
 
 void ListsTest::stepsAndRowsAtTheEnd()

@@ -7,6 +7,7 @@
 #include "support/TestApplication.h"
 #include "ui_MainWindow.h"
 
+#include <QLabel>
 #include <QMenu>
 #include <QRadioButton>
 #include <QTest>
@@ -63,6 +64,8 @@ private Q_SLOTS:
     void sheetConfirmed();
     void sheetRadiosExcludeEachOther();
     void sheetWithArrowKeys();
+    void sheetByDoubleClick();
+    void sheetSaysWhenAListIsEmptied();
     void sheetCancelled_data();
     void sheetCancelled();
     void sheetWithNothingOn();
@@ -240,12 +243,46 @@ void ModesTest::sheetWithArrowKeys()
 {
     person::choose(m_app->window.get(), "menuitemNewDisc");
     QTRY_COMPARE(QApplication::focusWidget(), radio(1));
-    QTest::keyClick(radio(1), Qt::Key_Down);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-    QCOMPARE(radiosOn(), QList<int>(1, 2));
+    // Each arrow key chooses, over the three boxes and round.
+    const std::pair<Qt::Key, int> steps[] = { { Qt::Key_Up, 8 }, { Qt::Key_Right, 1 }, { Qt::Key_Down, 2 },
+        { Qt::Key_Down, 3 }, { Qt::Key_Down, 4 }, { Qt::Key_Left, 3 }, { Qt::Key_Up, 2 } };
+    for (const auto &[key, code] : steps) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        QCOMPARE(radiosOn(), QList<int>(1, code));
+        QCOMPARE(QApplication::focusWidget(), radio(code));
+    }
+    // Tab leaves the choice, and comes back to what is chosen.
+    QTest::keyClick(m_app->window->windowHandle(), Qt::Key_Tab);
+    QVERIFY(!qobject_cast<QRadioButton *>(QApplication::focusWidget()));
+    QTest::keyClick(m_app->window->windowHandle(), Qt::Key_Tab, Qt::ShiftModifier);
+    QCOMPARE(QApplication::focusWidget(), radio(2));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     QTRY_VERIFY(!controller().windowNewDisc);
     QCOMPARE(title(), u"Burn MP3 CD"_s);
+}
+
+void ModesTest::sheetByDoubleClick()
+{
+    person::choose(m_app->window.get(), "menuitemNewDisc");
+    const QRadioButton *chosen = radio(7);
+    const QPoint place = chosen->mapTo(m_app->window.get(), chosen->rect().center());
+    QTest::mouseClick(m_app->window->windowHandle(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(m_app->window->windowHandle(), Qt::LeftButton, {}, place);
+    QTRY_VERIFY(!controller().windowNewDisc);
+    QCOMPARE(title(), u"Burn Data DVD"_s);
+}
+
+void ModesTest::sheetSaysWhenAListIsEmptied()
+{
+    const auto says = [this] {
+        person::choose(m_app->window.get(), "menuitemNewDisc");
+        const bool shown = controller().windowNewDisc->findChild<QLabel *>(u"labelNote"_s)->isVisible();
+        pressInSheet(u"Cancel"_s);
+        return shown;
+    };
+    QVERIFY(!says());
+    fillLists();
+    QVERIFY(says());
 }
 
 void ModesTest::sheetCancelled_data()

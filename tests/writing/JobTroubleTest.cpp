@@ -366,6 +366,36 @@ private Q_SLOTS:
         QVERIFY(app.completes());
     }
 
+    /// A writer whose speed is held: it writes for seven seconds and compares as long.
+    void theTimeLeftIsRightAtHalfTime()
+    {
+        JobApplication app;
+        app.burnWith(
+            "for phase in Writing Verifying; do n=0; while [ $n -le 100 ]; do echo \"$phase: $n.0 %, 8.0x\"; "
+            "n=$((n + 1)); sleep 0.07; done; done\n");
+        app.launch();
+        app.choose(2);
+        QVERIFY(app.add({ app.file(u"song.mp3"_s) }));
+        QElapsedTimer clock;
+        std::optional<int> told;
+        qint64 half = 0;
+        connect(app.controller.get(), &AppDelegate::jobBegan, &app.sheets, [&](writing::Job *job) {
+            connect(job, &writing::Job::progressed, job, [&](const writing::Progress &progress) {
+                if (half > 0 || progress.stage != writing::Stage::Writing || progress.percent < 50)
+                    return;
+                half = clock.elapsed();
+                told = progress.secondsLeft;
+            });
+        });
+        clock.start();
+        app.press("btnBurn");
+        QVERIFY(app.completes());
+        const double left = static_cast<double>(clock.elapsed() - half) / 1000;
+        QVERIFY(told);
+        QVERIFY2(
+            qAbs(*told - left) <= left / 4, qPrintable(u"%1 s told, %2 s it took"_s.arg(*told).arg(left)));
+    }
+
     void longWordsStayInsideTheSheets()
     {
         JobApplication app;

@@ -131,9 +131,9 @@ private Q_SLOTS:
             QCOMPARE(told, QString());
             QVERIFY(QTest::qWaitFor(
                 [&app] { return !app.controller->windowOperationCompleted.isNull(); }, 60'000));
-            const auto *told =
+            const auto *heading =
                 app.controller->windowOperationCompleted->findChild<QLabel *>(u"labelHeading"_s);
-            QCOMPARE(told->text(), u"Operation complete"_s);
+            QCOMPARE(heading->text(), u"Operation complete"_s);
             QVERIFY(!QFile::exists(recorder.iso()));
         }
     }

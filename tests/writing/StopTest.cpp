@@ -318,6 +318,11 @@ void StopTest::endsUnderEverySheet()
         end();
     } else {
         QVERIFY(app.prepare(kind));
+        // Long enough to be met.
+        if (sheet == "converting")
+            app.convertWith("sleep 0.5\necho converted > \"$output\"\n");
+        else if (sheet == "writing")
+            app.burnWith("sleep 0.5\n");
         const Once quit(
             [&] {
                 const AppDelegate &c = *app.controller;

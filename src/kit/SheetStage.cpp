@@ -7,8 +7,6 @@
 #include <QPaintEvent>
 #include <QPainter>
 
-#include <utility>
-
 SheetStage::SheetStage(QWidget *content)
     : QScrollArea(content->parentWidget())
     , m_content(content)
@@ -34,7 +32,9 @@ SheetStage::SheetStage(QWidget *content)
 
 SheetStage::~SheetStage()
 {
-    qDeleteAll(std::exchange(m_sheets, {}));
+    // Also those that have ended or never begun: each speaks to its stage when it goes.
+    m_sheets.clear();
+    qDeleteAll(m_ground->findChildren<Sheet *>());
 }
 
 SheetStage *SheetStage::of(const QWidget *widget)

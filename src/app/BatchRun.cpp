@@ -145,8 +145,13 @@ void BatchRun::burn()
 {
     m_questions->forgetAlerts(); // of the adding; the list is as it could be made
     m_controller->ui->btnBurn->click();
-    if (m_questions->alerted())
-        end(1);
+    if (!m_questions->alerted())
+        return;
+    m_look.stop();
+    endLine();
+    constexpr int notWritten = 1;
+    if (!m_job.show)
+        m_finish(notWritten);
 }
 
 bool BatchRun::stop()
@@ -178,13 +183,6 @@ void BatchRun::completed()
         return;
     m_controller->Close_Window_Operation_Complete();
     m_finish(m_outcome.exitStatus());
-}
-
-void BatchRun::end(int status)
-{
-    endLine();
-    if (status != 0 && !m_job.show)
-        m_finish(status);
 }
 
 void BatchRun::showAdding(qsizetype done, qsizetype count)

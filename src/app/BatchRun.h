@@ -79,7 +79,6 @@ private:
     void show(); ///< prints what was told last, if it has not been printed
     void printLine(Stage stage, const QString &line);
     void endLine();
-    void end(int status);
 
     const BatchJob m_job;
     AppDelegate *const m_controller;

@@ -1,6 +1,5 @@
 // What the stages of all jobs have in common: beginning, the sheets, converting, and the one end.
 #include "app/MainWindow.h"
-#include "compilation/FolderTree.h"
 #include "drives/MediaStatus.h"
 #include "kit/SheetStage.h"
 #include "runner/ActivityLog.h"
@@ -10,7 +9,6 @@
 #include "writing/StatusSheets.h"
 #include "writing/Window_Data_Copy_Folders.h"
 
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QProgressBar>

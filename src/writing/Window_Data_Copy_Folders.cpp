@@ -2,7 +2,6 @@
 
 #include "compilation/FolderTree.h"
 #include "compilation/Measuring.h"
-#include "runner/TimeLeft.h"
 #include "ui_Window_Data_Copy_Folders.h"
 #include "writing/Job.h"
 

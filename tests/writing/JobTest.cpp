@@ -507,14 +507,14 @@ void JobTest::isStopped()
 void JobTest::stopsAtOnce()
 {
     Bench bench(disc());
-    const ToolRun *run = bench.start(Stage::Writing, misbehave, doing(u"out Writing: 1.0 %; hang"_s));
+    const ToolRun *run =
+        bench.start(Stage::Writing, misbehave, doing(u"slow-term 300; out Writing: 1.0 %; hang"_s));
     QVERIFY(bench.says(u"Writing: 1.0 %"_s));
-    QElapsedTimer clock;
-    clock.start();
     bench.job.stop();
-    QVERIFY(clock.elapsed() < 200);
+    QVERIFY2(!run->hasEnded() && run->state() == QProcess::Running, "the tool was waited for");
     QVERIFY(Bench::ended(run));
-    QVERIFY2(clock.elapsed() < 5000, "a tool that ends when asked is not waited for");
+    constexpr int afterSigterm = 143; // it was asked, not killed
+    QCOMPARE(run->end().code, afterSigterm);
 }
 
 void JobTest::stopsOnce()
@@ -551,19 +551,16 @@ void JobTest::killsWhatDoesNotEnd()
         bench.start(stage, misbehave, doing(u"ignore-term; out All is well.; out Writing: 1.0 %; hang"_s));
     QVERIFY(bench.says(u"Writing: 1.0 %"_s));
     const auto process = static_cast<pid_t>(run->processId());
-    qint64 longest = 0;
-    QElapsedTimer sinceTick;
-    sinceTick.start();
-    QTimer ticks;
-    connect(&ticks, &QTimer::timeout, this, [&] { longest = qMax(longest, sinceTick.restart()); });
-    ticks.start(10);
+    int ticks = 0; // of the event loop while the tool is given its time
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] { ++ticks; });
+    timer.start(10);
     QElapsedTimer clock;
     clock.start();
     bench.job.stop();
     QVERIFY(Bench::ended(run));
     QVERIFY2(clock.elapsed() >= 400, "it is given its time");
-    QVERIFY2(clock.elapsed() < 10'000, "it is not waited for without end");
-    QVERIFY2(longest < 350, "the window would have stood still");
+    QVERIFY2(ticks >= 3, "the window would have stood still");
     QVERIFY(::kill(process, 0) != 0 && errno == ESRCH);
     const Outcome outcome = bench.job.end();
     QCOMPARE(outcome.how, How::Stopped);

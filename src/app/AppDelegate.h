@@ -290,6 +290,7 @@ private:
     void mediaFilesAdded(ListKind kind, const Measuring &measuring);
     template <class Record>
     void insertRecords(ListTableView *table, QList<Record> &list, const QList<Record> &records, int before);
+    void insertMedia(ListKind kind, const QList<NodeMediaFile> &records, int before);
     template <class Record>
     void deleteSelected(ListTableView *table, QList<Record> &list);
     void playSelected(const ListTableView *table);

@@ -15,9 +15,10 @@ struct NodeMediaFile {
     qint64 i_Duration_in_Seconds = 0; ///< whole seconds, from s_Duration
     QString s_Duration; ///< the 11 characters after "Duration:" in ffmpeg's report
     QString whyNotMeasured; ///< a sentence; empty where the duration is known
+    QString title, performer; ///< as a player shows them: from the file's tags, or as typed on the list
 };
 
-/// One folder on the data list.
+/// One folder, or one file, on the data list.
 struct NodeDataFolder {
     QString s_Path; ///< full path
     qint64 i_Size_in_KBytes = 0; ///< everything below it, in units of 1024 bytes, rounded down

@@ -1,0 +1,196 @@
+// What a person chooses or drops, and what of it goes on a list.
+#include "app/AppDelegate.h"
+#include "app/MainWindow.h"
+#include "compilation/Acceptance.h"
+#include "compilation/FolderNames.h"
+#include "compilation/Measuring.h"
+#include "ui_MainWindow.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList audioExtensions{ u"wma"_s, u"wav"_s, u"cda"_s, u"mp3"_s, u"mp2"_s, u"mpga"_s, u"m4a"_s };
+const QStringList videoExtensions{ u"wmv"_s, u"mov"_s, u"mpg"_s, u"mpeg"_s, u"mpe"_s, u"avi"_s, u"asf"_s,
+    u"asx"_s, u"qt"_s, u"mp4"_s, u"mpeg-4"_s, u"flv"_s, u"ts"_s, u"3gp"_s, u"fli"_s, u"m1v"_s, u"m2v"_s,
+    u"mjpg"_s };
+
+/// How a person knows what a URL leads to: by its name, or by its address on another computer.
+QString nameOf(const QUrl &url)
+{
+    constexpr qsizetype half = 30; // of a name that would make the alert too wide
+    const QString path = url.isLocalFile() ? QDir::cleanPath(url.toLocalFile()) : QString();
+    const QString last = path.section(u'/', -1);
+    const QString name = (path.isEmpty() ? url.toDisplayString() : last.isEmpty() ? path : last).simplified();
+    return name.size() > 2 * half ? name.first(half) + u'…' + name.last(half) : name;
+}
+
+/// One a line, as many as an alert shows at a glance.
+QString namesOf(const QList<QUrl> &urls)
+{
+    constexpr qsizetype shown = 10;
+    QStringList names;
+    for (const QUrl &url : urls.first(qMin(shown, urls.size())))
+        names.append(nameOf(url));
+    if (urls.size() > shown)
+        names.append(AppDelegate::tr("and %1 more").arg(urls.size() - shown));
+    return names.join(u'\n');
+}
+
+} // namespace
+
+/// What of one adding cannot go on the list, and why.
+struct AppDelegate::Refused {
+    compilation::Refusal refusal;
+    QUrl url;
+};
+
+const QStringList &AppDelegate::acceptedExtensions(ListKind kind)
+{
+    return kind == ListKind::Audio ? audioExtensions : videoExtensions;
+}
+
+void AppDelegate::pickMediaFiles(ListKind kind)
+{
+    OpenPanel panel;
+    panel.several = true;
+    panel.extensions = acceptedExtensions(kind);
+    panel.message =
+        kind == ListKind::Audio ? tr("Add audio files to the list") : tr("Add video files to the list");
+    addMediaFiles(kind, around.questions->choose(panel, window));
+}
+
+void AppDelegate::pickMediaFolder(ListKind kind)
+{
+    OpenPanel panel;
+    panel.choose = OpenPanel::Choose::Folder;
+    panel.message = kind == ListKind::Audio ? tr("Add the audio files of a folder to the list")
+                                            : tr("Add the video files of a folder to the list");
+    const QList<QUrl> chosen = around.questions->choose(panel, window);
+    if (!chosen.isEmpty())
+        addMediaFolder(kind, QDir::cleanPath(chosen.first().toLocalFile()));
+}
+
+void AppDelegate::addMediaFolder(ListKind kind, const QString &folder)
+{
+    addMediaFiles(kind, mediaIn(kind, folder));
+}
+
+QList<QUrl> AppDelegate::mediaIn(ListKind kind, const QString &folder)
+{
+    // Unlike the panel's filter this distinguishes upper and lower case.
+    const QStringList &accepted = acceptedExtensions(kind);
+    const compilation::FolderNames found = compilation::namesIn(folder);
+    if (const int unreadable = compilation::unreadableFiles(found, accepted, Qt::CaseSensitive)) {
+        alert(tr("%n file(s) cannot be listed", nullptr, unreadable),
+            tr("Their names in the folder “%1” are not valid UTF-8 text. Rename them and add the folder "
+               "again.")
+                .arg(folder));
+    }
+    // Two slashes at the start of a path would make a host of its first name.
+    const QString place = folder.endsWith(u'/') ? folder : folder + u'/';
+    QList<QUrl> urls;
+    for (const QString &name : found.names) {
+        if (accepted.contains(compilation::pathExtension(name)))
+            urls.append(QUrl::fromLocalFile(place + name));
+    }
+    return urls;
+}
+
+void AppDelegate::addMediaFiles(ListKind kind, const QList<QUrl> &urls, int before)
+{
+    QList<QUrl> files;
+    QList<Refused> refused;
+    for (const QUrl &url : urls) {
+        if (compilation::isNoFile(url.toLocalFile()))
+            refused.append({ compilation::Refusal::NoFile, url });
+        else
+            files.append(url);
+    }
+    tellRefused(refused, kind);
+    if (!files.isEmpty())
+        measureMediaFiles(kind, files, before);
+}
+
+void AppDelegate::OnActionAudioAddFiles()
+{
+    pickMediaFiles(ListKind::Audio);
+}
+
+void AppDelegate::OnActionAudioAddFolder()
+{
+    pickMediaFolder(ListKind::Audio);
+}
+
+void AppDelegate::OnActionVideoAddFiles()
+{
+    pickMediaFiles(ListKind::Video);
+}
+
+void AppDelegate::OnActionVideoAddFolder()
+{
+    pickMediaFolder(ListKind::Video);
+}
+
+void AppDelegate::OnActionDataAddFolder()
+{
+    OpenPanel panel;
+    panel.choose = OpenPanel::Choose::Folder;
+    panel.message = tr("Add a folder to the list");
+    const QList<QUrl> chosen = around.questions->choose(panel, window);
+    if (!chosen.isEmpty())
+        addDataFolder(QDir::cleanPath(chosen.first().toLocalFile()));
+}
+
+void AppDelegate::tellRefused(const QList<Refused> &all, ListKind kind)
+{
+    QStringList paragraphs;
+    QList<compilation::Refusal> told;
+    for (const Refused &first : all) {
+        if (told.contains(first.refusal))
+            continue;
+        told.append(first.refusal);
+        QList<QUrl> alike;
+        for (const Refused &other : all) {
+            if (other.refusal == first.refusal)
+                alike.append(other.url);
+        }
+        paragraphs.append(
+            compilation::sentence(first.refusal, acceptedExtensions(kind)) + u"\n\n"_s + namesOf(alike));
+    }
+    if (!paragraphs.isEmpty())
+        alert(tr("Not everything can go on this list"), paragraphs.join(u"\n\n"_s));
+}
+
+void AppDelegate::addDroppedFiles(const QList<QUrl> &urls, int before)
+{
+    const int tab = ui->tabviewMain->currentIndex();
+    const ListKind kind = tab == 0 ? ListKind::Audio : ListKind::Video;
+    QList<QUrl> taken, unreadable;
+    QList<Refused> refused;
+    for (const QUrl &url : urls) {
+        const compilation::Refusal refusal = tab == 2
+            ? compilation::refusalOfFolder(url)
+            : compilation::refusalOfMedia(url, acceptedExtensions(kind));
+        if (url.isLocalFile() && !compilation::isReadable(url))
+            unreadable.append(url);
+        else if (refusal != compilation::Refusal::None)
+            refused.append({ refusal, url });
+        else if (tab != 2 && QFileInfo(url.toLocalFile()).isDir())
+            taken.append(mediaIn(kind, QDir::cleanPath(url.toLocalFile())));
+        else
+            taken.append(url);
+    }
+    tellRefused(refused, kind);
+    if (!unreadable.isEmpty())
+        alert(Questions::unusableFiles(), Questions::unreadableNamesText() + u"\n\n"_s + namesOf(unreadable));
+    if (tab != 2)
+        return addMediaFiles(kind, taken, before);
+    for (const QUrl &url : std::as_const(taken))
+        addDataFolder(QDir::cleanPath(url.toLocalFile()), before++);
+}

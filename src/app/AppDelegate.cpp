@@ -5,6 +5,7 @@
 #include "app/WindowPlace.h"
 #include "compilation/FolderTree.h"
 #include "compilation/ListTableView.h"
+#include "compilation/SavedLists.h"
 #include "runner/ActivityLog.h"
 #include "ui_MainWindow.h"
 #include "writing/FolderClaim.h"
@@ -64,6 +65,7 @@ AppDelegate::AppDelegate(MainWindow *mainWindow, Surroundings surroundings)
     , around(std::move(surroundings))
     , activityLog(new ActivityLog(this))
     , preferences(std::make_unique<QSettings>(u"Corvalis"_s, u"Corvalis"_s))
+    , m_lists(std::make_unique<SavedLists>())
 {
 }
 
@@ -120,6 +122,7 @@ void AppDelegate::applicationDidFinishLaunching()
     m_b_Col2_Ascenging = m_b_Col3_Ascenging = m_b_Col4_Ascenging = false;
     PaintSpaceOccupiedControl();
     i_Type_of_New_Disc = 1;
+    offerRecentLists();
     loadColourScheme();
     schedule(timerSetAlternatingRows, &AppDelegate::TimerSetAlternatingRowsRoutine);
     schedule(timerForceColorsAtStartup, &AppDelegate::TimerForceColorsAtStartupRoutine);

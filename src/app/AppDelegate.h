@@ -10,6 +10,7 @@
 #include "drives/DriveList.h"
 
 #include <QColor>
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -49,6 +50,8 @@ struct Outcome;
 struct Work;
 } // namespace writing
 
+struct Compilation;
+
 /// See the head of this file. One instance, made by main(); lives and works on the GUI thread. All
 /// fields are public to the areas; nobody else writes them.
 class AppDelegate : public QObject {
@@ -78,6 +81,7 @@ public:
 
     // ---- State: drive, formats, debug
     QString s_Current_Drive_Number;
+    QString s_Disc_Name; ///< as typed, so it may be one that no disc can have; set it with setDiscName()
     QString s_Video_Output_Format, s_Audio_Output_Format; ///< "0" NTSC, Dolby Digital; else PAL, MPEG audio
     bool m_b_Debug_Mode = false;
 
@@ -169,17 +173,25 @@ public:
     /// Returns at once; addingEnded() follows. They come before the row `before`, -1: behind the last one.
     void addMediaFiles(ListKind kind, const QList<QUrl> &urls, int before = -1);
     void addMediaFolder(ListKind kind, const QString &folder);
-    void addDataFolder(const QString &path, int before = -1); ///< before this row, -1: behind the last one
+    void addDataFolder(
+        const QString &path, int before = -1); ///< or a file; before this row, -1: behind the last one
     void OnActionAudioAddFiles(), OnActionAudioAddFolder(), OnActionAudioDelete(), OnActionAudioClear(),
         OnActionAudioPlay(), OnActionAudioNewDisc(), OnActionAudioCopyDisc();
     void OnActionVideoAddFiles(), OnActionVideoAddFolder(), OnActionVideoDelete(), OnActionVideoClear(),
         OnActionVideoPlay(), OnActionVideoNewDisc(), OnActionVideoCopyDisc(), OnActionVideoSettings();
     void OnActionDataAddFolder(), OnActionDataDelete(), OnActionDataClear(), OnActionDataNewDisc(),
-        OnActionDataCopyDisc();
+        OnActionDataCopyDisc(), OnActionDataAddFiles();
     /// Onto the list of the selected tab, before this row; tells what does not fit.
     void addDroppedFiles(const QList<QUrl> &urls, int before);
     void moveSelectedEntries(int by); ///< up (-1) or down (1) in the list of the selected tab
     void moveSelectedEntriesBefore(int row); ///< of the same list; the number of rows is behind the last
+
+    // ---- Saved lists and undoing (compilation/)
+    /// Asks where the list that is shown would be lost; tells what is wrong with the file.
+    void openList(const QString &path);
+    void OnMenuListOpen(), OnMenuListSave(), OnMenuListSaveAs(), OnMenuFindMissing();
+    void OnMenuUndo(), OnMenuRedo();
+    void setDiscName(const QString &name); ///< any text; into the field, and where usable to the tools
 
     // ---- Tables, sorting, gauge (compilation/)
     qsizetype numberOfRowsInTableView(const ListTableView *table) const;
@@ -262,6 +274,8 @@ private:
     void chooseVariant(int code); ///< what a mode button of the project type does
     void markVariant(int code); ///< borders its mode button alone in its tab
     void emptyAllLists();
+    void beginKind(const ProjectType &type); ///< with empty lists
+    qint64 variantOf(int tab) const; ///< of a list tab
     void showTab(int index);
     void didSelectTab(int index); ///< what follows from showing a tab
     void offerKinds(int tab); ///< names the menu items of the tab's kinds of disc
@@ -306,6 +320,27 @@ private:
     void showListMenu(ListTableView *table, const QPoint &place, bool forRows); ///< at a place on the screen
     static void reloadTable(ListTableView *table);
     void refreshTable(const ListTableView *table); ///< the list kind's refresh
+
+    // ---- Saved lists and undoing (compilation/)
+    struct SavedLists;
+    struct Opening; ///< a list that is being opened
+    const std::unique_ptr<SavedLists> m_lists;
+    Compilation present() const;
+    void show(const Compilation &compilation);
+    void listsChanged(); ///< for the history, which is told once control is back in the event loop
+    void noteLists();
+    bool isListUnsaved() const;
+    bool mayReplaceList(); ///< false: the person wants to keep the list that is shown
+    bool saveList(const QString &path);
+    void beginOpening(std::unique_ptr<Opening> opening, const ProjectType &kind);
+    void finishOpening();
+    static QList<NodeDataFolder> foldersOf(const Opening &opening);
+    static QList<NodeMediaFile> mediaOf(const Opening &opening, const QList<NodeMediaFile> &measured);
+    void tellMissing(int count);
+    QHash<QString, QString> awaitMissing(const QString &folder, const QStringList &names);
+    void forgetListFile();
+    void rememberList(const QString &path), forgetList(const QString &path), offerRecentLists();
+    void keepRecentLists(const QStringList &paths);
 
     // ---- Running tools (runner/)
     QByteArray captureTool(const QString &program, const QStringList &arguments,

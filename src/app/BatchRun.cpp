@@ -81,8 +81,8 @@ QString BatchRun::objection(const BatchJob &job)
         const QFileInfo info(path);
         if (!info.exists())
             return tr("%1: there is no such file or folder.").arg(path);
-        if (data && !info.isDir())
-            return tr("%1 is no folder: a data disc is made of folders.").arg(path);
+        if (data && !info.isDir() && !info.isFile())
+            return tr("%1 is no file or folder, and a data disc is made of these.").arg(path);
         if (data)
             continue;
         const QStringList &accepted = AppDelegate::acceptedExtensions(
@@ -131,7 +131,10 @@ void BatchRun::add()
         m_questions->answerNextPanelWith(urls);
     for (qsizetype i = 0; data && i < urls.size(); ++i) {
         m_questions->answerNextPanelWith({ urls.at(i) });
-        m_controller->OnActionDataAddFolder();
+        if (QFileInfo(m_job.paths.at(i)).isDir())
+            m_controller->OnActionDataAddFolder();
+        else
+            m_controller->OnActionDataAddFiles();
     }
     if (data || urls.isEmpty())
         return burn();

@@ -84,19 +84,29 @@ void AppDelegate::Close_Window_New_Disc()
         i_Type_of_New_Disc = 1;
         return;
     }
-    const ProjectType *type = projects::byCode(i_Type_of_New_Disc);
-    if (type)
-        this->*listTab(type->tab).variant = type->variant;
+    if (const ProjectType *type = projects::byCode(i_Type_of_New_Disc))
+        beginKind(*type);
+    else
+        emptyAllLists();
+}
+
+void AppDelegate::beginKind(const ProjectType &type)
+{
+    this->*listTab(type.tab).variant = type.variant;
     emptyAllLists();
-    if (!type)
-        return;
-    ui->tabviewMain->setCurrentIndex(type->tab);
-    markVariant(type->code);
-    ui->btnBurn->setText(type->burnTitle);
+    ui->tabviewMain->setCurrentIndex(type.tab);
+    markVariant(type.code);
+    ui->btnBurn->setText(type.burnTitle);
+}
+
+qint64 AppDelegate::variantOf(int tab) const
+{
+    return this->*listTab(tab).variant;
 }
 
 void AppDelegate::emptyAllLists()
 {
+    forgetListFile();
     arrayDataFolders.clear();
     refreshTableDataFolders();
     arrayMediaFiles.clear();
@@ -221,6 +231,7 @@ void AppDelegate::offerListActions(int tab)
         action->setEnabled(list);
     ui->menuitemAddFiles->setText(tab == 2 ? tr("&Add Folder…") : tr("&Add Files…"));
     ui->menuitemAddFolder->setVisible(tab != 2);
+    ui->menuitemAddDataFiles->setVisible(tab == 2);
     ui->submenuSort->menuAction()->setEnabled(list);
     ui->menuitemSort1->setText(media ? tr("&File") : tr("&Folder"));
     ui->menuitemSort2->setText(media ? tr("&Duration") : tr("&Size"));

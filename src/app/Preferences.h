@@ -11,6 +11,7 @@ inline constexpr QLatin1StringView audioFormat(
 inline constexpr QLatin1StringView lastDrive(
     "Quendral_Last_Selected_Drive_18"); ///< title of the chosen drive
 
+inline constexpr QLatin1StringView recentLists("Corvalis_Recent_Lists"); ///< full paths, the newest first
 inline constexpr QLatin1StringView windowGeometry("Corvalis_Window_Geometry"); ///< as QWidget::saveGeometry()
 inline constexpr QLatin1StringView columns("Corvalis_Columns_"); ///< and a table's name: widths, by commas
 

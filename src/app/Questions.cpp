@@ -59,7 +59,9 @@ QList<QUrl> WindowQuestions::choose(const OpenPanel &panel, QWidget *over)
     const QList<QUrl> chosen = dialog.chosen();
     if (panel.places.isEmpty()) // a disc is ejected, and its folder goes with it
         m_lastFolder = folderOf(chosen, dialog.directory().absolutePath());
-    return usable(chosen, panel.extensions, over);
+    // A new file may have any name.
+    const bool isNew = panel.choose == OpenPanel::Choose::NewFile;
+    return usable(chosen, isNew ? QStringList() : panel.extensions, over);
 }
 
 QList<QUrl> WindowQuestions::usable(QList<QUrl> chosen, const QStringList &extensions, QWidget *over)

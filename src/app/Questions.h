@@ -24,13 +24,14 @@ struct Alert {
     int dismissed = -1; ///< position of the button that closing stands for; below 0: the last
 };
 
-/// A panel in which existing files or folders are chosen.
+/// A panel in which existing files or folders are chosen, or the name of a new file.
 struct OpenPanel {
-    enum class Choose { Files, Folder };
+    enum class Choose { Files, Folder, NewFile };
     Choose choose = Choose::Files;
     bool several = false;
     QStringList extensions; ///< accepted ones, in any case; none: every file
     QString message; ///< what the person is asked for
+    QString newName; ///< of a new file; a name typed without an extension gets the first of `extensions`
     QString startFolder; ///< where the panel opens; empty: where the last one was
     QList<QUrl>
         places; ///< folders that the panel offers at its side; without a start folder it opens in the first

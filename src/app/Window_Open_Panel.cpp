@@ -55,14 +55,17 @@ Window_Open_Panel::Window_Open_Panel(const OpenPanel &panel, const QString &star
     sortNaturally();
     makeRoom();
     offerPlaces(panel.places);
-    keepMarksExact();
+    if (panel.choose != OpenPanel::Choose::NewFile)
+        keepMarksExact();
     tellWhatIsHidden(panel);
 }
 
 void Window_Open_Panel::setUp(const OpenPanel &panel)
 {
-    setAcceptMode(AcceptOpen);
     setSupportedSchemes({ u"file"_s });
+    if (panel.choose == OpenPanel::Choose::NewFile)
+        return setUpForNewFile(panel);
+    setAcceptMode(AcceptOpen);
     if (panel.choose == OpenPanel::Choose::Folder) {
         setFileMode(Directory);
         setOption(ShowDirsOnly);
@@ -74,6 +77,15 @@ void Window_Open_Panel::setUp(const OpenPanel &panel)
         setNameFilter(nameFilter(panel.extensions));
         setOption(HideNameFilterDetails);
     }
+}
+
+void Window_Open_Panel::setUpForNewFile(const OpenPanel &panel)
+{
+    setAcceptMode(AcceptSave); // asks before it takes the place of a file
+    setFileMode(AnyFile);
+    setNameFilter(nameFilter(panel.extensions));
+    setDefaultSuffix(panel.extensions.first());
+    selectFile(panel.newName);
 }
 
 // A desktop's own dialog sorts for itself, and takes no notice.

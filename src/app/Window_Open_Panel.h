@@ -23,6 +23,7 @@ protected:
 
 private:
     void setUp(const OpenPanel &panel);
+    void setUpForNewFile(const OpenPanel &panel);
     void sortNaturally();
     void makeRoom();
     void offerPlaces(const QList<QUrl> &places);

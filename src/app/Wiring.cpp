@@ -62,6 +62,7 @@ const ButtonRow buttons[] = {
     { &U::toolbar_btn_Video_Settings, &D::OnActionVideoSettings },
     { &U::toolbar_btn_Video_New_Disc, &D::OnActionVideoNewDisc },
     { &U::toolbar_btn_Video_Copy_Disc, &D::OnActionVideoCopyDisc },
+    { &U::toolbar_btn_Data_Add_Files, &D::OnActionDataAddFiles },
     { &U::toolbar_btn_Data_Add_Folder, &D::OnActionDataAddFolder },
     { &U::toolbar_btn_Data_Delete, &D::OnActionDataDelete },
     { &U::toolbar_btn_Data_Clear, &D::OnActionDataClear },
@@ -79,7 +80,14 @@ const ButtonRow buttons[] = {
 
 const ItemRow items[] = {
     { &U::menuitemNewDisc, &D::OnMenuDiscNew },
+    { &U::menuitemListOpen, &D::OnMenuListOpen },
+    { &U::menuitemListSave, &D::OnMenuListSave },
+    { &U::menuitemListSaveAs, &D::OnMenuListSaveAs },
+    { &U::menuitemAddDataFiles, &D::OnActionDataAddFiles },
     { &U::menuitemQuit, &D::OnMenuQuit },
+    { &U::menuitemUndo, &D::OnMenuUndo },
+    { &U::menuitemRedo, &D::OnMenuRedo },
+    { &U::menuitemFindMissing, &D::OnMenuFindMissing },
     { &U::menuitemVideoSettings, &D::OnActionVideoSettings },
     { &U::submenuItemTabAudio, &D::OnMenuTabAudio },
     { &U::submenuItemTabVideo, &D::OnMenuTabVideo },
@@ -250,7 +258,7 @@ void AppDelegate::showListMenu(ListTableView *table, const QPoint &place, bool f
 {
     QAction *const sort = ui->submenuSort->menuAction();
     // Null: a line.
-    QList<QAction *> wanted{ ui->menuitemAddFiles, ui->menuitemAddFolder };
+    QList<QAction *> wanted{ ui->menuitemAddFiles, ui->menuitemAddFolder, ui->menuitemAddDataFiles };
     if (forRows) {
         wanted = { ui->menuitemPlay, ui->menuitemDelete, nullptr, ui->menuitemMoveUp, ui->menuitemMoveDown,
             nullptr, ui->menuitemSelectAll, sort, ui->menuitemClear };
@@ -262,7 +270,7 @@ void AppDelegate::showListMenu(ListTableView *table, const QPoint &place, bool f
     for (QAction *action : std::as_const(wanted)) {
         if (!action)
             menu->addSeparator();
-        else if (action->isEnabled())
+        else if (action->isEnabled() && action->isVisible())
             menu->addAction(action);
     }
     menu->popup(place);

@@ -46,7 +46,6 @@ const Row rows[] = {
         QT_TRANSLATE_NOOP("Acceptance",
             "The files in these folders have their endings in capital letters, and of a folder only those in "
             "small letters are taken. Add the files themselves.") },
-    { Refusal::NoFolder, QT_TRANSLATE_NOOP("Acceptance", "This list takes folders.") },
 };
 
 /// What keeps anything at all from being added, whatever it is.
@@ -88,11 +87,11 @@ Refusal refusalOfMedia(const QUrl &url, const QStringList &endings)
     return endings.contains(info.suffix(), Qt::CaseInsensitive) ? Refusal::None : Refusal::OtherEnding;
 }
 
-Refusal refusalOfFolder(const QUrl &url)
+Refusal refusalOfData(const QUrl &url)
 {
     if (const Refusal refusal = refusalOfPlace(url); refusal != Refusal::None)
         return refusal;
-    return QFileInfo(url.toLocalFile()).isDir() ? Refusal::None : Refusal::NoFolder;
+    return isNoFile(url.toLocalFile()) ? Refusal::NoFile : Refusal::None;
 }
 
 bool isNoFile(const QString &path)

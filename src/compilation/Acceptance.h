@@ -19,15 +19,14 @@ enum class Refusal {
     OtherEnding,
     FolderWithout, ///< a folder without a file that ends in one of the list's endings
     FolderInCapitals, ///< the same, but for capital letters; of a folder only small ones are taken
-    NoFolder, ///< a file where only folders go
 };
 
 /// Of a file or folder for a list of media files with these endings, which are in small letters. Its own
 /// ending may be in any case; of a folder the files directly in it count, as they are written.
 Refusal refusalOfMedia(const QUrl &url, const QStringList &endings);
 
-/// Of a folder for the list of folders.
-Refusal refusalOfFolder(const QUrl &url);
+/// Of a folder or a file for the list of a data disc.
+Refusal refusalOfData(const QUrl &url);
 
 /// A pipe, a socket or a device, links followed.
 bool isNoFile(const QString &path);

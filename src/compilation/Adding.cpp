@@ -147,6 +147,14 @@ void AppDelegate::OnActionDataAddFolder()
         addDataFolder(QDir::cleanPath(chosen.first().toLocalFile()));
 }
 
+void AppDelegate::OnActionDataAddFiles()
+{
+    OpenPanel panel;
+    panel.several = true;
+    panel.message = tr("Add files to the list");
+    addDroppedFiles(around.questions->choose(panel, window), -1);
+}
+
 void AppDelegate::tellRefused(const QList<Refused> &all, ListKind kind)
 {
     QStringList paragraphs;
@@ -175,7 +183,7 @@ void AppDelegate::addDroppedFiles(const QList<QUrl> &urls, int before)
     QList<Refused> refused;
     for (const QUrl &url : urls) {
         const compilation::Refusal refusal = tab == 2
-            ? compilation::refusalOfFolder(url)
+            ? compilation::refusalOfData(url)
             : compilation::refusalOfMedia(url, acceptedExtensions(kind));
         if (url.isLocalFile() && !compilation::isReadable(url))
             unreadable.append(url);
@@ -192,5 +200,5 @@ void AppDelegate::addDroppedFiles(const QList<QUrl> &urls, int before)
     if (tab != 2)
         return addMediaFiles(kind, taken, before);
     for (const QUrl &url : std::as_const(taken))
-        addDataFolder(QDir::cleanPath(url.toLocalFile()), before++);
+        addDataFolder(QDir::cleanPath(url.toLocalFile()), before < 0 ? before : before++);
 }

@@ -1,7 +1,6 @@
 // Records onto the lists and off them.
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
-#include "compilation/FolderTree.h"
 #include "compilation/ListTableView.h"
 #include "compilation/Measuring.h"
 #include "ui/PreviewPlayer.h"
@@ -34,8 +33,7 @@ void AppDelegate::insertMedia(ListKind kind, const QList<NodeMediaFile> &records
 
 void AppDelegate::addDataFolder(const QString &path, int before)
 {
-    insertRecords(ui->tableviewDataFolders, arrayDataFolders,
-        { compilation::folderRecord(path, folderSize(path)) }, before);
+    insertRecords(ui->tableviewDataFolders, arrayDataFolders, { compilation::dataRecord(path) }, before);
 }
 
 template <class Record>

@@ -73,7 +73,8 @@ QStringList ListTableModel::sortTexts(int column) const
 
 QString ListTableModel::whyNotMeasured(int row) const
 {
-    return m_kind == Kind::Media ? m_controller->arrayMediaFiles.at(row).whyNotMeasured : QString();
+    return m_kind == Kind::Media ? m_controller->arrayMediaFiles.at(row).whyNotMeasured
+                                 : m_controller->arrayDataFolders.at(row).whyNotMeasured;
 }
 
 QString ListTableModel::toolTip(int row) const
@@ -89,7 +90,7 @@ QString ListTableModel::toolTip(int row) const
 /// The mark of a file whose duration is not known, in the cell where it is missing.
 QVariant ListTableModel::mark(int row, int column, int role) const
 {
-    const bool here = m_kind == Kind::Media && column == MediaDuration;
+    const bool here = column == (m_kind == Kind::Media ? int(MediaDuration) : int(DataSize));
     if (!here || whyNotMeasured(row).isEmpty())
         return {};
     if (role == Qt::AccessibleTextRole)

@@ -64,6 +64,7 @@ void AppDelegate::refreshTableAudioFiles()
     for (const NodeMediaFile &file : std::as_const(arrayMediaFiles))
         i_Audio_Total_Duration_in_Seconds += file.i_Duration_in_Seconds;
     PaintSpaceOccupiedControl();
+    listsChanged();
 }
 
 void AppDelegate::refreshTableVideoFiles()
@@ -73,6 +74,7 @@ void AppDelegate::refreshTableVideoFiles()
     for (const NodeMediaFile &file : std::as_const(arrayMediaFiles))
         i_Video_Total_Duration_in_Seconds += file.i_Duration_in_Seconds;
     PaintSpaceOccupiedControl();
+    listsChanged();
 }
 
 void AppDelegate::refreshTableDataFolders()
@@ -82,6 +84,7 @@ void AppDelegate::refreshTableDataFolders()
     for (const NodeDataFolder &folder : std::as_const(arrayDataFolders))
         i_Data_Total_Size_in_KBytes += folder.i_Size_in_KBytes;
     PaintSpaceOccupiedControl();
+    listsChanged();
 }
 
 void AppDelegate::PaintSpaceOccupiedControl()

@@ -1,6 +1,9 @@
 #include "compilation/Measuring.h"
 
+#include "compilation/FolderTree.h"
+
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QStringDecoder>
@@ -125,9 +128,18 @@ NodeMediaFile mediaRecord(const QUrl &url, const QString &path)
     return record;
 }
 
-NodeDataFolder folderRecord(const QString &path, quint64 bytes)
+NodeDataFolder dataRecord(const QString &path)
 {
-    return { path, static_cast<qint64>(bytes >> 10), sizeText(bytes) };
+    const QFileInfo info(path);
+    const quint64 bytes = info.isDir() ? treeSize(QFile::encodeName(path).toStdString())
+        : info.exists()                ? fileSize(path)
+                                       : 0;
+    NodeDataFolder record{ path, static_cast<qint64>(bytes >> 10), sizeText(bytes), {} };
+    if (!info.exists()) {
+        record.whyNotMeasured = QCoreApplication::translate(
+            "Measuring", QT_TRANSLATE_NOOP("Measuring", "There is no such file or folder any more."));
+    }
+    return record;
 }
 
 } // namespace compilation

@@ -16,6 +16,8 @@ struct NodeMediaFile {
     QString s_Duration; ///< the 11 characters after "Duration:" in ffmpeg's report
     QString whyNotMeasured; ///< a sentence; empty where the duration is known
     QString title, performer; ///< as a player shows them: from the file's tags, or as typed on the list
+
+    bool operator==(const NodeMediaFile &) const = default;
 };
 
 /// One folder, or one file, on the data list.
@@ -23,4 +25,7 @@ struct NodeDataFolder {
     QString s_Path; ///< full path
     qint64 i_Size_in_KBytes = 0; ///< everything below it, in units of 1024 bytes, rounded down
     QString s_Size; ///< size text
+    QString whyNotMeasured{}; ///< a sentence; empty where the size is known
+
+    bool operator==(const NodeDataFolder &) const = default;
 };

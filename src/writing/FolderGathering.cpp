@@ -13,10 +13,9 @@
 #include <QStorageInfo>
 #include <QThreadPool>
 
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <chrono>
+#include <sys/stat.h>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -38,8 +37,7 @@ bool sharesBlocks(const QStorageInfo &storage)
 
 } // namespace
 
-FolderGathering::FolderGathering(
-    const QList<NodeDataFolder> &folders, QString dataFolder, GatheringPace pace)
+FolderGathering::FolderGathering(const QList<NodeDataFolder> &folders, QString dataFolder, GatheringPace pace)
     : m_folders(folders)
     , m_dataFolder(std::move(dataFolder))
     , m_pace(pace)
@@ -139,7 +137,12 @@ void FolderGathering::startCopy(const QString &source, const QString &destinatio
     std::thread([copy = m_copies.last(), from = QFile::encodeName(source).toStdString(),
                     to = QFile::encodeName(destination).toStdString(),
                     never = QFile::encodeName(m_dataFolder).toStdString()] {
-        copyFolder(from, to, never, *copy, [&copy](const std::string &failure) { copy->tell(failure); });
+        const auto tell = [&copy](const std::string &failure) { copy->tell(failure); };
+        struct stat info;
+        if (::stat(from.c_str(), &info) == 0 && !S_ISDIR(info.st_mode))
+            copyFile(from, to, *copy, tell);
+        else
+            copyFolder(from, to, never, *copy, tell);
     }).detach();
 }
 
@@ -161,7 +164,9 @@ void FolderGathering::look()
     for (const NodeDataFolder &folder : m_folders)
         gathered.bytesExpected += folder.i_Size_in_KBytes * 1024;
     Q_EMIT progressed(gathered);
-    if (ended && m_pace.untilCopied && m_poll.isActive()) {
+    // A folder is looked at once a poll interval; whether a file is there is known at once.
+    const bool goesOn = m_pace.untilCopied || QFileInfo(m_folders.value(m_index).s_Path).isFile();
+    if (ended && goesOn && m_poll.isActive()) {
         m_poll.stop();
         copyNextFolder();
     }

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <climits>
 #include <fcntl.h>
+#include <filesystem>
 #include <linux/fs.h>
 #include <map>
 #include <sys/ioctl.h>
@@ -89,13 +90,41 @@ public:
         else if (!S_ISREG(info.st_mode))
             fail(here(entry.name), "is no file, folder or link, and is left out");
         else if (info.st_nlink == 1 || !linkToFirst(entry.name, info))
-            copyFile(entry.name);
+            copyFile(entry.name, entry.name);
         return false;
     }
 
     void left(const std::string &) override { finishFolder(); }
 
     void unreadable(int error) override { fail(here(), error); }
+
+    /// Copies the file `name` of the folder in which the source's cursor stands; the copy is called `copy`.
+    void copyFile(const std::string &name, const std::string &copy)
+    {
+        // Not blocking: where the file has become a pipe meanwhile, nobody may ever write into it.
+        const Descriptor from(
+            ::openat(at.fd(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+        struct stat info;
+        if (from < 0 || ::fstat(from, &info) != 0)
+            return fail(here(name), errno);
+        // A source on a server may answer late, when the folder of the copy has already been emptied.
+        if (m_state.stop)
+            return;
+        const Descriptor to(
+            ::openat(m_to.fd(), copy.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
+        if (to < 0)
+            return fail(here(name), errno);
+        const bool copied = copyContent(from, to, info);
+        const int error = errno;
+        if (copied && !m_state.stop) {
+            ++m_state.files;
+            return keepModeAndTimes(to, info, S_IRUSR);
+        }
+        // Half a file would look like a whole one on the disc.
+        ::unlinkat(m_to.fd(), copy.c_str(), 0);
+        if (!copied)
+            fail(here(name), error);
+    }
 
     /// Gives the folder of the copy the mode and the times of its source, and goes up from it.
     void finishFolder()
@@ -156,33 +185,6 @@ private:
         ++m_state.files;
         const timespec times[] = { info.st_atim, info.st_mtim };
         ::utimensat(m_to.fd(), name.c_str(), times, AT_SYMLINK_NOFOLLOW);
-    }
-
-    void copyFile(const std::string &name)
-    {
-        // Not blocking: where the file has become a pipe meanwhile, nobody may ever write into it.
-        const Descriptor from(
-            ::openat(at.fd(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-        struct stat info;
-        if (from < 0 || ::fstat(from, &info) != 0)
-            return fail(here(name), errno);
-        // A source on a server may answer late, when the folder of the copy has already been emptied.
-        if (m_state.stop)
-            return;
-        const Descriptor to(
-            ::openat(m_to.fd(), name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
-        if (to < 0)
-            return fail(here(name), errno);
-        const bool copied = copyContent(from, to, info);
-        const int error = errno;
-        if (copied && !m_state.stop) {
-            ++m_state.files;
-            return keepModeAndTimes(to, info, S_IRUSR);
-        }
-        // Half a file would look like a whole one on the disc.
-        ::unlinkat(m_to.fd(), name.c_str(), 0);
-        if (!copied)
-            fail(here(name), error);
     }
 
     bool copyContent(int from, int to, const struct stat &info)
@@ -332,6 +334,28 @@ void copyFolder(const std::string &source, const std::string &destination, const
         else
             copier.fail(copier.here(), "was moved while it was being copied");
     }
+    state.ended = true;
+}
+
+void copyFile(const std::string &source, const std::string &destination, CopyState &state,
+    const std::function<void(const std::string &)> &failed)
+{
+    std::error_code missing;
+    const std::filesystem::path real = std::filesystem::canonical(source, missing);
+    const std::string folder = real.parent_path();
+    TreeCursor from(folder);
+    TreeCursor to(destination);
+    struct stat info;
+    if (missing || from.fd() < 0 || ::stat(real.c_str(), &info) != 0)
+        failed(
+            source + ": " + (missing ? missing : std::error_code(errno, std::generic_category())).message());
+    else if (to.fd() < 0)
+        failed(destination + ": " + std::generic_category().message(errno));
+    else if (!S_ISREG(info.st_mode))
+        failed(source + ": is no file, folder or link, and is left out");
+    else
+        Copier(from, folder == "/" ? "" : folder, to, destination, {}, state, failed)
+            .copyFile(real.filename(), source.substr(source.find_last_of('/') + 1));
     state.ended = true;
 }
 

@@ -1,4 +1,4 @@
-// Copying a folder into a working folder, away from the GUI thread.
+// Copying a folder or a file into a working folder, away from the GUI thread.
 #pragma once
 
 #include <atomic>
@@ -47,5 +47,10 @@ private:
 /// Blocks; any thread; `failed` is called in the same one.
 void copyFolder(const std::string &source, const std::string &destination, const std::string &never,
     CopyState &state, const std::function<void(const std::string &)> &failed);
+
+/// Copies the file `source`, or the file to which the link `source` leads, into the folder `destination` under the name that
+/// `source` has, by the rules of copyFolder().
+void copyFile(const std::string &source, const std::string &destination, CopyState &state,
+    const std::function<void(const std::string &)> &failed);
 
 } // namespace writing

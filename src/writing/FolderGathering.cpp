@@ -165,15 +165,22 @@ void FolderGathering::look()
         gathered.bytesExpected += folder.i_Size_in_KBytes * 1024;
     Q_EMIT progressed(gathered);
     // A folder is looked at once a poll interval; whether a file is there is known at once.
-    const bool goesOn = m_pace.untilCopied || QFileInfo(m_folders.value(m_index).s_Path).isFile();
+    const bool goesOn = m_pace.untilCopied || isFile();
     if (ended && goesOn && m_poll.isActive()) {
         m_poll.stop();
         copyNextFolder();
     }
 }
 
+bool FolderGathering::isFile() const
+{
+    return QFileInfo(m_folders.value(m_index).s_Path).isFile();
+}
+
 void FolderGathering::poll()
 {
+    if (isFile())
+        return measured(static_cast<double>(m_copies.last()->bytes >> 10));
     QThreadPool::globalInstance()->start([self = QPointer(this), target = m_target] {
         const auto copied =
             static_cast<double>(compilation::treeSize(QFile::encodeName(target).toStdString()) >> 10);

@@ -29,8 +29,9 @@ struct Gathered {
     qint64 didNotFit = 0; ///< files and folders for which there was no room
 };
 
-/// Copies entry after entry. A file counts as copied when its copy has ended, a folder as copied when, looked at once a poll interval, it has reached the size
-/// that was measured when it was listed, or has not grown since the last look. Then the next one follows, and after the
+/// Copies folder after folder, and single files like them. A folder counts as copied when, looked at once a poll interval, it
+/// has reached the size that was measured when it was listed, or has not grown since the last look; a file also when its
+/// copy has ended. Then the next one follows, and after the
 /// last one ended() is emitted once. Lives on the GUI thread; each copy runs in a thread of its own that shares nothing
 /// but the copy's state with it.
 class FolderGathering : public QObject {
@@ -69,6 +70,7 @@ Q_SIGNALS:
 
 private:
     void copyNextFolder();
+    bool isFile() const; ///< the entry at hand, which is no folder then
     void startCopy(const QString &source, const QString &destination);
     void look();
     void poll();

@@ -141,6 +141,7 @@ private Q_SLOTS:
     void contextMenuActs();
     void dropOnAudio();
     void dropOnData();
+    void singleFilesForADataDisc();
     void dropOfAnAlbum();
     void dropIsNeverAMove();
     void dropThatDoesNotFitIsTold();
@@ -1357,7 +1358,7 @@ void ListsTest::contextMenu_data()
     QTest::newRow("empty list") << 0 << 0 << -1 << add;
     QTest::newRow("row") << 0 << 3 << 1 << QStringList(u"Play"_s) + row + all;
     QTest::newRow("below") << 1 << 2 << -1 << add + all;
-    QTest::newRow("no folder") << 2 << 0 << -1 << QStringList(u"Add Folder…"_s);
+    QTest::newRow("no folder") << 2 << 0 << -1 << QStringList{ u"Add Folder…"_s, u"Add Files…"_s };
     QTest::newRow("folder") << 2 << 2 << 0 << row + all;
 }
 
@@ -1481,6 +1482,21 @@ void ListsTest::dropOnData()
     QCOMPARE(column(table("tableviewDataFolders"), 0), QStringList({ media(u"two"_s), media(u"one"_s) }));
 }
 
+void ListsTest::singleFilesForADataDisc()
+{
+    showTab(2);
+    makeFile(media(u"a.txt"_s), QByteArray(1500, 'a'));
+    makeFile(media(u"b.bin"_s), QByteArray(3000, 'b'));
+    person::Expect<QFileDialog> dialog([&](QFileDialog *panel) {
+        person::openFiles(panel, media(), { u"a.txt"_s, u"b.bin"_s });
+    });
+    click("toolbar_btn_Data_Add_Files");
+    QVERIFY(dialog.happened());
+    QCOMPARE(column(table("tableviewDataFolders"), 0), QStringList({ media(u"a.txt"_s), media(u"b.bin"_s) }));
+    QCOMPARE(column(table("tableviewDataFolders"), 1), QStringList({ u"1.46 KB"_s, u"2.93 KB"_s }));
+    QCOMPARE(m_app->controller->i_Data_Total_Size_in_KBytes, 1 + 2);
+}
+
 void ListsTest::dropThatDoesNotFitIsTold()
 {
     m_app->controller->around.questions = &m_app->questions;
@@ -1508,12 +1524,15 @@ void ListsTest::dropThatDoesNotFitIsTold()
     person::drop(audio(), { QUrl(QUrl::fromEncoded("file://" + bad.toEncoded())) });
     QCOMPARE(m_app->questions.alerts.size(), 1);
     QVERIFY(m_app->questions.alerts.first().informative.contains(u"UTF-8"_s));
-    // A file where only folders go.
+    // A data disc takes any file, but nothing that is none.
     showTab(2);
     m_app->questions.alerts.clear();
-    person::drop(table("tableviewDataFolders"), { QUrl::fromLocalFile(media(u"good.mp3"_s)) });
+    QCOMPARE(::mkfifo(qPrintable(media(u"pipe"_s)), 0600), 0);
+    person::drop(table("tableviewDataFolders"),
+        { QUrl::fromLocalFile(media(u"good.mp3"_s)), QUrl::fromLocalFile(media(u"pipe"_s)) });
     QCOMPARE(m_app->questions.alerts.size(), 1);
-    QVERIFY(m_app->controller->arrayDataFolders.isEmpty());
+    QVERIFY(m_app->questions.alerts.first().informative.contains(u"\n\npipe"_s));
+    QCOMPARE(column(table("tableviewDataFolders"), 0), QStringList(media(u"good.mp3"_s)));
 }
 
 QTEST_MAIN(ListsTest)

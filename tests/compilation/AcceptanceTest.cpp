@@ -78,8 +78,8 @@ void AcceptanceTest::folders_data()
     QTest::addColumn<QString>("below");
     QTest::addColumn<Refusal>("refusal");
     QTest::newRow("folder") << u"empty"_s << Refusal::None;
-    QTest::newRow("file") << u"song.mp3"_s << Refusal::NoFolder;
-    QTest::newRow("pipe") << u"pipe.mp3"_s << Refusal::NoFolder;
+    QTest::newRow("file") << u"song.mp3"_s << Refusal::None;
+    QTest::newRow("pipe") << u"pipe.mp3"_s << Refusal::NoFile;
     QTest::newRow("gone") << u"gone"_s << Refusal::Missing;
     QTest::newRow("link to nothing") << u"lost.mp3"_s << Refusal::DanglingLink;
 }
@@ -88,8 +88,8 @@ void AcceptanceTest::folders()
 {
     QFETCH(QString, below);
     QFETCH(Refusal, refusal);
-    QCOMPARE(compilation::refusalOfFolder(url(below)), refusal);
-    QCOMPARE(compilation::refusalOfFolder(QUrl(u"smb://host/share"_s)), Refusal::Elsewhere);
+    QCOMPARE(compilation::refusalOfData(url(below)), refusal);
+    QCOMPARE(compilation::refusalOfData(QUrl(u"smb://host/share"_s)), Refusal::Elsewhere);
 }
 
 void AcceptanceTest::forbiddenFolder()
@@ -100,14 +100,14 @@ void AcceptanceTest::forbiddenFolder()
                  [&] { return static_cast<int>(compilation::refusalOfMedia(closed, m_endings)); }),
         static_cast<int>(Refusal::Forbidden));
     QCOMPARE(support::asOrdinaryUser(
-                 m_folder.path(), [&] { return static_cast<int>(compilation::refusalOfFolder(closed)); }),
+                 m_folder.path(), [&] { return static_cast<int>(compilation::refusalOfData(closed)); }),
         static_cast<int>(Refusal::Forbidden));
 }
 
 void AcceptanceTest::everyRefusalHasItsSentence()
 {
     QStringList sentences;
-    for (int refusal = 1; refusal <= static_cast<int>(Refusal::NoFolder); ++refusal) {
+    for (int refusal = 1; refusal <= static_cast<int>(Refusal::FolderInCapitals); ++refusal) {
         const QString text = compilation::sentence(static_cast<Refusal>(refusal), m_endings);
         QVERIFY2(text.endsWith(u'.') && !text.contains(u'%'), qPrintable(text));
         QVERIFY2(!sentences.contains(text), qPrintable(text));

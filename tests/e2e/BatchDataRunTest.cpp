@@ -24,6 +24,7 @@ public:
         QDir(home.path()).mkpath(u"Documents/CorvalisData"_s);
         makeFile(home.filePath(u"photos/日本 \"x\"/file"_s), "content");
         makeFile(home.filePath(u"photos/large"_s), QByteArray(3'000'000, 'x'));
+        makeFile(home.filePath(u"notes.txt"_s), "notes");
     }
 
     ~DataRun()
@@ -34,7 +35,8 @@ public:
 
     void start()
     {
-        process.start(builtPrograms() + u"/corvalis"_s, { u"--burn"_s, u"Data CD"_s, u"photos/"_s });
+        process.start(
+            builtPrograms() + u"/corvalis"_s, { u"--burn"_s, u"Data CD"_s, u"photos/"_s, u"notes.txt"_s });
     }
 
     /// How it ended, within two minutes.
@@ -51,11 +53,10 @@ public:
     {
         return home.filePath(u"Documents/CorvalisData/"_s + below);
     }
-    /// The folder as it is on the disc.
+    /// What is on the disc.
     QString onDisc() const
     {
-        return reader::extractedByXorriso(home.filePath(u"recorders/1/disc.iso"_s), home.path())
-            + u"/photos"_s;
+        return reader::extractedByXorriso(home.filePath(u"recorders/1/disc.iso"_s), home.path());
     }
 };
 
@@ -74,7 +75,9 @@ private Q_SLOTS:
         QCOMPARE(printed.status, 0);
         QVERIFY(printed.output.contains("Gathering the folders\n"));
         QVERIFY2(!printed.output.contains("Writing: Writing"), printed.output.constData());
-        QCOMPARE(reader::difference(run.source(), run.onDisc()), QByteArray());
+        const QString disc = run.onDisc();
+        QCOMPARE(reader::difference(run.source(), disc + u"/photos"_s), QByteArray());
+        QCOMPARE(contentOf(disc + u"/notes.txt"_s), QByteArray("notes"));
         QCOMPARE(QDir(run.dataFolder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
     }
 

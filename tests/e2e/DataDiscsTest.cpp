@@ -165,6 +165,65 @@ private Q_SLOTS:
         QCOMPARE(contentOf(root + u"/letters/dear.txt"_s), QByteArray("dear"));
     }
 
+    void singleFilesStandBesideFoldersOnTheDisc()
+    {
+        WholeMachine machine;
+        machine.controller->around.stagingPoll = 5000; // files do not wait for it
+        makeFile(machine.mediaPath(u"photos/one.jpg"_s), "one");
+        makeFile(machine.mediaPath(u"a/-notes \"x\".txt"_s), "first notes");
+        makeFile(machine.mediaPath(u"b/-notes \"x\".txt"_s), "second notes");
+        makeFile(machine.mediaPath(u"a/empty"_s));
+        makeFile(machine.mediaPath(u"large.bin"_s), QByteArray(3'000'000, 'x'));
+        QVERIFY(QFile::link(machine.mediaPath(u"large.bin"_s), machine.mediaPath(u"a/shortcut"_s)));
+        QVERIFY(::chmod(qPrintable(machine.mediaPath(u"a/empty"_s)), 0440) == 0);
+        machine.choose(6);
+        QVERIFY(machine.addFolder(machine.mediaPath(u"photos"_s)));
+        QVERIFY(machine.addDataFiles(
+            machine.mediaPath(u"a"_s), { u"-notes \"x\".txt"_s, u"empty"_s, u"shortcut"_s }));
+        QVERIFY(machine.addDataFiles(machine.mediaPath(u"b"_s), { u"-notes \"x\".txt"_s }));
+        machine.press("btnBurn");
+        QVERIFY(machine.completes());
+        QCOMPARE(machine.trouble(), QString());
+        const QString root = reader::extractedByXorriso(machine.recorder.iso(), machine.media.path());
+        QCOMPARE(contentOf(root + u"/photos/one.jpg"_s), QByteArray("one"));
+        QCOMPARE(contentOf(root + u"/-notes \"x\".txt"_s), QByteArray("first notes"));
+        QCOMPARE(contentOf(root + u"/-notes \"x\".txt 1/-notes \"x\".txt"_s), QByteArray("second notes"));
+        QCOMPARE(QFileInfo(root + u"/empty"_s).size(), 0);
+        QVERIFY(!QFileInfo(root + u"/shortcut"_s).isSymLink());
+        QCOMPARE(contentOf(root + u"/shortcut"_s), QByteArray(3'000'000, 'x'));
+        QCOMPARE(contentOf(machine.mediaPath(u"a/-notes \"x\".txt"_s)), QByteArray("first notes"));
+    }
+
+    void aSavedListIsOpenedAndWritten()
+    {
+        WholeMachine machine;
+        makeFile(machine.mediaPath(u"photos/one.jpg"_s), "one");
+        makeFile(machine.mediaPath(u"notes.txt"_s), "notes");
+        const QString list = machine.mediaPath(u"My disc.corvalis"_s);
+        machine.choose(6);
+        QVERIFY(machine.addFolder(machine.mediaPath(u"photos"_s)));
+        QVERIFY(machine.addDataFiles(machine.media.path(), { u"notes.txt"_s }));
+        person::Expect<QFileDialog> saving([&list](QFileDialog *panel) {
+            person::pastePath(panel, list);
+            person::pressTitled(panel, u"Save"_s);
+        });
+        person::choose(machine.window.get(), "menuitemListSaveAs");
+        QVERIFY(saving.happened() && QFile::exists(list));
+        machine.choose(1);
+        person::Expect<QFileDialog> opening([&](QFileDialog *panel) {
+            person::openFiles(panel, machine.media.path(), { u"My disc.corvalis"_s });
+        });
+        person::choose(machine.window.get(), "menuitemListOpen");
+        QVERIFY(opening.happened());
+        QCOMPARE(machine.controller->arrayDataFolders.size(), 2);
+        machine.press("btnBurn");
+        QVERIFY(machine.completes());
+        QCOMPARE(machine.trouble(), QString());
+        const QString root = reader::extractedByXorriso(machine.recorder.iso(), machine.media.path());
+        QCOMPARE(contentOf(root + u"/photos/one.jpg"_s), QByteArray("one"));
+        QCOMPARE(contentOf(root + u"/notes.txt"_s), QByteArray("notes"));
+    }
+
     void foldersThatDoNotFitLeaveTheDiscBlankAndAreTold()
     {
         WholeMachine machine;

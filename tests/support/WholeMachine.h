@@ -131,6 +131,16 @@ public:
         return controller->arrayDataFolders.size() == listed + 1;
     }
 
+    /// Adds single files of one folder to a data disc.
+    [[nodiscard]] bool addDataFiles(const QString &place, const QStringList &names)
+    {
+        const qsizetype listed = controller->arrayDataFolders.size();
+        person::Expect<QFileDialog> dialog(
+            [&](QFileDialog *panel) { person::openFiles(panel, place, names); });
+        press("toolbar_btn_Data_Add_Files");
+        return dialog.happened() && controller->arrayDataFolders.size() == listed + names.size();
+    }
+
     /// Presses a button and answers the dialog for a folder that comes.
     void chooseFolder(const char *button, const QString &place)
     {

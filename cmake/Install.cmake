@@ -55,7 +55,7 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION otherosfs)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "ffmpeg, qt6-qpa-plugins")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, udisks2")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, qt6-translations-l10n, udisks2")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "Choose a kind of disc, fill the list, watch the gauge, press one button. Corvalis
 makes audio, MP3, video and data discs, ISO images of folders and copies of discs,

@@ -1,6 +1,7 @@
 // Corvalis: options, application, controller, event loop.
 #include "app/AppDelegate.h"
 #include "app/BatchRun.h"
+#include "app/Languages.h"
 #include "app/MainWindow.h"
 #include "app/StopOnSignals.h"
 #include "app/Surface.h"
@@ -25,9 +26,14 @@ namespace {
 constexpr int notWritten = 1;
 constexpr int wrongArguments = 2;
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+};
+
 [[noreturn]] void refuse(const QString &sentence)
 {
-    std::fprintf(stderr, "corvalis: %s\nTry 'corvalis --help'.\n", surface::printable(sentence).constData());
+    std::fprintf(stderr, "corvalis: %s\n%s\n", surface::printable(sentence).constData(),
+        surface::printable(Texts::tr("Try 'corvalis --help'.")).constData());
     std::exit(wrongArguments);
 }
 
@@ -48,13 +54,25 @@ void allowDeepTrees()
     }
 }
 
-void refuseUnreadableNames(int argc, char **argv)
+struct UnreadableArgument {
+    int number; ///< counted from 1
+    QString text; ///< as much as can be read of it
+};
+
+/// The first argument that is not text. Asked of the arguments as they were given: the toolkit takes its own out.
+std::optional<UnreadableArgument> unreadableArgument(int argc, char **argv)
 {
     for (int i = 1; i < argc; ++i) {
         if (!QByteArrayView(argv[i]).isValidUtf8())
-            refuse(u"argument %1, \"%2\", is not valid UTF-8 text; rename the file and try again."_s.arg(
-                QString::number(i), QString::fromUtf8(argv[i])));
+            return UnreadableArgument{ i, QString::fromUtf8(argv[i]) };
     }
+    return std::nullopt;
+}
+
+[[noreturn]] void refuseUnreadable(const UnreadableArgument &argument)
+{
+    refuse(Texts::tr("argument %1, \"%2\", is not valid UTF-8 text; rename the file and try again.")
+               .arg(QString::number(argument.number), argument.text));
 }
 
 QString projectNames()
@@ -71,40 +89,43 @@ const ProjectType *projectNamed(const QString &name)
         if (name == type.name)
             return &type;
     }
-    refuse(u"there is no project \"%1\"; it is one of %2."_s.arg(name, projectNames()));
+    refuse(Texts::tr("there is no project \"%1\"; it is one of %2.").arg(name, projectNames()));
 }
 
 /// What the command line asks for; nothing for the ordinary window.
 std::optional<BatchJob> readCommandLine(const QCoreApplication &application)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        u"Prepares and writes optical discs.\n\nExit status with --burn: 0 the disc was written and "
-        u"everything is on "
+    parser.setApplicationDescription(Texts::tr(
+        "Prepares and writes optical discs.\n\nExit status with --burn: 0 the disc was written and "
+        "everything is on "
         "it, 1 it was not written, 2 wrong arguments, 3 it was written but something is not on it; stopped "
-        "by a signal, "
-        "it ends by that signal.\nA file whose name begins with a dash goes behind \"--\"."_s);
+        "by a "
+        "signal, it ends by that signal.\nA file whose name begins with a dash goes behind \"--\"."));
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption burn(u"burn"_s,
-        u"Make a disc of kind <project> from the files and end: %1."_s.arg(projectNames()), u"project"_s);
-    const QCommandLineOption show(u"show"_s, u"Do so in the window, which stays."_s);
+        Texts::tr("Make a disc of kind <project> from the files and end: %1.").arg(projectNames()),
+        Texts::tr("project"));
+    const QCommandLineOption show(u"show"_s, Texts::tr("Do so in the window, which stays."));
     parser.addOptions({ burn, show });
-    parser.addPositionalArgument(u"FILE"_s,
-        u"Files, or folders for a data disc; the tracks of an audio CD keep their order."_s, u"[FILE...]"_s);
+    parser.addPositionalArgument(Texts::tr("FILE"),
+        Texts::tr("Files, or folders for a data disc; the tracks of an audio CD keep their order."),
+        Texts::tr("[FILE...]"));
     if (!parser.parse(application.arguments()))
-        refuse(parser.errorText() + u" A file whose name begins with a dash goes behind \"--\"."_s);
+        refuse(
+            Texts::tr("%1 A file whose name begins with a dash goes behind \"--\".").arg(parser.errorText()));
     if (parser.isSet(u"help"_s) || parser.isSet(u"help-all"_s))
         parser.showHelp(0);
     if (parser.isSet(u"version"_s))
         parser.showVersion();
     if (!parser.isSet(burn)) {
         if (parser.isSet(show) || !parser.positionalArguments().isEmpty())
-            refuse(u"files and --show go with --burn."_s);
+            refuse(Texts::tr("files and --show go with --burn."));
         return std::nullopt;
     }
     if (parser.values(burn).size() > 1)
-        refuse(u"--burn is there more than once."_s);
+        refuse(Texts::tr("--burn is there more than once."));
     BatchJob job{ projectNamed(parser.value(burn)), {}, parser.isSet(show) };
     for (const QString &path : parser.positionalArguments())
         job.paths.append(BatchRun::meantPath(path));
@@ -161,7 +182,7 @@ int main(int argc, char **argv)
 {
     allowDeepTrees();
     surface::knowHome();
-    refuseUnreadableNames(argc, argv);
+    const std::optional<UnreadableArgument> unreadable = unreadableArgument(argc, argv);
     const surface::Place place = surface::choose(argc, argv);
     QApplication application(argc, argv);
     surface::chosen(place);
@@ -170,6 +191,9 @@ int main(int argc, char **argv)
     QGuiApplication::setDesktopFileName(u"corvalis"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVALIS_VERSION));
     QApplication::setWindowIcon(applicationIcon());
+    languages::speak();
+    if (unreadable)
+        refuseUnreadable(*unreadable);
     const std::optional<BatchJob> job = readCommandLine(application);
     if (place == surface::Place::DisplayMissing)
         surface::endWithoutDisplay();

@@ -147,10 +147,10 @@ bool AppDelegate::makeWorkingFolders()
         QString failure;
     };
     const QList<WorkingFolder> folders{
-        { &AppDelegate::s_Output_Folder, u"Corvalis"_s, u"Error #0008. Application will exit."_s },
-        { &AppDelegate::s_Audio_Folder, u"CorvalisAudio"_s, u"Error #0009. Application will exit."_s },
-        { &AppDelegate::s_Video_Folder, u"CorvalisVideo"_s, u"Error #000a. Application will exit."_s },
-        { &AppDelegate::s_Data_Folder, u"CorvalisData"_s, u"Error #000b. Application will exit."_s },
+        { &AppDelegate::s_Output_Folder, u"Corvalis"_s, tr("Error #0008. Application will exit.") },
+        { &AppDelegate::s_Audio_Folder, u"CorvalisAudio"_s, tr("Error #0009. Application will exit.") },
+        { &AppDelegate::s_Video_Folder, u"CorvalisVideo"_s, tr("Error #000a. Application will exit.") },
+        { &AppDelegate::s_Data_Folder, u"CorvalisData"_s, tr("Error #000b. Application will exit.") },
     };
     for (const WorkingFolder &folder : folders)
         this->*folder.path = documents.filePath(folder.name);
@@ -159,7 +159,7 @@ bool AppDelegate::makeWorkingFolders()
         if (QFile::exists(path))
             continue;
         if (!QDir().mkpath(path)) {
-            alert(u"Error"_s, folder.failure, Alert::Sign::Error);
+            alert(tr("Error"), folder.failure, Alert::Sign::Error);
             return false;
         }
         if (folder.path == &AppDelegate::s_Output_Folder)
@@ -217,7 +217,7 @@ void AppDelegate::Terminate_App()
 
 void AppDelegate::alert(const QString &message, const QString &informative, Alert::Sign sign)
 {
-    around.questions->ask({ message, informative, { u"Close"_s }, sign }, window);
+    around.questions->ask({ message, informative, { tr("Close") }, sign }, window);
 }
 
 void AppDelegate::schedule(QPointer<QTimer> &timer, TimerRoutine routine)

@@ -373,8 +373,6 @@ private:
     void burnVideo(const DiscForm &form);
     void burnData(const DiscForm &form);
     void describeConverted(const QString &folder); ///< tells the job what is in it
-    static QString counted(
-        qint64 count, const QString &one, const QString &many); ///< "%1" in `many` is the count
     /// Converts every listed file with the arguments that `argumentsFor` gives, behind the progress sheet.
     void convertList(
         quint64 progressMode, const std::function<QStringList(const NodeMediaFile &)> &argumentsFor);

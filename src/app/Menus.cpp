@@ -64,7 +64,7 @@ void AppDelegate::OnMenuHelpAbout()
             tr("Prepares and writes optical discs.\n\nFree software under the GNU General Public "
                "License, version 2 or later.\nBuilt on Qt %1, libburn, libisofs, ffmpeg and mpv.")
                 .arg(QString::fromLatin1(qVersion())),
-            { u"Close"_s }, Alert::Sign::Note },
+            { tr("Close") }, Alert::Sign::Note },
         window);
 }
 

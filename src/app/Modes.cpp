@@ -50,9 +50,9 @@ void AppDelegate::setModeDefaults()
     ui->tabviewMain->setCurrentIndex(0);
     QStringList titles;
     for (const ProjectType &type : projects::all)
-        titles.append(type.burnTitle);
+        titles.append(type.shownBurnTitle());
     ui->btnBurn->setPossibleTexts(titles); // the gauge beside it keeps its width
-    ui->btnBurn->setText(projects::byCode(1)->burnTitle);
+    ui->btnBurn->setText(projects::byCode(1)->shownBurnTitle());
 }
 
 void AppDelegate::ShowNewDiscWindow()
@@ -96,7 +96,7 @@ void AppDelegate::beginKind(const ProjectType &type)
     emptyAllLists();
     ui->tabviewMain->setCurrentIndex(type.tab);
     markVariant(type.code);
-    ui->btnBurn->setText(type.burnTitle);
+    ui->btnBurn->setText(type.shownBurnTitle());
 }
 
 qint64 AppDelegate::variantOf(int tab) const
@@ -129,7 +129,7 @@ void AppDelegate::chooseVariant(int code)
     const ProjectType *type = projects::byCode(code);
     this->*listTab(type->tab).variant = type->variant;
     markVariant(code);
-    ui->btnBurn->setText(type->burnTitle);
+    ui->btnBurn->setText(type->shownBurnTitle());
     (this->*listTab(type->tab).refresh)();
 }
 
@@ -194,7 +194,7 @@ void AppDelegate::didSelectTab(int index)
     if (isList) {
         emptyAllLists();
         if (const ProjectType *type = projects::byVariant(index, this->*listTab(index).variant))
-            ui->btnBurn->setText(type->burnTitle);
+            ui->btnBurn->setText(type->shownBurnTitle());
     }
     QAction *const items[] = { ui->submenuItemTabAudio, ui->submenuItemTabVideo, ui->submenuItemTabData,
         ui->submenuItemTabISO, ui->submenuItemTabTools };
@@ -211,7 +211,7 @@ void AppDelegate::offerKinds(int tab)
         const ProjectType *type = projects::byVariant(tab, variant);
         items[variant]->setVisible(type);
         if (type)
-            items[variant]->setText(type->name);
+            items[variant]->setText(type->shownName());
     }
     ui->submenuKind->menuAction()->setEnabled(tab <= 2);
 }
@@ -280,7 +280,7 @@ void AppDelegate::OnBtnBurn()
         return;
     const QString title = ui->btnBurn->text();
     for (const ProjectType &type : projects::all) {
-        if (title == type.burnTitle)
+        if (title == type.shownBurnTitle())
             return (this->*modes.at(static_cast<std::size_t>(type.code - 1)).pipeline)();
     }
 }

@@ -12,17 +12,17 @@ using namespace Qt::StringLiterals;
 
 QString Questions::unusableFiles()
 {
-    return QFileDialog::tr("Some files cannot be used");
+    return tr("Some files cannot be used");
 }
 
 QString Questions::otherKindText(const QStringList &extensions)
 {
-    return QFileDialog::tr("Only files with these extensions can: .%1").arg(extensions.join(u", ."_s));
+    return tr("Only files with these extensions can: .%1").arg(extensions.join(u", ."_s));
 }
 
 QString Questions::unreadableNamesText()
 {
-    return QFileDialog::tr("Their names are not valid UTF-8 text. Rename them and try again.");
+    return tr("Their names are not valid UTF-8 text. Rename them and try again.");
 }
 
 int WindowQuestions::ask(const Alert &alert, QWidget *over)
@@ -67,13 +67,13 @@ QList<QUrl> WindowQuestions::choose(const OpenPanel &panel, QWidget *over)
 QList<QUrl> WindowQuestions::usable(QList<QUrl> chosen, const QStringList &extensions, QWidget *over)
 {
     if (chosen.removeIf([](const QUrl &url) { return !compilation::isReadable(url); }) > 0)
-        ask({ unusableFiles(), unreadableNamesText(), { u"Close"_s } }, over);
+        ask({ unusableFiles(), unreadableNamesText(), { Questions::tr("Close") } }, over);
     // A name that is typed passes the dialog's filter by.
     const auto isOfOtherKind = [&extensions](const QUrl &url) {
         return !extensions.isEmpty()
             && !extensions.contains(QFileInfo(url.fileName()).suffix(), Qt::CaseInsensitive);
     };
     if (chosen.removeIf(isOfOtherKind) > 0)
-        ask({ unusableFiles(), otherKindText(extensions), { u"Close"_s } }, over);
+        ask({ unusableFiles(), otherKindText(extensions), { Questions::tr("Close") } }, over);
     return chosen;
 }

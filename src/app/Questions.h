@@ -2,6 +2,7 @@
 // stand behind it in normal use, the command line in a batch run.
 #pragma once
 
+#include <QCoreApplication>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -39,6 +40,7 @@ struct OpenPanel {
 
 /// Called on the GUI thread only.
 class Questions {
+    Q_DECLARE_TR_FUNCTIONS(Questions)
 public:
     virtual ~Questions() = default;
 

@@ -1,6 +1,7 @@
 #include "app/Surface.h"
 
 #include <QByteArrayView>
+#include <QCoreApplication>
 #include <QtGlobal>
 
 #include <cstdio>
@@ -98,9 +99,10 @@ QByteArray printable(QString text)
 
 void endWithoutDisplay()
 {
-    std::fputs("corvalis: there is no display for the window. Start it on a desktop, or use --burn, which "
-               "needs none.\n",
-        stderr);
+    const QString sentence = QCoreApplication::translate("Surface",
+        "corvalis: there is no display for the window. Start it on a desktop, or use --burn, which needs "
+        "none.");
+    std::fprintf(stderr, "%s\n", printable(sentence).constData());
     std::_Exit(1);
 }
 

@@ -132,7 +132,7 @@ void Window_Activity_Log::save()
     const QString failure = saveTo(path);
     if (!failure.isEmpty())
         Window_Alert(
-            { tr("The log could not be saved"), path + u'\n' + failure, { u"Close"_s }, Alert::Sign::Error },
+            { tr("The log could not be saved"), path + u'\n' + failure, { tr("Close") }, Alert::Sign::Error },
             this)
             .exec();
 }

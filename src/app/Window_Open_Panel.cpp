@@ -32,7 +32,7 @@ QString nameFilter(const QStringList &extensions)
             pattern += c.isLetter() ? u"[%1%2]"_s.arg(c.toLower()).arg(c.toUpper()) : QString(c);
         patterns.append(pattern);
     }
-    return QFileDialog::tr("Accepted files (%1)").arg(patterns.join(u' '));
+    return Window_Open_Panel::tr("Accepted files (%1)").arg(patterns.join(u' '));
 }
 
 /// How much of a folder could be chosen but for its name.

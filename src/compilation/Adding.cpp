@@ -38,7 +38,7 @@ QString namesOf(const QList<QUrl> &urls)
     for (const QUrl &url : urls.first(qMin(shown, urls.size())))
         names.append(nameOf(url));
     if (urls.size() > shown)
-        names.append(AppDelegate::tr("and %1 more").arg(urls.size() - shown));
+        names.append(AppDelegate::tr("and %Ln more", nullptr, static_cast<int>(urls.size() - shown)));
     return names.join(u'\n');
 }
 

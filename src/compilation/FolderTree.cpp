@@ -1,5 +1,7 @@
 #include "compilation/FolderTree.h"
 
+#include <QCoreApplication>
+
 #include <cerrno>
 #include <cstring>
 #include <dirent.h>
@@ -209,7 +211,9 @@ void emptyFolder(const std::string &path, const std::function<void(const std::st
         return;
     Emptying emptying(folder, path, failed);
     if (!walkTree(emptying))
-        failed(path + folder.path() + ": was moved while it was being emptied");
+        failed(path + folder.path() + ": "
+            + QCoreApplication::translate("FolderTree", "was moved while it was being emptied")
+                  .toStdString());
 }
 
 } // namespace compilation

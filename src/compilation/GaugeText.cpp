@@ -58,14 +58,17 @@ QString gaugeText(Page page, qint64 total, qint32 capacity, const QLocale &local
     const Amounts amounts = data ? sizes(total, capacity, locale)
                                  : Amounts{ timeWords(total, locale), timeWords(capacity, locale) };
     const QString share = locale.toString(percentage(static_cast<quint64>(total), capacity));
-    const QString text =
-        Texts::tr("Space occupied: %1 of %2 (%3 %)").arg(amounts.total, amounts.capacity, share);
     if (total > capacity) {
-        return text + u", "_s
-            + (data ? Texts::tr("too large by %1").arg(sizeWords(sizeOf(total - capacity), locale))
-                    : Texts::tr("too long by %1").arg(timeWords(total - capacity, locale)));
+        const QString excess =
+            data ? sizeWords(sizeOf(total - capacity), locale) : timeWords(total - capacity, locale);
+        return (data ? Texts::tr("Space occupied: %1 of %2 (%3 %), too large by %4")
+                     : Texts::tr("Space occupied: %1 of %2 (%3 %), too long by %4"))
+            .arg(amounts.total, amounts.capacity, share, excess);
     }
-    return total * 100 > qint64(capacity) * 90 ? text + u", "_s + Texts::tr("nearly full") : text;
+    const bool nearlyFull = total * 100 > qint64(capacity) * 90;
+    return (nearlyFull ? Texts::tr("Space occupied: %1 of %2 (%3 %), nearly full")
+                       : Texts::tr("Space occupied: %1 of %2 (%3 %)"))
+        .arg(amounts.total, amounts.capacity, share);
 }
 
 } // namespace compilation

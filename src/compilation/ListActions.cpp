@@ -94,9 +94,9 @@ void AppDelegate::playSelected(const ListTableView *table)
 {
     const int row = table->lastSelectedRow();
     if (row < 0)
-        return alert(u"There is no file selected."_s, u"There is no file selected."_s);
+        return alert(tr("There is no file selected."), tr("There is no file selected."));
     const auto tell = [this](const QString &message, const QString &informative, QWidget *over) {
-        around.questions->ask({ message, informative, { u"OK"_s }, Alert::Sign::Error }, over);
+        around.questions->ask({ message, informative, { tr("OK") }, Alert::Sign::Error }, over);
     };
     if (const QString whyNot = playPreview(arrayMediaFiles.at(row).s_File_URL, window, *preferences, tell);
         !whyNot.isEmpty())

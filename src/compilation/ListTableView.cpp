@@ -265,7 +265,7 @@ QPixmap ListTableView::dragPicture() const
     const QList<int> rows = selectedRows();
     const QString name = model()->index(rows.first(), 0).data().toString().simplified();
     const QString text = rows.size() == 1 ? fontMetrics().elidedText(name, Qt::ElideMiddle, 300)
-                                          : tr("%1 rows").arg(rows.size());
+                                          : tr("%Ln rows", nullptr, static_cast<int>(rows.size()));
     const QSize size(fontMetrics().horizontalAdvance(text) + 24, fontMetrics().height() + 12);
     QPixmap picture(size * devicePixelRatioF());
     picture.setDevicePixelRatio(devicePixelRatioF());

@@ -231,7 +231,7 @@ void AppDelegate::tellMissing(int count)
         tr("They stay on the list, marked. If they were moved, show a folder in which they are now, at any "
            "depth: they "
            "are found there by their names."),
-        { u"Close"_s, tr("Find in a Folder…") } };
+        { tr("Close"), tr("Find in a Folder…") } };
     Alert asked = question;
     asked.dismissed = 0;
     if (around.questions->ask(asked, window) == 1)

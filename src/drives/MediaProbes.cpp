@@ -18,7 +18,7 @@ QString AppDelegate::driveStatus()
 void AppDelegate::tellPrinted(const QString &printed, const QString &code)
 {
     around.questions->ask(
-        { printed, code, { u"Close"_s }, Alert::Sign::Warning, Alert::Report::Message }, window);
+        { printed, code, { tr("Close") }, Alert::Sign::Warning, Alert::Report::Message }, window);
 }
 
 bool AppDelegate::IsDriveEmpty()
@@ -32,7 +32,7 @@ bool AppDelegate::IsMediaOneTimeWritable()
     const QString status = driveStatus();
     const bool writable = drives::saysOverwritable(status);
     if (!writable && m_b_Debug_Mode)
-        tellPrinted(status, u"Warning 0030."_s);
+        tellPrinted(status, tr("Warning 0030."));
     return writable;
 }
 
@@ -41,7 +41,7 @@ bool AppDelegate::IsMediaReWritable()
     const QString status = driveStatus();
     const bool erasable = drives::saysErasable(status);
     if (!erasable && m_b_Debug_Mode)
-        tellPrinted(status, u"Warning 0040."_s);
+        tellPrinted(status, tr("Warning 0040."));
     return erasable;
 }
 

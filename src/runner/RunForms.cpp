@@ -74,7 +74,7 @@ QByteArray AppDelegate::captureTool(
     Patience patience(window->stage());
     const QByteArray printed = run->capture(around.probeLimit, [&patience] { patience(); });
     const bool missing = run->hasEnded() && run->end().how == runner::ToolEnd::How::CouldNotStart;
-    m_notStarted = missing ? program + u' ' + run->end().text() : QString();
+    m_notStarted = missing ? run->end().sentence(program) : QString();
     m_probeHung = run->hasEnded() && run->end().how == runner::ToolEnd::How::EndedByUs;
     if (end) {
         run->waitForFinished(around.probeLimit);

@@ -78,8 +78,8 @@ QString TimeLeft::text(std::optional<int> seconds)
     if (minutes == 1)
         return QCoreApplication::translate("TimeLeft", "About a minute left");
     if (minutes < 90)
-        return QCoreApplication::translate("TimeLeft", "About %1 minutes left").arg(minutes);
-    return QCoreApplication::translate("TimeLeft", "About %1 hours left").arg(hours);
+        return QCoreApplication::translate("TimeLeft", "About %n minutes left", nullptr, minutes);
+    return QCoreApplication::translate("TimeLeft", "About %n hours left", nullptr, hours);
 }
 
 } // namespace runner

@@ -65,16 +65,34 @@ QString ToolEnd::text() const
 {
     switch (how) {
     case How::Ended:
-        return code == 0 ? QObject::tr("ended without an error")
-                         : QObject::tr("ended with status %1").arg(code);
+        return code == 0 ? ToolRun::tr("ended without an error")
+                         : ToolRun::tr("ended with status %1").arg(code);
     case How::CouldNotStart:
-        return QObject::tr("could not be started: %1").arg(reason);
+        return ToolRun::tr("could not be started: %1").arg(reason);
     case How::Crashed:
-        return QObject::tr("crashed (signal %1)").arg(code);
+        return ToolRun::tr("crashed (signal %1)").arg(code);
     case How::EndedByUs:
-        return QObject::tr("was ended because it gave no answer in time");
+        return ToolRun::tr("was ended because it gave no answer in time");
     case How::Stopped:
-        return QObject::tr("was stopped");
+        return ToolRun::tr("was stopped");
+    }
+    Q_UNREACHABLE();
+}
+
+QString ToolEnd::sentence(const QString &tool) const
+{
+    switch (how) {
+    case How::Ended:
+        return code == 0 ? ToolRun::tr("%1 ended without an error").arg(tool)
+                         : ToolRun::tr("%1 ended with status %2").arg(tool, QString::number(code));
+    case How::CouldNotStart:
+        return ToolRun::tr("%1 could not be started: %2").arg(tool, reason);
+    case How::Crashed:
+        return ToolRun::tr("%1 crashed (signal %2)").arg(tool, QString::number(code));
+    case How::EndedByUs:
+        return ToolRun::tr("%1 was ended because it gave no answer in time").arg(tool);
+    case How::Stopped:
+        return ToolRun::tr("%1 was stopped").arg(tool);
     }
     Q_UNREACHABLE();
 }

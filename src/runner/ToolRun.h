@@ -28,8 +28,10 @@ struct ToolEnd {
     int code = 0;
     QString reason; ///< why it could not start, in the system's words
 
-    /// One sentence for the log.
+    /// What happened, for the log; begins in small letters where the language has it so.
     QString text() const;
+    /// The same as a sentence about `tool`, without its full stop.
+    QString sentence(const QString &tool) const;
     /// Whether this is not how a run that should end with `expected` ends.
     bool troubled(int expected = 0) const { return how != How::Ended || code != expected; }
 };

@@ -28,12 +28,13 @@ void AppDelegate::eraseDisc(const QString &extent)
     if (isJobPending())
         return;
     if (IsDriveEmpty()) {
-        return alert(u"No disc"_s,
-            u"There is no disc on the drive. insert a rewritable media on the drive and try again."_s);
+        return alert(tr("No disc"),
+            tr("There is no disc on the drive. insert a rewritable media on the drive and try again."));
     }
     if (!IsMediaReWritable()) {
-        return alert(u"Media not rewritable"_s,
-            u"The media on the drive is not rewritable. insert a rewritable media on the drive and try again."_s);
+        return alert(tr("Media not rewritable"),
+            tr("The media on the drive is not rewritable. insert a rewritable media on the drive and try "
+               "again."));
     }
     writing::Work work = workOn(0, {});
     work.result = writing::Work::Result::BlankDisc;
@@ -75,8 +76,8 @@ void AppDelegate::OnToolsDiscInfo()
         return;
     if (empty)
         return alert(
-            u"No disc"_s, u"There is no disc on the drive. Insert a media on the drive and try again."_s);
-    around.questions->ask(
-        { u"Disc Information"_s, driveStatus(), { u"OK"_s }, Alert::Sign::Note, Alert::Report::Informative },
+            tr("No disc"), tr("There is no disc on the drive. Insert a media on the drive and try again."));
+    around.questions->ask({ tr("Disc Information"), driveStatus(), { tr("OK") }, Alert::Sign::Note,
+                              Alert::Report::Informative },
         window);
 }

@@ -7,29 +7,31 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QLatin1StringView noAudio("No audio files on the list");
-constexpr QLatin1StringView noAudioText(
-    "There are no audio files on the list. Add audio files to the list and try again.");
+constexpr const char *noAudio = QT_TRANSLATE_NOOP("AppDelegate", "No audio files on the list");
+constexpr const char *noAudioText = QT_TRANSLATE_NOOP(
+    "AppDelegate", "There are no audio files on the list. Add audio files to the list and try again.");
 
 } // namespace
 
 void AppDelegate::Burn_Audio_CD()
 {
-    burnAudio({ { 1, noAudio, noAudioText, "CD"_L1, writing::notCD, writing::notCDText, "Warning 0060."_L1 },
+    burnAudio({ { 1, noAudio, noAudioText, "CD"_L1, writing::notCD, writing::notCDText,
+                    QT_TRANSLATE_NOOP("AppDelegate", "Warning 0060.") },
         1, writing::wavArguments, "wav"_L1, &AppDelegate::timerBurnAudioCD, &AppDelegate::TimerBurnAudioCD });
 }
 
 void AppDelegate::Burn_Audio_MP3_CD()
 {
-    burnAudio({ { 2, noAudio, noAudioText, "CD"_L1, writing::notCD, writing::notCDText, "Warning 0050."_L1 },
+    burnAudio({ { 2, noAudio, noAudioText, "CD"_L1, writing::notCD, writing::notCDText,
+                    QT_TRANSLATE_NOOP("AppDelegate", "Warning 0050.") },
         2, writing::mp3Arguments, "mp3"_L1, &AppDelegate::timerBurnMP3, &AppDelegate::TimerBurnMP3 });
 }
 
 void AppDelegate::Burn_Audio_MP3_DVD()
 {
-    burnAudio(
-        { { 3, noAudio, noAudioText, "DVD"_L1, writing::notDVD, writing::notDVDText, "Warning 0010."_L1 }, 2,
-            writing::mp3Arguments, "mp3"_L1, &AppDelegate::timerBurnMP3, &AppDelegate::TimerBurnMP3 });
+    burnAudio({ { 3, noAudio, noAudioText, "DVD"_L1, writing::notDVD, writing::notDVDText,
+                    QT_TRANSLATE_NOOP("AppDelegate", "Warning 0010.") },
+        2, writing::mp3Arguments, "mp3"_L1, &AppDelegate::timerBurnMP3, &AppDelegate::TimerBurnMP3 });
 }
 
 void AppDelegate::burnAudio(const AudioForm &form)

@@ -15,28 +15,28 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QLatin1StringView noFolders("No folders on the list");
-constexpr QLatin1StringView noFoldersText(
-    "There are no folders on the list. Add folders to the list and try again.");
+constexpr const char *noFolders = QT_TRANSLATE_NOOP("AppDelegate", "No folders on the list");
+constexpr const char *noFoldersText = QT_TRANSLATE_NOOP(
+    "AppDelegate", "There are no folders on the list. Add folders to the list and try again.");
 
 } // namespace
 
 void AppDelegate::Burn_Data_CD()
 {
-    burnData(
-        { 6, noFolders, noFoldersText, "CD"_L1, writing::notCD, writing::notCDText, "Warning 0070."_L1 });
+    burnData({ 6, noFolders, noFoldersText, "CD"_L1, writing::notCD, writing::notCDText,
+        QT_TRANSLATE_NOOP("AppDelegate", "Warning 0070.") });
 }
 
 void AppDelegate::Burn_Data_DVD()
 {
-    burnData(
-        { 7, noFolders, noFoldersText, "DVD"_L1, writing::notDVD, writing::notDVDText, "Warning 0020."_L1 });
+    burnData({ 7, noFolders, noFoldersText, "DVD"_L1, writing::notDVD, writing::notDVDText,
+        QT_TRANSLATE_NOOP("AppDelegate", "Warning 0020.") });
 }
 
 void AppDelegate::Burn_Data_Bluray()
 {
     burnData({ 8, noFolders, noFoldersText, "BD"_L1, writing::notBluray, writing::notBlurayText,
-        "Warning 0090."_L1 });
+        QT_TRANSLATE_NOOP("AppDelegate", "Warning 0090.") });
 }
 
 void AppDelegate::burnData(const DiscForm &form)
@@ -57,7 +57,7 @@ bool AppDelegate::hasRoomFor(const QList<NodeDataFolder> &folders)
            "room and "
            "try again, or go on: what does not fit will not be on the disc.")
             .arg(s_Data_Folder, compilation::sizeText(static_cast<quint64>(missing))),
-        { u"Close"_s, tr("Go On") } };
+        { tr("Close"), tr("Go On") } };
     question.dismissed = 0;
     return around.questions->ask(question, window) == 1;
 }
@@ -74,7 +74,7 @@ void AppDelegate::TimerBurnDataFolder()
     const writing::Progress gathered = job->progress();
     if (QDir(s_Data_Folder).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot))
         job->foundNothing();
-    job->describe(counted(gathered.files, tr("1 file"), tr("%1 files")), gathered.bytes);
+    job->describe(tr("%Ln file(s)", nullptr, static_cast<int>(gathered.files)), gathered.bytes);
     runInBackground(around.drutil, { u"burn"_s, s_Data_Folder, u"-drive"_s, s_Current_Drive_Number },
         writing::Stage::Writing, &AppDelegate::dataBurnTerminated, Output::Observed);
     Close_Window_Data_Copy_Folders();

@@ -14,12 +14,12 @@ void AppDelegate::DuplicateMedia()
     if (isJobPending())
         return;
     if (IsDriveEmpty()) {
-        return alert(writing::noDisc,
-            u"There is no disc on the drive. insert a media on the drive to copy and try again."_s);
+        return alert(tr(writing::noDisc),
+            tr("There is no disc on the drive. insert a media on the drive to copy and try again."));
     }
     OpenPanel panel;
     panel.choose = OpenPanel::Choose::Folder;
-    panel.message = u"Select a volume to duplicate."_s;
+    panel.message = tr("Select a volume to duplicate.");
     panel.places = drives::mountedDiscs();
     const QList<QUrl> chosen = around.questions->choose(panel, window);
     if (chosen.isEmpty())
@@ -53,16 +53,16 @@ void AppDelegate::CreateISOfromDriveTerminated()
 bool AppDelegate::promptForBlank()
 {
     const QString prompt =
-        u"Insert a writable media and click OK or click Cancel to stop the media duplication."_s;
+        tr("Insert a writable media and click OK or click Cancel to stop the media duplication.");
     for (;;) {
-        if (around.questions->ask({ prompt, prompt, { u"OK"_s, u"Cancel"_s } }, window) != 0)
+        if (around.questions->ask({ prompt, prompt, { tr("OK"), tr("Cancel") } }, window) != 0)
             return false;
         if (IsDriveEmpty())
-            alert(writing::noDisc, writing::noDiscText);
+            alert(tr(writing::noDisc), tr(writing::noDiscText));
         else if (IsMediaOneTimeWritable() || IsMediaReWritable())
             return true;
         else
-            alert(writing::notWritable, writing::notWritableText);
+            alert(tr(writing::notWritable), tr(writing::notWritableText));
     }
 }
 

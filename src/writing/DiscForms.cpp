@@ -29,16 +29,16 @@ QStringList mpegArguments(
 bool AppDelegate::mayWrite(const DiscForm &form, bool listIsEmpty)
 {
     if (listIsEmpty)
-        return alert(form.nothingListed, form.nothingListedText), false;
+        return alert(tr(form.nothingListed), tr(form.nothingListedText)), false;
     if (IsDriveEmpty())
-        return alert(writing::noDisc, writing::noDiscText), false;
+        return alert(tr(writing::noDisc), tr(writing::noDiscText)), false;
     if (!IsMediaOneTimeWritable() && !IsMediaReWritable())
-        return alert(writing::notWritable, writing::notWritableText), false;
+        return alert(tr(writing::notWritable), tr(writing::notWritableText)), false;
     const QString type = TypeOfMediaInTheDrive();
     if (type == form.mediaType)
         return true;
-    alert(form.wrongMedium, form.wrongMediumText);
+    alert(tr(form.wrongMedium), tr(form.wrongMediumText));
     if (m_b_Debug_Mode)
-        alert(type, form.warning);
+        alert(type, tr(form.warning));
     return false;
 }

@@ -6,12 +6,13 @@
 /// The checks before a disc is written, in their order, and what each failure says.
 struct AppDelegate::DiscForm {
     int code; ///< of the project type
-    QLatin1StringView nothingListed; ///< message when the list is empty
-    QLatin1StringView nothingListedText;
+    const char
+        *nothingListed; ///< message when the list is empty; this and the other texts in English, for tr()
+    const char *nothingListedText;
     QLatin1StringView mediaType; ///< what the probe must answer
-    QLatin1StringView wrongMedium; ///< message when it answers something else
-    QLatin1StringView wrongMediumText;
-    QLatin1StringView warning; ///< the code of the second alert of debug mode
+    const char *wrongMedium; ///< message when it answers something else
+    const char *wrongMediumText;
+    const char *warning; ///< the code of the second alert of debug mode
 };
 
 /// One of the forms of an audio disc.
@@ -26,20 +27,20 @@ struct AppDelegate::AudioForm {
 
 namespace writing {
 
-inline constexpr QLatin1StringView notCD("Media not CD");
-inline constexpr QLatin1StringView notCDText(
-    "The media on the drive is not a CD. insert a writable CD on the drive and try again.");
-inline constexpr QLatin1StringView notDVD("Media not DVD");
-inline constexpr QLatin1StringView notDVDText(
-    "The media on the drive is not a DVD. insert a writable DVD on the drive and try again.");
-inline constexpr QLatin1StringView notBluray("Media not Blu-ray");
-inline constexpr QLatin1StringView notBlurayText(
+inline constexpr const char *notCD = QT_TRANSLATE_NOOP("AppDelegate", "Media not CD");
+inline constexpr const char *notCDText = QT_TRANSLATE_NOOP(
+    "AppDelegate", "The media on the drive is not a CD. insert a writable CD on the drive and try again.");
+inline constexpr const char *notDVD = QT_TRANSLATE_NOOP("AppDelegate", "Media not DVD");
+inline constexpr const char *notDVDText = QT_TRANSLATE_NOOP(
+    "AppDelegate", "The media on the drive is not a DVD. insert a writable DVD on the drive and try again.");
+inline constexpr const char *notBluray = QT_TRANSLATE_NOOP("AppDelegate", "Media not Blu-ray");
+inline constexpr const char *notBlurayText = QT_TRANSLATE_NOOP("AppDelegate",
     "The media on the drive is not a Blu-ray. insert a writable Blu-ray on the drive and try again.");
-inline constexpr QLatin1StringView noDisc("No disc");
-inline constexpr QLatin1StringView noDiscText(
-    "There is no disc on the drive. insert a writable media on the drive and try again.");
-inline constexpr QLatin1StringView notWritable("Media not writable");
-inline constexpr QLatin1StringView notWritableText(
+inline constexpr const char *noDisc = QT_TRANSLATE_NOOP("AppDelegate", "No disc");
+inline constexpr const char *noDiscText = QT_TRANSLATE_NOOP(
+    "AppDelegate", "There is no disc on the drive. insert a writable media on the drive and try again.");
+inline constexpr const char *notWritable = QT_TRANSLATE_NOOP("AppDelegate", "Media not writable");
+inline constexpr const char *notWritableText = QT_TRANSLATE_NOOP("AppDelegate",
     "The media on the drive is not writable. insert a writable media on the drive and try again.");
 
 /// ffmpeg's arguments for one track of an audio CD: 16-bit PCM, 44100 Hz, two channels.

@@ -2,6 +2,8 @@
 
 #include "compilation/FolderTree.h"
 
+#include <QCoreApplication>
+
 #include <array>
 #include <cerrno>
 #include <climits>
@@ -21,6 +23,12 @@ namespace writing {
 namespace {
 
 using compilation::TreeCursor;
+
+/// Called on the thread that copies.
+std::string translated(const char *text)
+{
+    return QCoreApplication::translate("FolderStaging", text).toStdString();
+}
 
 /// A file descriptor that is closed with its scope.
 class Descriptor {
@@ -67,7 +75,10 @@ public:
         if (::fstat(at.fd(), &info) != 0)
             return fail(here(), errno), false;
         if (std::pair(info.st_dev, info.st_ino) == m_never)
-            return fail(here(), "is the folder in which the disc is gathered, and is left out"), false;
+            return fail(here(),
+                       translated(QT_TRANSLATE_NOOP(
+                           "FolderStaging", "is the folder in which the disc is gathered, and is left out"))),
+                   false;
         if (m_state.stop)
             return false;
         if ((::mkdirat(m_to.fd(), name.c_str(), S_IRWXU) != 0 && errno != EEXIST) || !m_to.enter(name))
@@ -88,7 +99,9 @@ public:
         else if (S_ISLNK(info.st_mode))
             copyLink(entry.name, info);
         else if (!S_ISREG(info.st_mode))
-            fail(here(entry.name), "is no file, folder or link, and is left out");
+            fail(here(entry.name),
+                translated(
+                    QT_TRANSLATE_NOOP("FolderStaging", "is no file, folder or link, and is left out")));
         else if (info.st_nlink == 1 || !linkToFirst(entry.name, info))
             copyFile(entry.name, entry.name);
         return false;
@@ -133,7 +146,8 @@ public:
         m_folders.pop_back();
         if (m_to.leave())
             return;
-        fail(here(), "its copy was moved while it was being made");
+        fail(here(),
+            translated(QT_TRANSLATE_NOOP("FolderStaging", "its copy was moved while it was being made")));
         m_state.stop = true;
     }
 
@@ -324,7 +338,8 @@ void copyFolder(const std::string &source, const std::string &destination, const
     TreeCursor from(source);
     TreeCursor to(destination);
     if (name.empty() || name == "." || name == "..")
-        failed(source + ": has no name under which it could be copied");
+        failed(source + ": "
+            + translated(QT_TRANSLATE_NOOP("FolderStaging", "has no name under which it could be copied")));
     else if (from.fd() < 0 || to.fd() < 0)
         failed((from.fd() < 0 ? source : destination) + ": " + std::generic_category().message(errno));
     else if (Copier copier(from, path, to, destination + '/' + name, never, state, failed);
@@ -332,7 +347,8 @@ void copyFolder(const std::string &source, const std::string &destination, const
         if (walkTree(copier))
             copier.finishFolder();
         else
-            copier.fail(copier.here(), "was moved while it was being copied");
+            copier.fail(copier.here(),
+                translated(QT_TRANSLATE_NOOP("FolderStaging", "was moved while it was being copied")));
     }
     state.ended = true;
 }
@@ -352,7 +368,8 @@ void copyFile(const std::string &source, const std::string &destination, CopySta
     else if (to.fd() < 0)
         failed(destination + ": " + std::generic_category().message(errno));
     else if (!S_ISREG(info.st_mode))
-        failed(source + ": is no file, folder or link, and is left out");
+        failed(source + ": "
+            + translated(QT_TRANSLATE_NOOP("FolderStaging", "is no file, folder or link, and is left out")));
     else
         Copier(from, folder == "/" ? "" : folder, to, destination, {}, state, failed)
             .copyFile(real.filename(), source.substr(source.find_last_of('/') + 1));

@@ -17,7 +17,7 @@ void AppDelegate::OnActionISOCreate()
     SourcePath = DestPath = DestPathISO = QString();
     OpenPanel panel;
     panel.choose = OpenPanel::Choose::Folder;
-    panel.message = u"Select a folder to export to ISO format."_s;
+    panel.message = tr("Select a folder to export to ISO format.");
     const QList<QUrl> chosen = around.questions->choose(panel, window);
     if (chosen.isEmpty())
         return;
@@ -33,7 +33,7 @@ void AppDelegate::TimerCreateISOStep1Routine()
 {
     OpenPanel panel;
     panel.choose = OpenPanel::Choose::Folder;
-    panel.message = u"Select a folder to save the Image.iso file."_s;
+    panel.message = tr("Select a folder to save the Image.iso file.");
     panel.startFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QList<QUrl> chosen = around.questions->choose(panel, window);
     if (chosen.isEmpty())
@@ -74,14 +74,14 @@ void AppDelegate::OnActionISOBurn()
         return;
     OpenPanel panel;
     panel.extensions = { u"iso"_s, u"img"_s, u"dmg"_s };
-    panel.message = u"Select a ISO image to burn to media."_s;
+    panel.message = tr("Select a ISO image to burn to media.");
     const QList<QUrl> chosen = around.questions->choose(panel, window);
     if (chosen.isEmpty())
         return;
     if (IsDriveEmpty())
-        return alert(writing::noDisc, writing::noDiscText);
+        return alert(tr(writing::noDisc), tr(writing::noDiscText));
     if (!IsMediaOneTimeWritable() && !IsMediaReWritable())
-        return alert(writing::notWritable, writing::notWritableText);
+        return alert(tr(writing::notWritable), tr(writing::notWritableText));
     const QFileInfo image(chosen.first().toLocalFile());
     writing::Work work = workOn(0, {});
     work.name = tr("Image %1").arg(image.fileName().simplified());

@@ -191,7 +191,7 @@ QString Job::reasonOf(const ToolRun &run) const
     // Our tools begin a failure with their name, as command-line programs do.
     if (endedItself && !m_lastWords.isEmpty())
         return forPerson(m_lastWords.mid(m_lastWords.startsWith(tool + u": "_s) ? tool.size() + 2 : 0));
-    const QString happened = end.how == ToolEnd::How::Stopped ? QString() : tool + u' ' + end.text() + u'.';
+    const QString happened = end.how == ToolEnd::How::Stopped ? QString() : end.sentence(tool) + u'.';
     return joined(
         happened, end.how == ToolEnd::How::CouldNotStart ? tr("The disc is as it was.") : stateOfDisc());
 }

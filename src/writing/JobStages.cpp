@@ -22,18 +22,14 @@ using writing::Progress;
 writing::Work AppDelegate::workOn(int code, const QString &workingFolder) const
 {
     writing::Work work;
+    work.kind = code;
     if (const ProjectType *type = projects::byCode(code))
-        work.name = type->name;
+        work.name = type->shownName();
     work.compared = code != projects::byCode(1)->code; // the samples of an audio track are not read back
     work.drive = driveTitle();
     work.workingFolder = workingFolder;
     work.rewritable = drives::saysErasable(m_lastStatus);
     return work;
-}
-
-QString AppDelegate::counted(qint64 count, const QString &one, const QString &many)
-{
-    return count == 1 ? one : many.arg(count);
 }
 
 void AppDelegate::describeConverted(const QString &folder)
@@ -44,10 +40,9 @@ void AppDelegate::describeConverted(const QString &folder)
         bytes += file.size();
     if (files.isEmpty())
         job->foundNothing();
-    const bool tracks = job->work().name == projects::byCode(1)->name;
-    job->describe(tracks ? counted(files.size(), tr("1 track"), tr("%1 tracks"))
-                         : counted(files.size(), tr("1 file"), tr("%1 files")),
-        bytes);
+    const int count = static_cast<int>(files.size());
+    const bool tracks = job->work().kind == projects::byCode(1)->code;
+    job->describe(tracks ? tr("%Ln track(s)", nullptr, count) : tr("%Ln file(s)", nullptr, count), bytes);
 }
 
 bool AppDelegate::beginJob(const writing::Work &work)
@@ -237,8 +232,8 @@ void AppDelegate::gatherFolders()
             job->gathered(
                 so_far.folder, so_far.number, so_far.count, so_far.files, so_far.bytes, so_far.bytesExpected);
             if (so_far.didNotFit > 0)
-                job->remark(
-                    tr("%1 files or folders did not fit where the disc is gathered.").arg(so_far.didNotFit));
+                job->remark(tr("%Ln files or folders did not fit where the disc is gathered.", nullptr,
+                    static_cast<int>(so_far.didNotFit)));
         });
     connect(&gathering, &writing::FolderGathering::leftOut, this, [this](const QString &what) {
         activityLog->note(tr("Not copied"), what);

@@ -1,17 +1,6 @@
 #include "writing/Outcome.h"
 
-#include <QCoreApplication>
-
 namespace writing {
-
-namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Outcome", text);
-}
-
-} // namespace
 
 int Outcome::exitStatus() const
 {
@@ -37,7 +26,7 @@ QStringList Outcome::lines(qsizetype most) const
     const QStringList things = leftOut + changed;
     lines += things.first(qMin(most, things.size()));
     if (things.size() > most)
-        lines.append(tr("and %1 more").arg(things.size() - most));
+        lines.append(tr("and %Ln more", nullptr, static_cast<int>(things.size() - most)));
     return lines;
 }
 

@@ -1,6 +1,7 @@
 // How a job ended, as a value. The closing sheet, the batch form and whoever else wants to know read the same one.
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -10,7 +11,8 @@ namespace writing {
 struct Work {
     enum class Result { Disc, Image, BlankDisc };
     Result result = Result::Disc;
-    QString name; ///< as a person calls it: "Audio CD", "Copy of a disc"
+    int kind = 0; ///< code of the project type; 0: none of them
+    QString name; ///< as a person calls it: "Audio CD", "Copy of a disc"; in the language of the windows
     QString drive; ///< vendor and product; empty: the tool chooses one, or none is needed
     QString workingFolder; ///< claimed for the time of the job and not named to a person; empty: none
     QString image; ///< of Result::Image: its full path
@@ -38,6 +40,8 @@ struct Outcome {
     QStringList lines(qsizetype most) const;
 
     static QString headingOf(How how, Work::Result result);
+
+    Q_DECLARE_TR_FUNCTIONS(Outcome)
 };
 
 } // namespace writing

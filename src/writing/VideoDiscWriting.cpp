@@ -7,22 +7,22 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QLatin1StringView noVideo("No video files on the list");
-constexpr QLatin1StringView noVideoText(
-    "There are no video files on the list. Add video files to the list and try again.");
+constexpr const char *noVideo = QT_TRANSLATE_NOOP("AppDelegate", "No video files on the list");
+constexpr const char *noVideoText = QT_TRANSLATE_NOOP(
+    "AppDelegate", "There are no video files on the list. Add video files to the list and try again.");
 
 } // namespace
 
 void AppDelegate::Burn_Video_DVD()
 {
-    burnVideo(
-        { 4, noVideo, noVideoText, "DVD"_L1, writing::notDVD, writing::notDVDText, "Warning 0000."_L1 });
+    burnVideo({ 4, noVideo, noVideoText, "DVD"_L1, writing::notDVD, writing::notDVDText,
+        QT_TRANSLATE_NOOP("AppDelegate", "Warning 0000.") });
 }
 
 void AppDelegate::Burn_Video_Bluray()
 {
-    burnVideo(
-        { 5, noVideo, noVideoText, "BD"_L1, writing::notBluray, writing::notBlurayText, "Warning 0090."_L1 });
+    burnVideo({ 5, noVideo, noVideoText, "BD"_L1, writing::notBluray, writing::notBlurayText,
+        QT_TRANSLATE_NOOP("AppDelegate", "Warning 0090.") });
 }
 
 void AppDelegate::burnVideo(const DiscForm &form)

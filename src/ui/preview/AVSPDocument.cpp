@@ -5,6 +5,7 @@
 #include "ui_AVSPDocument.h"
 
 #include <QKeyEvent>
+#include <QLocale>
 #include <QMimeDatabase>
 #include <QScreen>
 #include <QTimer>
@@ -198,7 +199,7 @@ void AVSPDocument::observeRate(double rate)
     m_ui->playPauseButton->setText(plays ? tr("Pause") : tr("Play"));
     m_ui->playPauseButton->setAccessibleName(m_ui->playPauseButton->text());
     m_ui->rateLabel->setText(
-        plays || rate == 0 ? QString() : u"%1×"_s.arg(QString::number(rate).replace(u'-', u'−')));
+        plays || rate == 0 ? QString() : u"%1×"_s.arg(QLocale().toString(rate).replace(u'-', u'−')));
     giveSigns();
     Q_EMIT rateChanged(rate);
     observeTime();

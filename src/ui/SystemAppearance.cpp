@@ -1,11 +1,10 @@
 #include "ui/SystemAppearance.h"
 
+#include "desktop/Bus.h"
 #include "ui/DesktopColours.h"
 
 #include <QCoreApplication>
-#include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QEvent>
 #include <QFileInfo>
@@ -14,7 +13,6 @@
 #include <QPointer>
 #include <QSettings>
 #include <QStandardPaths>
-#include <QThread>
 
 #include <utility>
 
@@ -27,14 +25,6 @@ const auto portalPath = u"/org/freedesktop/portal/desktop"_s;
 const auto portalInterface = u"org.freedesktop.portal.Settings"_s;
 const auto appearanceNamespace = u"org.freedesktop.appearance"_s;
 const auto colourSchemeKey = u"color-scheme"_s;
-
-/// Without this test libdbus would try to start a bus of its own, which takes long and leaves a process
-/// behind.
-bool hasSessionBus()
-{
-    return !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")
-        || QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus"_L1);
-}
 
 bool isDarkPalette(const QPalette &palette)
 {
@@ -59,8 +49,10 @@ SystemAppearance::SystemAppearance(QObject *parent)
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &SystemAppearance::watchFile);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &SystemAppearance::watchFile);
     watchFile();
-    if (hasSessionBus())
-        connectToPortal();
+    desktop::withBus(desktop::Bus::Session, this, [this](const QDBusConnection &bus) {
+        if (bus.isConnected())
+            askPortal(bus);
+    });
 }
 
 bool SystemAppearance::isDark() const
@@ -129,30 +121,16 @@ void SystemAppearance::watchFile()
     signalIfChanged();
 }
 
-void SystemAppearance::connectToPortal()
+void SystemAppearance::askPortal(QDBusConnection bus)
 {
-    // Opening the connection waits for the bus to greet, and a bus can hang.
-    auto *thread = QThread::create([] { QDBusConnection::sessionBus(); });
-    connect(thread, &QThread::finished, this, &SystemAppearance::askPortal);
-    connect(thread, &QThread::finished, thread, &QObject::deleteLater);
-    thread->start();
-}
-
-void SystemAppearance::askPortal()
-{
-    auto bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected())
-        return;
     qRegisterMetaType<QDBusVariant>(); // the slot's parameters are looked up by name
     // With a service name this call would wait for the bus to tell who owns it.
     bus.connect({}, portalPath, portalInterface, u"SettingChanged"_s, this,
         SLOT(onPortalSettingChanged(QString, QString, QDBusVariant)));
     auto question = QDBusMessage::createMethodCall(portalService, portalPath, portalInterface, u"Read"_s);
     question << appearanceNamespace << colourSchemeKey;
-    auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-        const QDBusPendingReply<QDBusVariant> reply = *watcher;
-        watcher->deleteLater();
+    desktop::ask(bus, question, this, [this](const QDBusMessage &answer) {
+        const QDBusPendingReply<QDBusVariant> reply = answer;
         if (reply.isValid())
             setPortalAnswer(reply.value().variant());
     });

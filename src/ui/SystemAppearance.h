@@ -1,6 +1,7 @@
 // Whether the desktop is dark.
 #pragma once
 
+#include <QDBusConnection>
 #include <QDBusVariant>
 #include <QDateTime>
 #include <QFileSystemWatcher>
@@ -50,8 +51,7 @@ private Q_SLOTS:
 
 private:
     void watchFile();
-    void connectToPortal();
-    void askPortal();
+    void askPortal(QDBusConnection bus);
     void setPortalAnswer(QVariant value);
     void signalIfChanged();
     void givePalette();

@@ -5,6 +5,7 @@
 #include "app/MainWindow.h"
 #include "app/StopOnSignals.h"
 #include "app/Surface.h"
+#include "desktop/JobPresence.h"
 #include "kit/SymbolIcon.h"
 
 #include <QApplication>
@@ -140,6 +141,7 @@ int runWindow()
     WindowQuestions questions;
     MainWindow window;
     AppDelegate controller(&window, Surroundings::ofThisMachine(&questions));
+    const desktop::JobPresence presence(&controller, desktop::JobPresence::Audience::Person);
     controller.awakeFromNib();
     controller.applicationDidFinishLaunching();
     return QApplication::exec();
@@ -165,6 +167,9 @@ int runBatch(const BatchJob &job)
         QObject::connect(begun, &writing::Job::ended, begun,
             [&status](const writing::Outcome &outcome) { status = outcome.exitStatus(); });
     });
+    using desktop::JobPresence;
+    const JobPresence presence(
+        &controller, job.show ? JobPresence::Audience::Person : JobPresence::Audience::Nobody);
     BatchRun batch(job, &controller, &questions, [exitProcess](int end) {
         StopOnSignals::endByCaughtOne();
         exitProcess(end);

@@ -304,6 +304,7 @@ private:
     void mediaFilesAdded(ListKind kind, const Measuring &measuring);
     template <class Record>
     void insertRecords(ListTableView *table, QList<Record> &list, const QList<Record> &records, int before);
+    void addData(const QStringList &paths, int before); ///< folders and files
     void insertMedia(ListKind kind, const QList<NodeMediaFile> &records, int before);
     template <class Record>
     void deleteSelected(ListTableView *table, QList<Record> &list);

@@ -199,6 +199,9 @@ void AppDelegate::addDroppedFiles(const QList<QUrl> &urls, int before)
         alert(Questions::unusableFiles(), Questions::unreadableNamesText() + u"\n\n"_s + namesOf(unreadable));
     if (tab != 2)
         return addMediaFiles(kind, taken, before);
+    QStringList paths;
     for (const QUrl &url : std::as_const(taken))
-        addDataFolder(QDir::cleanPath(url.toLocalFile()), before < 0 ? before : before++);
+        paths.append(QDir::cleanPath(url.toLocalFile()));
+    if (!paths.isEmpty())
+        addData(paths, before);
 }

@@ -33,7 +33,15 @@ void AppDelegate::insertMedia(ListKind kind, const QList<NodeMediaFile> &records
 
 void AppDelegate::addDataFolder(const QString &path, int before)
 {
-    insertRecords(ui->tableviewDataFolders, arrayDataFolders, { compilation::dataRecord(path) }, before);
+    addData({ path }, before);
+}
+
+void AppDelegate::addData(const QStringList &paths, int before)
+{
+    QList<NodeDataFolder> records;
+    for (const QString &path : paths)
+        records.append(compilation::dataRecord(path));
+    insertRecords(ui->tableviewDataFolders, arrayDataFolders, records, before);
 }
 
 template <class Record>

@@ -227,14 +227,14 @@ QList<NodeMediaFile> AppDelegate::mediaOf(const Opening &opening, const QList<No
 
 void AppDelegate::tellMissing(int count)
 {
-    const Alert question{ tr("%n entry(s) of the list cannot be found", nullptr, count),
-        tr("They stay on the list, marked. If they were moved, show a folder in which they are now, at any "
-           "depth: they "
-           "are found there by their names."),
+    Alert question{ tr("%n entry(s) of the list cannot be found", nullptr, count),
+        tr("What is missing stays on the list, marked. If it was moved, show a folder in which it is now, at "
+           "any "
+           "depth: "
+           "it is found there by its name."),
         { tr("Close"), tr("Find in a Folder…") } };
-    Alert asked = question;
-    asked.dismissed = 0;
-    if (around.questions->ask(asked, window) == 1)
+    question.dismissed = 0;
+    if (around.questions->ask(question, window) == 1)
         OnMenuFindMissing();
 }
 

@@ -48,13 +48,14 @@ QString damaged(const QString &where)
 QString objectionTo(const ListFile::Entry &entry, qsizetype number)
 {
     const auto tell = [number](const char *sentence) { return say(sentence).arg(number); };
-    if (!QDir::isAbsolutePath(entry.path))
+    // Not as the toolkit sees it, to which ":" is the root of what is compiled in.
+    if (!entry.path.startsWith(u'/'))
         return tell(QT_TRANSLATE_NOOP("ListFile", "entry %1 has no full path"));
     for (const TextRow &row : texts) {
         if ((entry.*row.text).contains(QChar(u'\0')) || !(entry.*row.text).isValidUtf16())
             return tell(QT_TRANSLATE_NOOP("ListFile", "entry %1 has characters that no name can have"));
     }
-    return QDir::isAbsolutePath(entry.relative)
+    return entry.relative.startsWith(u'/')
         ? tell(QT_TRANSLATE_NOOP("ListFile", "the relative path of entry %1 is none"))
         : QString();
 }

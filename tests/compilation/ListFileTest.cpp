@@ -76,6 +76,8 @@ private Q_SLOTS:
                                  << damaged + u"entry 2 has no full path."_s;
         QTest::newRow("path that is not full")
             << listOf(R"([{"path":"../../etc/passwd"}])") << damaged + u"entry 1 has no full path."_s;
+        QTest::newRow("path into the program itself")
+            << listOf(R"([{"path":":/icons/x.svg"}])") << damaged + u"entry 1 has no full path."_s;
         QTest::newRow("a NUL") << listOf("[{\"path\":\"/a\\u0000b\"}]")
                                << damaged + u"entry 1 has characters"_s;
         QTest::newRow("half a character")

@@ -12,6 +12,7 @@ struct Compilation {
     QList<NodeMediaFile> media;
     QList<NodeDataFolder> folders;
     QString discName;
+    QString listPath; ///< the file in which it is kept; empty: none yet
 
     bool isEmpty() const { return media.isEmpty() && folders.isEmpty(); }
     /// The same entries in the same order for the same kind of disc. Quick where the lists share their memory.

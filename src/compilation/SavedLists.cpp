@@ -117,6 +117,7 @@ bool AppDelegate::saveList(const QString &path)
     }
     m_lists->path = path;
     m_lists->saved = now;
+    listsChanged(); // nothing but where it is kept
     rememberList(path);
     return true;
 }
@@ -183,8 +184,8 @@ void AppDelegate::finishOpening()
         arrayMediaFiles = mediaOf(*opening, arrayMediaFiles);
     refreshTable(selectedTable());
     focusList();
-    noteLists();
     m_lists->path = opening->path;
+    noteLists();
     if (opening->asSaved) {
         m_lists->saved = present();
         rememberList(opening->path);

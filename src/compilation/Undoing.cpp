@@ -10,12 +10,15 @@
 Compilation AppDelegate::present() const
 {
     const int tab = selectedTable() ? ui->tabviewMain->currentIndex() : m_lists->tab;
-    return { tab, variantOf(tab), arrayMediaFiles, arrayDataFolders, s_Disc_Name };
+    return { tab, variantOf(tab), arrayMediaFiles, arrayDataFolders, s_Disc_Name, m_lists->path };
 }
 
 void AppDelegate::show(const Compilation &compilation)
 {
+    const Compilation saved = compilation.listPath == m_lists->path ? m_lists->saved : Compilation();
     beginKind(*projects::byVariant(compilation.tab, compilation.variant));
+    m_lists->path = compilation.listPath;
+    m_lists->saved = saved;
     arrayMediaFiles = compilation.media;
     arrayDataFolders = compilation.folders;
     setDiscName(compilation.discName);

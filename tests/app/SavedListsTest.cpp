@@ -117,6 +117,34 @@ private Q_SLOTS:
         QCOMPARE(compilation::readListFile(list).list.kind, u"MP3 CD"_s);
     }
 
+    void undoingKeepsTheFile()
+    {
+        start();
+        const QString list = place(u"a.corvalis"_s);
+        saveAs(list);
+        QCoreApplication::processEvents();
+        m_app->press("toolbar_btn_Audio_Clear");
+        QCoreApplication::processEvents();
+        m_app->trigger("menuitemUndo");
+        const qsizetype panels = m_app->asked.panels.size();
+        m_app->trigger("menuitemListSave");
+        QCOMPARE(m_app->asked.panels.size(), panels);
+        QCOMPARE(compilation::readListFile(list).list.entries.size(), 2);
+        // Another list of the same kind was opened in between: each goes into its own file.
+        saveAs(place(u"b.corvalis"_s));
+        QCoreApplication::processEvents();
+        m_app->press("toolbar_btn_Audio_Clear");
+        QCoreApplication::processEvents();
+        open(list);
+        QCOMPARE(m_app->texts(), QStringList());
+        m_app->trigger("menuitemUndo");
+        m_app->trigger("menuitemUndo");
+        QVERIFY(m_app->add({ m_app->file(u"c.mp3"_s) }));
+        m_app->trigger("menuitemListSave");
+        QCOMPARE(compilation::readListFile(list).list.entries.size(), 2);
+        QCOMPARE(compilation::readListFile(place(u"b.corvalis"_s)).list.entries.size(), 3);
+    }
+
     void changesAreAskedAbout_data()
     {
         QTest::addColumn<int>("button");

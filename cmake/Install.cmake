@@ -1,4 +1,4 @@
-# What is shipped and where it goes, and the Debian package (`cpack -G DEB` in a release build).
+# What is shipped and where it goes; debian/ makes a package of it.
 # The main CMakeLists.txt includes this last, when every target is known.
 set(CORVALIS_LIBEXEC ${CMAKE_INSTALL_LIBEXECDIR}/corvalis)
 set(packaging ${PROJECT_SOURCE_DIR}/packaging)
@@ -7,7 +7,7 @@ set(packaging ${PROJECT_SOURCE_DIR}/packaging)
 # need no more than that.
 set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
 add_custom_target(programs)
-foreach(program corvalis drutil hdiutil corvalis_preview)
+foreach(program corvalis drutil hdiutil corvalis_preview guide)
   if(TARGET ${program})
     add_dependencies(programs ${program})
   endif()
@@ -25,8 +25,7 @@ install(PROGRAMS ${CMAKE_BINARY_DIR}/libexec/corvalis/ffmpeg DESTINATION ${CORVA
 
 install(FILES src/kit/icons/corvalis.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES ${packaging}/corvalis.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES ${packaging}/org.corvalis.Corvalis.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-install(FILES ${packaging}/copyright README.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/corvalis)
+install(FILES debian/copyright README.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/corvalis)
 
 # Installed compressed, without a time stamp so that a build can be reproduced.
 function(install_compressed file name destination)
@@ -44,22 +43,3 @@ foreach(page ${pages})
   get_filename_component(name ${page} NAME)
   install_compressed(${page} ${name} ${CMAKE_INSTALL_MANDIR}/man1)
 endforeach()
-
-set(CPACK_GENERATOR DEB)
-set(CPACK_PACKAGE_NAME corvalis)
-set(CPACK_PACKAGE_CONTACT "The Corvalis developers <corvalis@localhost>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "prepare and write CDs, DVDs and Blu-ray discs")
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
-set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_SECTION otherosfs)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "ffmpeg, qt6-qpa-plugins")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, qt6-translations-l10n, udisks2")
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-"Choose a kind of disc, fill the list, watch the gauge, press one button. Corvalis
-makes audio, MP3, video and data discs, ISO images of folders and copies of discs,
-erases rewritable ones, and plays what is listed.
-.
-Where there is no burner it writes to a virtual recorder, whose discs are files.")
-include(CPack)

@@ -54,6 +54,8 @@ Surroundings Surroundings::ofThisMachine(Questions *questions)
     around.drutil = toolPath(u"drutil"_s);
     around.hdiutil = toolPath(u"hdiutil"_s);
     around.resources = QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../libexec/corvalis"_s);
+    around.guide = QDir::cleanPath(
+        QCoreApplication::applicationDirPath() + u"/../share/corvalis/guide/user-guide.html"_s);
     around.questions = questions;
     around.exitProcess = exitAtOnce;
     return around;

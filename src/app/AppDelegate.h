@@ -138,7 +138,7 @@ public:
     void OnMenuQuit();
     void OnMenuDebugMode();
     void OnMenuHelpAppHomePage(), OnMenuHelpCompanyHomePage(), OnMenuHelpSubmitTicket(),
-        OnMenuHelpPrivacyPolicy(), OnMenuHelpAbout();
+        OnMenuHelpPrivacyPolicy(), OnMenuHelpUserGuide(), OnMenuHelpAbout();
     void OnMenuActivityLog();
 
     // ---- Project types, modes and tabs (app/)

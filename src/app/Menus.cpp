@@ -1,4 +1,5 @@
 // Quit, debug mode, help, and the activity log.
+#include "app/Addresses.h"
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
 #include "app/Window_Activity_Log.h"
@@ -6,18 +7,9 @@
 
 #include <QCoreApplication>
 #include <QDesktopServices>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The pages that the Help menu opens.
-const QUrl homePage(u"https://corvalis.example/"_s);
-const QUrl makersHomePage(u"https://corvalis.example/makers/"_s);
-const QUrl supportTicket(u"https://corvalis.example/support/ticket/"_s);
-const QUrl privacyPolicy(u"https://corvalis.example/privacy/"_s);
-
-} // namespace
 
 void AppDelegate::OnMenuQuit()
 {
@@ -39,22 +31,28 @@ void AppDelegate::openPage(const QUrl &page)
 
 void AppDelegate::OnMenuHelpAppHomePage()
 {
-    openPage(homePage);
+    openPage(QUrl(addresses::homePage.toString()));
 }
 
 void AppDelegate::OnMenuHelpCompanyHomePage()
 {
-    openPage(makersHomePage);
+    openPage(QUrl(addresses::makersHomePage.toString()));
 }
 
 void AppDelegate::OnMenuHelpSubmitTicket()
 {
-    openPage(supportTicket);
+    openPage(QUrl(addresses::supportTicket.toString()));
 }
 
 void AppDelegate::OnMenuHelpPrivacyPolicy()
 {
-    openPage(privacyPolicy);
+    openPage(QUrl(addresses::privacyPolicy.toString()));
+}
+
+void AppDelegate::OnMenuHelpUserGuide()
+{
+    const bool installed = QFileInfo(around.guide).isFile();
+    openPage(installed ? QUrl::fromLocalFile(around.guide) : QUrl(addresses::guide.toString()));
 }
 
 void AppDelegate::OnMenuHelpAbout()

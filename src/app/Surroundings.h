@@ -13,6 +13,7 @@ struct Surroundings {
     QString drutil; ///< full path of the disc utility
     QString hdiutil; ///< full path of the disk-image utility
     QString resources; ///< the folder of the application's own resources
+    QString guide; ///< full path of the user guide; where there is no such file, the web has it
     int probeLimit = 60'000; ///< ms after which a probe that gives no answer is ended
     int stagingPoll = 60'000; ///< ms between two measurements of a folder that is being copied
     int copyEndLimit = 10'000; ///< ms that a folder copy has to stop when the disc is written

@@ -110,6 +110,7 @@ const ItemRow items[] = {
     { &U::menuitemDiscInfo, &D::OnToolsDiscInfo },
     { &U::menuitemColors, &D::OnToolsColors },
     { &U::menuitemActivityLog, &D::OnMenuActivityLog },
+    { &U::menuitemHelpUserGuide, &D::OnMenuHelpUserGuide },
     { &U::menuitemHelpAppHomePage, &D::OnMenuHelpAppHomePage },
     { &U::menuitemHelpCompanyHomePage, &D::OnMenuHelpCompanyHomePage },
     { &U::menuitemHelpSubmitTicket, &D::OnMenuHelpSubmitTicket },

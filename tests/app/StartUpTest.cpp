@@ -66,6 +66,9 @@ private Q_SLOTS:
     void debugMode();
     void helpPages();
     void helpPageWithoutABrowser();
+    void userGuide_data();
+    void userGuide();
+    void addressesThatExist();
     void about();
 };
 
@@ -383,9 +386,16 @@ class Browser : public QObject {
     Q_OBJECT
 public:
     QStringList pages;
-    Browser() { QDesktopServices::setUrlHandler(u"https"_s, this, "open"); }
-    ~Browser() override { QDesktopServices::unsetUrlHandler(u"https"_s); }
+    explicit Browser(const QString &opened)
+        : scheme(opened)
+    {
+        QDesktopServices::setUrlHandler(scheme, this, "open");
+    }
+    ~Browser() override { QDesktopServices::unsetUrlHandler(scheme); }
     Q_INVOKABLE void open(const QUrl &url) { pages.append(url.toString()); }
+
+private:
+    const QString scheme;
 };
 
 void StartUpTest::helpPageWithoutABrowser()
@@ -401,7 +411,7 @@ void StartUpTest::helpPageWithoutABrowser()
 
 void StartUpTest::helpPages()
 {
-    Browser browser;
+    Browser browser(u"https"_s);
     TestApplication app;
     app.launch();
     for (const char *item : { "menuitemHelpAppHomePage", "menuitemHelpCompanyHomePage",
@@ -412,6 +422,54 @@ void StartUpTest::helpPages()
     }
     QVERIFY(app.questions.alerts.isEmpty());
     QCOMPARE(QSet<QString>(browser.pages.cbegin(), browser.pages.cend()).size(), 4);
+}
+
+void StartUpTest::userGuide_data()
+{
+    QTest::addColumn<bool>("installed");
+    QTest::newRow("the installed one") << true;
+    QTest::newRow("the one on the web, where none is installed") << false;
+}
+
+void StartUpTest::userGuide()
+{
+    QFETCH(bool, installed);
+    Browser web(u"https"_s);
+    Browser files(u"file"_s);
+    TestApplication app;
+    app.around.guide = app.folder.filePath(u"a guide.html"_s);
+    if (installed) {
+        QFile guide(app.around.guide);
+        QVERIFY(guide.open(QFile::WriteOnly));
+    }
+    app.launch();
+    person::choose(app.window.get(), "menuitemHelpUserGuide");
+    QVERIFY(app.questions.alerts.isEmpty());
+    if (installed) {
+        QCOMPARE(files.pages, QStringList(QUrl::fromLocalFile(app.around.guide).toString()));
+        QVERIFY(web.pages.isEmpty());
+    } else {
+        QCOMPARE(web.pages.size(), 1);
+        QVERIFY(files.pages.isEmpty());
+    }
+}
+
+void StartUpTest::addressesThatExist()
+{
+    Browser browser(u"https"_s);
+    TestApplication app;
+    app.launch();
+    for (const char *item : { "menuitemHelpUserGuide", "menuitemHelpAppHomePage",
+             "menuitemHelpCompanyHomePage", "menuitemHelpSubmitTicket", "menuitemHelpPrivacyPolicy" })
+        person::choose(app.window.get(), item);
+    QCOMPARE(browser.pages.size(), 5);
+    for (const QString &page : std::as_const(browser.pages)) {
+        const QString host = QUrl(page).host();
+        QVERIFY2(host.contains(u'.'), qPrintable(page));
+        // RFC 2606: names under which nobody will ever be found.
+        for (const auto &nowhere : { u".example"_s, u".test"_s, u".invalid"_s, u".localhost"_s })
+            QVERIFY2(!host.endsWith(nowhere) && !host.contains(u"example."_s), qPrintable(page));
+    }
 }
 
 void StartUpTest::about()

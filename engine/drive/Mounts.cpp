@@ -2,6 +2,7 @@
 
 #include "base/Words.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <chrono>
@@ -38,20 +39,30 @@ std::string unescaped(const std::string &field)
     return text;
 }
 
-/// Runs a program without output and waits half a minute for it; false when it fails or takes longer.
-bool run(const std::vector<std::string> &arguments)
+/// As the system's calls want a list: pointers into `words`, which has to live as long, and a null pointer.
+std::vector<char *> pointersTo(std::vector<std::string> &words)
 {
-    std::vector<char *> argv;
-    argv.reserve(arguments.size() + 1);
-    for (const std::string &argument : arguments)
-        argv.push_back(const_cast<char *>(argument.c_str()));
-    argv.push_back(nullptr);
+    std::vector<char *> pointers;
+    pointers.reserve(words.size() + 1);
+    for (std::string &word : words)
+        pointers.push_back(word.data());
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+/// Runs a program without output and waits half a minute for it; false when it fails or takes longer.
+bool run(std::vector<std::string> arguments)
+{
+    const std::vector<char *> argv = pointersTo(arguments);
+    std::vector<std::string> variables = unmountersEnvironment(environ);
+    const std::vector<char *> environment = pointersTo(variables);
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     for (const int fd : { 0, 1, 2 })
         posix_spawn_file_actions_addopen(&actions, fd, "/dev/null", O_RDWR, 0);
     pid_t child = 0;
-    const int failure = ::posix_spawnp(&child, argv.front(), &actions, nullptr, argv.data(), environ);
+    const int failure =
+        ::posix_spawnp(&child, argv.front(), &actions, nullptr, argv.data(), environment.data());
     posix_spawn_file_actions_destroy(&actions);
     if (failure != 0)
         return false;
@@ -102,6 +113,20 @@ std::optional<WholeMount> mountedWholeAt(std::string_view mountInfo, const std::
         found = whole ? std::optional(mount) : std::nullopt;
     }
     return found;
+}
+
+std::vector<std::string> unmountersEnvironment(const char *const *environment)
+{
+    constexpr std::array names{ "PATH", "HOME", "USER", "LOGNAME", "LANG", "LC_ALL", "LC_MESSAGES",
+        "XDG_RUNTIME_DIR", "XDG_SESSION_ID", "DBUS_SESSION_BUS_ADDRESS", "DBUS_SYSTEM_BUS_ADDRESS" };
+    std::vector<std::string> chosen;
+    for (; *environment; ++environment) {
+        const std::string_view variable(*environment);
+        const std::string_view name = variable.substr(0, variable.find('='));
+        if (std::ranges::find(names, name) != names.end())
+            chosen.emplace_back(variable);
+    }
+    return chosen;
 }
 
 std::vector<std::string> mountPoints(const std::string &device)

@@ -25,6 +25,11 @@ struct WholeMount {
 /// Nothing where `point` is no mount point, or shows a part of a file system only.
 std::optional<WholeMount> mountedWholeAt(std::string_view mountInfo, const std::string &point);
 
+/// What a program that unmounts is told of an environment such as `environ`: where programs, the person and the buses are, and
+/// the language. "NAME=value" each, in the order they have there. What points into foreign code (LD_PRELOAD and the like) is
+/// none of it.
+std::vector<std::string> unmountersEnvironment(const char *const *environment);
+
 /// The mount points of a device node; none when it does not exist.
 std::vector<std::string> mountPoints(const std::string &device);
 

@@ -134,9 +134,8 @@ Result<void> createFirstRecorder(const std::string &base)
     if (failure)
         return systemError(what, failure.value());
     std::string fresh = base + "/new-XXXXXX";
-    if (!::mkdtemp(fresh.data()))
+    if (!::mkdtemp(fresh.data())) // for its owner only: what is on a person's discs is nobody else's
         return systemError(what, errno);
-    ::chmod(fresh.c_str(), 0755);
     RecorderState state;
     state.kind = MediumKind::cdR;
     const Fd folder(::open(fresh.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));

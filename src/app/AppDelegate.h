@@ -349,8 +349,10 @@ private:
     using Observer = void (AppDelegate::*)();
     /// What a background run is watched for beside its end: `drutil` runs have their output logged.
     enum class Output { Observed, Ignored };
+    /// Who can read what a run makes: as a person's files are, or its owner only.
+    enum class Readers { AsUsual, Owner };
     void runInBackground(const QString &program, const QStringList &arguments, writing::Stage stage,
-        Observer atEnd, Output output);
+        Observer atEnd, Output output, Readers readers = Readers::AsUsual);
     /// Converts `subject`, in a nested run of the event loop. `expectedStatus`: how the transcoder should end.
     void transcodeAndWait(const QStringList &arguments, const QString &subject, int expectedStatus);
     void removeObservers(); ///< no handler of an earlier run can fire any more

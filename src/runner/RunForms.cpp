@@ -90,10 +90,12 @@ void AppDelegate::removeObservers()
         job->watch(nullptr, job->progress().stage, false);
 }
 
-void AppDelegate::runInBackground(
-    const QString &program, const QStringList &arguments, writing::Stage stage, Observer atEnd, Output output)
+void AppDelegate::runInBackground(const QString &program, const QStringList &arguments, writing::Stage stage,
+    Observer atEnd, Output output, Readers readers)
 {
     auto *run = new ToolRun(program, arguments, activityLog, this);
+    if (readers == Readers::Owner)
+        run->makeForOwnerOnly();
     run->setProcessChannelMode(QProcess::MergedChannels);
     job->watch(run, stage, true);
     connect(run, &QProcess::readyReadStandardOutput, run, [run] { run->take(QProcess::StandardOutput); });
@@ -111,6 +113,9 @@ void AppDelegate::transcodeAndWait(const QStringList &arguments, const QString &
     auto *run = new ToolRun(sffmpegPath, arguments, activityLog, this);
     run->setSubject(subject);
     run->setExpectedStatus(expectedStatus);
+    // Samples become tracks, which have no modes. All else is a file on the disc too and has there the mode it has here.
+    if (arguments.last().endsWith(u".wav"_s))
+        run->makeForOwnerOnly();
     run->launch();
     job->watch(run, writing::Stage::Converting, false);
     connect(run, &ToolRun::ended, this, [this, run, expectedStatus](const runner::ToolEnd &end) {

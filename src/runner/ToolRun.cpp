@@ -11,6 +11,7 @@
 #include <fcntl.h>
 #include <optional>
 #include <poll.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
@@ -115,6 +116,11 @@ ToolRun::~ToolRun()
         if (m_log && m_position >= 0)
             finish({ m_answered ? ToolEnd::How::Ended : ToolEnd::How::EndedByUs, 0, {} });
     }
+}
+
+void ToolRun::makeForOwnerOnly()
+{
+    setChildProcessModifier([] { ::umask(S_IRWXG | S_IRWXO); });
 }
 
 void ToolRun::launch()

@@ -52,6 +52,9 @@ public:
     /// What the run works on, as a person knows it; told in place of the tool's name when it fails.
     void setSubject(const QString &subject) { m_subject = subject; }
 
+    /// What the child makes can be read by its owner only. Call it before launch().
+    void makeForOwnerOnly();
+
     /// Starts the child. ended() follows exactly once, also when it cannot be started, and never
     /// before control is back in the event loop.
     void launch();

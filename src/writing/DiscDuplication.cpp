@@ -31,7 +31,7 @@ void AppDelegate::DuplicateMedia()
     runInBackground(around.hdiutil,
         { u"makehybrid"_s, u"-o"_s, duplicationImage(), chosen.first().toLocalFile(), u"-iso"_s,
             u"-joliet"_s },
-        writing::Stage::Imaging, &AppDelegate::CreateISOfromDriveTerminated, Output::Ignored);
+        writing::Stage::Imaging, &AppDelegate::CreateISOfromDriveTerminated, Output::Ignored, Readers::Owner);
     Show_Window_Performing_Operation();
 }
 

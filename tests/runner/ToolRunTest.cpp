@@ -10,11 +10,14 @@
 #include <QTest>
 #include <QThread>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <memory>
+#include <sys/stat.h>
 #include <thread>
+#include <unistd.h>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -55,6 +58,9 @@ private Q_SLOTS:
     void hearsTheLastWords();
     void waitsForTheEndOfTheOutputOnly();
     void passesArgumentsAsTheyAre();
+    void makesFilesForReaders_data();
+    void makesFilesForReaders();
+    void handsItsEnvironmentOn();
     void capturesBothChannelsInOrder();
     void keepsChannelsApart();
     void handsOutOutputAsItComes();
@@ -277,6 +283,48 @@ void ToolRunTest::passesArgumentsAsTheyAre()
     ToolRun run(u"/usr/bin/printf"_s, arguments, &log);
     QCOMPARE(QString::fromUtf8(run.capture(longEnough)), arguments.mid(1).join(u'|') + u'|');
     QCOMPARE(log.at(0).command, QStringList(u"/usr/bin/printf"_s) + arguments);
+}
+
+void ToolRunTest::makesFilesForReaders_data()
+{
+    QTest::addColumn<bool>("ownerOnly");
+    QTest::newRow("as a person's files are") << false;
+    QTest::newRow("for its owner only") << true;
+}
+
+void ToolRunTest::makesFilesForReaders()
+{
+    QFETCH(bool, ownerOnly);
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"track.wav"_s);
+    const mode_t before = ::umask(S_IWGRP | S_IWOTH);
+    ActivityLog log;
+    ToolRun run(misbehave, { u"touch"_s, file }, &log);
+    if (ownerOnly)
+        run.makeForOwnerOnly();
+    run.launch();
+    QVERIFY(awaitEnd(run));
+    ::umask(before);
+    const auto others = QFile::ReadGroup | QFile::ReadOther;
+    QCOMPARE(QFile::permissions(file) & others, ownerOnly ? QFile::Permissions() : others);
+}
+
+void ToolRunTest::handsItsEnvironmentOn()
+{
+    const auto variables = [](const QByteArray &printed) {
+        QList<QByteArray> lines = printed.split('\n');
+        lines.removeIf([](const QByteArray &line) { return line.isEmpty() || line.startsWith("_="); });
+        std::sort(lines.begin(), lines.end());
+        return lines;
+    };
+    qputenv("CORVALIS_TEST_OF_MANY_WORDS", "a b=c");
+    QList<QByteArray> ours;
+    for (char **variable = environ; *variable; ++variable)
+        ours.append(*variable);
+    ActivityLog log;
+    ToolRun run(u"/usr/bin/env"_s, {}, &log);
+    QCOMPARE(variables(run.capture(longEnough)), variables(ours.join('\n')));
+    qunsetenv("CORVALIS_TEST_OF_MANY_WORDS");
 }
 
 void ToolRunTest::capturesBothChannelsInOrder()

@@ -4,6 +4,11 @@
 #include <QProcess>
 #include <QTest>
 
+#include <cerrno>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 class TranscoderTest : public QObject {
@@ -13,6 +18,8 @@ private Q_SLOTS:
     void passesItsArguments();
     void endsAsTheSystemsDoes_data();
     void endsAsTheSystemsDoes();
+    void reachesNoNetwork_data();
+    void reachesNoNetwork();
 
 private:
     /// The application's transcoder before the system's one at `path`.
@@ -90,6 +97,46 @@ void TranscoderTest::endsAsTheSystemsDoes()
     QVERIFY(process.waitForFinished());
     QTEST(process.exitStatus(), "how");
     QTEST(process.exitCode(), "status");
+}
+
+void TranscoderTest::reachesNoNetwork_data()
+{
+    QTest::addColumn<QByteArray>("playlist");
+    QTest::newRow("a list of segments")
+        << QByteArray("#EXTM3U\n#EXT-X-VERSION:3\n#EXT-X-TARGETDURATION:10\n#EXT-X-MEDIA-SEQUENCE:0\n"
+                      "#EXTINF:10,\nhttp://ADDRESS/a.ts\n#EXT-X-ENDLIST\n");
+    QTest::newRow("a key for segments") << QByteArray(
+        "#EXTM3U\n#EXT-X-TARGETDURATION:10\n#EXT-X-KEY:METHOD=AES-128,URI=\"http://ADDRESS/k\"\n"
+        "#EXTINF:10,\na.ts\n#EXT-X-ENDLIST\n");
+    QTest::newRow("a list of files") << QByteArray("ffconcat version 1.0\nfile http://ADDRESS/b.mp3\n");
+    QTest::newRow("a redirection") << QByteArray("[Reference]\nRef1=http://ADDRESS/c.mp3\n");
+}
+
+// A file is a song by its name only. What it tells the transcoder to fetch would tell a stranger who has listed it, and when.
+void TranscoderTest::reachesNoNetwork()
+{
+    QFETCH(QByteArray, playlist);
+    const int server = ::socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    auto *const generic = reinterpret_cast<sockaddr *>(&address);
+    QVERIFY(::bind(server, generic, size) == 0 && ::listen(server, 1) == 0);
+    QVERIFY(::getsockname(server, generic, &size) == 0);
+    playlist.replace("ADDRESS", "127.0.0.1:" + QByteArray::number(ntohs(address.sin_port)));
+    const QString song = m_folder.filePath(u"song.mp3"_s);
+    makeFile(song, playlist);
+    QProcess transcoder;
+    transcoder.setProcessChannelMode(QProcess::MergedChannels);
+    transcoder.start(builtPrograms() + u"/../libexec/corvalis/ffmpeg"_s, { u"-i"_s, song });
+    transcoder.closeWriteChannel();
+    QVERIFY(transcoder.waitForFinished());
+    QCOMPARE(transcoder.exitStatus(), QProcess::NormalExit);
+    const int caller = ::accept(server, nullptr, nullptr);
+    const int error = errno;
+    ::close(server);
+    QVERIFY2(caller < 0 && error == EAGAIN, transcoder.readAll().constData());
 }
 
 QTEST_GUILESS_MAIN(TranscoderTest)

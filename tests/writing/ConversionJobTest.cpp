@@ -1,6 +1,8 @@
 // The jobs that convert files: what runs, with which arguments, behind which sheets, and what the bars show.
 #include "support/JobApplication.h"
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -134,6 +136,22 @@ private Q_SLOTS:
         QCOMPARE(app.burned(), expectedNames);
         QCOMPARE(app.texts(), QStringList());
         QCOMPARE(app.trouble(), QString());
+    }
+
+    void soundIsForItsOwnerOnly_data() { rowsOfKinds(); }
+    void soundIsForItsOwnerOnly()
+    {
+        QFETCH(Kind, kind);
+        JobApplication app;
+        app.convertWith("echo converted > \"$output\"; stat -c %a -- \"$output\" > \"$tool.mode\"\n");
+        const mode_t before = ::umask(S_IWGRP | S_IWOTH);
+        ready(app, kind, { app.file(kind.code < 4 ? u"song.m4a"_s : u"film.mov"_s) });
+        app.press("btnBurn");
+        const bool completed = app.completes();
+        ::umask(before);
+        QVERIFY(completed);
+        // The others are files on the disc, where they have the modes that they have here.
+        QCOMPARE(contentOf(app.ffmpeg.path() + u".mode"_s).trimmed(), kind.code == 1 ? "600" : "644");
     }
 
     void theSheetsFollowOneAnother_data() { rowsOfKinds(); }

@@ -3,6 +3,8 @@
 
 #include <QtTest>
 
+#include <array>
+
 using namespace engine::drive;
 
 namespace {
@@ -46,6 +48,31 @@ private Q_SLOTS:
         QVERIFY(!mountedWholeAt(more, "/part"));
         QVERIFY(mountedWholeAt(more, "/twice")->major == 8);
         QVERIFY(mountedWholeAt(more, "/fields")->source == "/dev/sr0");
+    }
+
+    void environmentOfTheUnmounters_data()
+    {
+        QTest::addColumn<QByteArray>("variable");
+        QTest::addColumn<bool>("told");
+        QTest::newRow("where programs are") << QByteArray("PATH=/usr/bin:/bin") << true;
+        QTest::newRow("empty") << QByteArray("LANG=") << true;
+        QTest::newRow("the system's bus") << QByteArray("DBUS_SYSTEM_BUS_ADDRESS=unix:path=/a=b") << true;
+        QTest::newRow("foreign code") << QByteArray("LD_PRELOAD=/tmp/evil.so") << false;
+        QTest::newRow("foreign modules") << QByteArray("GIO_EXTRA_MODULES=/tmp") << false;
+        QTest::newRow("a name that begins alike") << QByteArray("PATHS=/tmp") << false;
+        QTest::newRow("a secret") << QByteArray("TOKEN=PATH=/") << false;
+        QTest::newRow("not a variable") << QByteArray("nonsense") << false;
+    }
+
+    void environmentOfTheUnmounters()
+    {
+        QFETCH(const QByteArray, variable);
+        QFETCH(const bool, told);
+        const std::array<const char *, 3> environment{ "HOME=/home/ann", variable.constData(), nullptr };
+        std::vector<std::string> expected{ "HOME=/home/ann" };
+        if (told)
+            expected.push_back(variable.toStdString());
+        QVERIFY(unmountersEnvironment(environment.data()) == expected);
     }
 
     void whatIsNotMountedNeedsNoUnmounting()

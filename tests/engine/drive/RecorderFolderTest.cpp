@@ -66,6 +66,14 @@ private Q_SLOTS:
         QVERIFY(readable);
     }
 
+    void theFirstRecorderIsItsOwnersOnly()
+    {
+        QVERIFY(createFirstRecorder(m_path.toStdString()));
+        constexpr auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther
+            | QFile::WriteOther | QFile::ExeOther;
+        QCOMPARE(QFile::permissions(m_path + u"/1"_s) & others, QFile::Permissions());
+    }
+
     void aFileInTheWayIsSaid()
     {
         writeFile(m_path + u"/file"_s, "x");

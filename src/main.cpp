@@ -5,12 +5,15 @@
 #include "app/MainWindow.h"
 #include "app/StopOnSignals.h"
 #include "app/Surface.h"
+#include "desktop/ApplicationService.h"
 #include "desktop/JobPresence.h"
+#include "desktop/SecondStart.h"
 #include "kit/SymbolIcon.h"
 
 #include <QApplication>
 #include <QByteArrayView>
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QTimer>
 
@@ -93,10 +96,36 @@ const ProjectType *projectNamed(const QString &name)
     refuse(Texts::tr("there is no project \"%1\"; it is one of %2.").arg(name, projectNames()));
 }
 
-/// What the command line asks for; nothing for the ordinary window.
-std::optional<BatchJob> readCommandLine(const QCoreApplication &application)
+/// What the command line asks for.
+struct CommandLine {
+    std::optional<BatchJob> job; ///< nothing: a window
+    desktop::Request request; ///< what the window is to show
+    bool newWindow = false; ///< even where one runs that could show it
+};
+
+/// The existing files and the action, for a window.
+desktop::Request windowRequest(const QCommandLineParser &parser)
 {
-    QCommandLineParser parser;
+    if (parser.isSet(u"show"_s))
+        refuse(Texts::tr("--show goes with --burn."));
+    const QString action = parser.value(u"action"_s);
+    if (parser.isSet(u"action"_s) && !desktop::Opening::actions().contains(action))
+        refuse(Texts::tr("there is no action \"%1\"; it is one of %2.")
+                   .arg(action, desktop::Opening::actions().join(u", "_s)));
+    if (parser.isSet(u"action"_s) && !parser.positionalArguments().isEmpty())
+        refuse(Texts::tr("--action goes without files."));
+    desktop::Request request{ {}, action };
+    for (const QString &argument : parser.positionalArguments()) {
+        const QString path = BatchRun::meantPath(argument);
+        if (argument.isEmpty() || !QFileInfo::exists(path))
+            refuse(Texts::tr("%1: there is no such file or folder.").arg(path));
+        request.files.append(QUrl::fromLocalFile(path));
+    }
+    return request;
+}
+
+void describeOptions(QCommandLineParser &parser)
+{
     parser.setApplicationDescription(Texts::tr(
         "Prepares and writes optical discs.\n\nExit status with --burn: 0 the disc was written and "
         "everything is on "
@@ -109,10 +138,23 @@ std::optional<BatchJob> readCommandLine(const QCoreApplication &application)
         Texts::tr("Make a disc of kind <project> from the files and end: %1.").arg(projectNames()),
         Texts::tr("project"));
     const QCommandLineOption show(u"show"_s, Texts::tr("Do so in the window, which stays."));
-    parser.addOptions({ burn, show });
+    const QCommandLineOption newWindow(
+        u"new-window"_s, Texts::tr("Open the files in a window of their own, not in the one that runs."));
+    const QCommandLineOption action(u"action"_s,
+        Texts::tr("Begin <what> in the window: %1.").arg(desktop::Opening::actions().join(u", "_s)),
+        Texts::tr("what"));
+    parser.addOptions({ burn, show, newWindow, action });
     parser.addPositionalArgument(Texts::tr("FILE"),
-        Texts::tr("Files, or folders for a data disc; the tracks of an audio CD keep their order."),
+        Texts::tr("Files, or folders for a data disc; the tracks of an audio CD keep their order. Without "
+                  "--burn they are opened in the window: music, films, folders, a disc image or a saved "
+                  "list."),
         Texts::tr("[FILE...]"));
+}
+
+CommandLine readCommandLine(const QCoreApplication &application)
+{
+    QCommandLineParser parser;
+    describeOptions(parser);
     if (!parser.parse(application.arguments()))
         refuse(
             Texts::tr("%1 A file whose name begins with a dash goes behind \"--\".").arg(parser.errorText()));
@@ -120,30 +162,33 @@ std::optional<BatchJob> readCommandLine(const QCoreApplication &application)
         parser.showHelp(0);
     if (parser.isSet(u"version"_s))
         parser.showVersion();
-    if (!parser.isSet(burn)) {
-        if (parser.isSet(show) || !parser.positionalArguments().isEmpty())
-            refuse(Texts::tr("files and --show go with --burn."));
-        return std::nullopt;
-    }
-    if (parser.values(burn).size() > 1)
+    if (!parser.isSet(u"burn"_s))
+        return { std::nullopt, windowRequest(parser), parser.isSet(u"new-window"_s) };
+    if (parser.isSet(u"new-window"_s) || parser.isSet(u"action"_s))
+        refuse(Texts::tr("--new-window and --action go without --burn."));
+    if (parser.values(u"burn"_s).size() > 1)
         refuse(Texts::tr("--burn is there more than once."));
-    BatchJob job{ projectNamed(parser.value(burn)), {}, parser.isSet(show) };
+    BatchJob job{ projectNamed(parser.value(u"burn"_s)), {}, parser.isSet(u"show"_s) };
     for (const QString &path : parser.positionalArguments())
         job.paths.append(BatchRun::meantPath(path));
     if (const QString objection = BatchRun::objection(job); !objection.isEmpty())
         refuse(objection);
-    return job;
+    return { job, {} };
 }
 
-int runWindow()
+int runWindow(const desktop::Request &request)
 {
     endOnSignals();
     WindowQuestions questions;
     MainWindow window;
     AppDelegate controller(&window, Surroundings::ofThisMachine(&questions));
     const desktop::JobPresence presence(&controller, desktop::JobPresence::Audience::Person);
+    desktop::Opening opening(&controller);
+    const desktop::ApplicationService service(&opening);
     controller.awakeFromNib();
     controller.applicationDidFinishLaunching();
+    if (!request.isEmpty())
+        opening.open(request);
     return QApplication::exec();
 }
 
@@ -189,18 +234,24 @@ int main(int argc, char **argv)
     surface::knowHome();
     const std::optional<UnreadableArgument> unreadable = unreadableArgument(argc, argv);
     const surface::Place place = surface::choose(argc, argv);
+    const desktop::Activation activation = desktop::Activation::ofThisStart();
     QApplication application(argc, argv);
     surface::chosen(place);
     QCoreApplication::setApplicationName(u"corvalis"_s);
     QGuiApplication::setApplicationDisplayName(u"Corvalis"_s);
-    QGuiApplication::setDesktopFileName(u"corvalis"_s);
+    QGuiApplication::setDesktopFileName(desktop::identity);
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVALIS_VERSION));
     QApplication::setWindowIcon(applicationIcon());
     languages::speak();
     if (unreadable)
         refuseUnreadable(*unreadable);
-    const std::optional<BatchJob> job = readCommandLine(application);
+    const CommandLine asked = readCommandLine(application);
     if (place == surface::Place::DisplayMissing)
         surface::endWithoutDisplay();
-    return job ? runBatch(*job) : runWindow();
+    if (asked.job)
+        return runBatch(*asked.job);
+    const bool mayHandOver = !asked.request.isEmpty() && !asked.newWindow;
+    if (mayHandOver && desktop::handOver(asked.request, activation))
+        return 0;
+    return runWindow(asked.request);
 }

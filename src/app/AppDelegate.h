@@ -189,6 +189,7 @@ public:
     // ---- Saved lists and undoing (compilation/)
     /// Asks where the list that is shown would be lost; tells what is wrong with the file.
     void openList(const QString &path);
+    bool mayReplaceList(); ///< false: the person wants to keep the list that is shown
     void OnMenuListOpen(), OnMenuListSave(), OnMenuListSaveAs(), OnMenuFindMissing();
     void OnMenuUndo(), OnMenuRedo();
     void setDiscName(const QString &name); ///< any text; into the field, and where usable to the tools
@@ -229,6 +230,7 @@ public:
     void OnActionISOCreate();
     void TimerCreateISOStep1Routine(), TimerCreateISOStep2Routine(), TimerCreateISOStep3Routine();
     void OnActionISOBurn();
+    void burnImage(const QString &image); ///< full path
 
     // ---- Disc tools (tools/)
     void OnToolsFormatRWMedia(), OnToolsFormatFull(), OnToolsFormatQuick();
@@ -331,7 +333,6 @@ private:
     void listsChanged(); ///< for the history, which is told once control is back in the event loop
     void noteLists();
     bool isListUnsaved() const;
-    bool mayReplaceList(); ///< false: the person wants to keep the list that is shown
     bool saveList(const QString &path);
     void beginOpening(std::unique_ptr<Opening> opening, const ProjectType &kind);
     void finishOpening();

@@ -76,18 +76,22 @@ void AppDelegate::OnActionISOBurn()
     panel.extensions = { u"iso"_s, u"img"_s, u"dmg"_s };
     panel.message = tr("Select a ISO image to burn to media.");
     const QList<QUrl> chosen = around.questions->choose(panel, window);
-    if (chosen.isEmpty())
-        return;
+    if (!chosen.isEmpty())
+        burnImage(chosen.first().toLocalFile());
+}
+
+void AppDelegate::burnImage(const QString &image)
+{
     if (IsDriveEmpty())
         return alert(tr(writing::noDisc), tr(writing::noDiscText));
     if (!IsMediaOneTimeWritable() && !IsMediaReWritable())
         return alert(tr(writing::notWritable), tr(writing::notWritableText));
-    const QFileInfo image(chosen.first().toLocalFile());
+    const QFileInfo file(image);
     writing::Work work = workOn(0, {});
-    work.name = tr("Image %1").arg(image.fileName().simplified());
+    work.name = tr("Image %1").arg(file.fileName().simplified());
     beginJob(work);
-    job->describe({}, image.size());
-    runInBackground(around.hdiutil, { u"burn"_s, chosen.first().toLocalFile() }, writing::Stage::Writing,
+    job->describe({}, file.size());
+    runInBackground(around.hdiutil, { u"burn"_s, image }, writing::Stage::Writing,
         &AppDelegate::taskTerminated, Output::Ignored);
     Show_Window_Performing_Operation();
 }

@@ -341,7 +341,16 @@ void ProgramTest::wrongArguments_data()
         << QStringList{ u"--burn"_s, u"Data CD"_s, u"song.mp3"_s } << u"song.mp3"_s;
     QTest::newRow("empty name") << QStringList{ u"--burn"_s, u"Audio CD"_s, QString(u""_s) } << u"file"_s;
     QTest::newRow("unknown option") << QStringList{ u"--bake"_s } << u"bake"_s;
-    QTest::newRow("files without a project") << QStringList{ u"song.mp3"_s } << u"--burn"_s;
+    QTest::newRow("missing file for the window") << QStringList{ u"gone.mp3"_s } << u"gone.mp3"_s;
+    QTest::newRow("nameless file for the window") << QStringList{ QString(u""_s) } << u"file"_s;
+    QTest::newRow("unknown action") << QStringList{ u"--action"_s, u"burn"_s }
+                                    << u"new-audio-cd, new-data-disc, write-image, copy-disc"_s;
+    QTest::newRow("action with files")
+        << QStringList{ u"--action"_s, u"copy-disc"_s, u"song.mp3"_s } << u"--action"_s;
+    QTest::newRow("action in a batch run") << QStringList{ u"--action"_s, u"copy-disc"_s, u"--burn"_s,
+        u"MP3 CD"_s, u"song.mp3"_s } << u"--action"_s;
+    QTest::newRow("new window of a batch run")
+        << QStringList{ u"--new-window"_s, u"--burn"_s, u"MP3 CD"_s, u"song.mp3"_s } << u"--new-window"_s;
     QTest::newRow("show without a project") << QStringList{ u"--show"_s } << u"--burn"_s;
 }
 
@@ -623,7 +632,7 @@ void ProgramTest::withoutADisplay_data()
     QTest::newRow("shown job") << shown << QString() << 1 << noDisplay;
     QTest::newRow("shown job, display gone") << shown << u":987"_s << 1 << noDisplay;
     QTest::newRow("unknown option") << QStringList{ u"--bake"_s } << QString() << 2 << u"bake"_s;
-    QTest::newRow("file") << QStringList{ u"song.mp3"_s } << QString() << 2 << u"--burn"_s;
+    QTest::newRow("file") << QStringList{ u"/"_s } << QString() << 1 << noDisplay;
     QTest::newRow("file that looks like an option")
         << QStringList{ u"--burn"_s, u"Data CD"_s, u"--"_s, u"--show"_s } << QString() << 2 << u"--show"_s;
     for (const auto &help : { u"-h"_s, u"--help"_s, u"--help-all"_s, u"-v"_s, u"--version"_s })

@@ -41,7 +41,7 @@ StopBar::StopBar(QWidget *parent)
 
 void StopBar::setCost(const QString &cost)
 {
-    const QString text = tr("Stop now? %1").arg(cost);
+    const QString text = tr("Stop now?") + u' ' + cost;
     if (!m_stopped && m_question->text() != text)
         m_question->setText(text);
 }

@@ -56,8 +56,8 @@ void Window_Data_Copy_Folders::showProgress(const writing::Progress &progress)
     m_ui->labelFolder->setText(
         tr("%1 (%2 of %3)").arg(name, QString::number(progress.number), QString::number(progress.count)));
     const auto size = [](qint64 bytes) { return compilation::sizeText(static_cast<quint64>(bytes)); };
-    const QString amount = progress.bytesExpected > 0
-        ? tr("%1 of %2").arg(size(progress.bytes), size(progress.bytesExpected))
-        : size(progress.bytes);
-    m_ui->labelGathered->setText(tr("Files copied: %1 (%2)").arg(QLocale().toString(progress.files), amount));
+    const QString files = QLocale().toString(progress.files);
+    m_ui->labelGathered->setText(progress.bytesExpected > 0
+            ? tr("Files copied: %1 (%2 of %3)").arg(files, size(progress.bytes), size(progress.bytesExpected))
+            : tr("Files copied: %1 (%2)").arg(files, size(progress.bytes)));
 }

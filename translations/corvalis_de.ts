@@ -361,10 +361,6 @@ Erstellt mit Qt %1, libburn, libisofs, ffmpeg und mpv.</translation>
         </translation>
     </message>
     <message>
-        <source>They stay on the list, marked. If they were moved, show a folder in which they are now, at any depth: they are found there by their names.</source>
-        <translation>Sie bleiben markiert in der Liste. Wurden sie verschoben, so wählen Sie einen Ordner, in dem sie jetzt liegen, gleich wie tief: Dort werden sie an ihren Namen erkannt.</translation>
-    </message>
-    <message>
         <source>Find in a Folder…</source>
         <translation>In einem Ordner suchen…</translation>
     </message>
@@ -620,6 +616,10 @@ Erstellt mit Qt %1, libburn, libisofs, ffmpeg und mpv.</translation>
     <message>
         <source>Warning 0000.</source>
         <translation>Warnung 0000.</translation>
+    </message>
+    <message>
+        <source>What is missing stays on the list, marked. If it was moved, show a folder in which it is now, at any depth: it is found there by its name.</source>
+        <translation>Was fehlt, bleibt markiert in der Liste. Wurde es verschoben, so wählen Sie einen Ordner, in dem es jetzt liegt, gleich wie tief: Dort wird es an seinem Namen erkannt.</translation>
     </message>
 </context>
 <context>
@@ -1051,10 +1051,6 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
         <translation>Datenordner</translation>
     </message>
     <message>
-        <source>Add folders with “Add Folder”, or drop them here.</source>
-        <translation>Fügen Sie Ordner mit „Ordner“ hinzu oder ziehen Sie sie hierher.</translation>
-    </message>
-    <message>
         <source>ISO</source>
         <translation>ISO</translation>
     </message>
@@ -1453,6 +1449,10 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     <message>
         <source>&amp;About Corvalis</source>
         <translation>&amp;Über Corvalis</translation>
+    </message>
+    <message>
+        <source>Add folders and files with the buttons above, or drop them here.</source>
+        <translation>Fügen Sie Ordner und Dateien mit den Knöpfen oben hinzu oder ziehen Sie sie hierher.</translation>
     </message>
 </context>
 <context>
@@ -2168,6 +2168,29 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     <message>
         <source>&amp;MPEG-2 audio (MP2)</source>
         <translation>&amp;MPEG-2-Audio (MP2)</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::JobPresence</name>
+    <message>
+        <source>A disc image is being made.</source>
+        <translation>Ein Disc-Abbild wird erstellt.</translation>
+    </message>
+    <message>
+        <source>A disc is being erased.</source>
+        <translation>Eine Disc wird gelöscht.</translation>
+    </message>
+    <message>
+        <source>A disc is being made.</source>
+        <translation>Eine Disc wird erstellt.</translation>
+    </message>
+    <message>
+        <source>%1 % – Corvalis</source>
+        <translation>%1 % – Corvalis</translation>
+    </message>
+    <message>
+        <source>Show Corvalis</source>
+        <translation>Corvalis zeigen</translation>
     </message>
 </context>
 <context>

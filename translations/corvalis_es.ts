@@ -361,10 +361,6 @@ Hecho con Qt %1, libburn, libisofs, ffmpeg y mpv.</translation>
         </translation>
     </message>
     <message>
-        <source>They stay on the list, marked. If they were moved, show a folder in which they are now, at any depth: they are found there by their names.</source>
-        <translation>Siguen en la lista, marcadas. Si se movieron, indique una carpeta en la que estén ahora, a cualquier nivel: allí se encontrarán por sus nombres.</translation>
-    </message>
-    <message>
         <source>Find in a Folder…</source>
         <translation>Buscar en una carpeta…</translation>
     </message>
@@ -620,6 +616,10 @@ Hecho con Qt %1, libburn, libisofs, ffmpeg y mpv.</translation>
     <message>
         <source>Warning 0000.</source>
         <translation>Aviso 0000.</translation>
+    </message>
+    <message>
+        <source>What is missing stays on the list, marked. If it was moved, show a folder in which it is now, at any depth: it is found there by its name.</source>
+        <translation>Lo que falta sigue en la lista, marcado. Si se movió, indique una carpeta en la que esté ahora, a cualquier nivel: allí se encuentra por su nombre.</translation>
     </message>
 </context>
 <context>
@@ -1051,10 +1051,6 @@ El orden de la lista es el orden en el disco.</translation>
         <translation>Carpetas de datos</translation>
     </message>
     <message>
-        <source>Add folders with “Add Folder”, or drop them here.</source>
-        <translation>Añada carpetas con «Carpeta» o suéltelas aquí.</translation>
-    </message>
-    <message>
         <source>ISO</source>
         <translation>ISO</translation>
     </message>
@@ -1453,6 +1449,10 @@ El orden de la lista es el orden en el disco.</translation>
     <message>
         <source>&amp;About Corvalis</source>
         <translation>&amp;Acerca de Corvalis</translation>
+    </message>
+    <message>
+        <source>Add folders and files with the buttons above, or drop them here.</source>
+        <translation>Añada carpetas y archivos con los botones de arriba o suéltelos aquí.</translation>
     </message>
 </context>
 <context>
@@ -2168,6 +2168,29 @@ El orden de la lista es el orden en el disco.</translation>
     <message>
         <source>&amp;MPEG-2 audio (MP2)</source>
         <translation>Audio &amp;MPEG-2 (MP2)</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::JobPresence</name>
+    <message>
+        <source>A disc image is being made.</source>
+        <translation>Se está creando una imagen de disco.</translation>
+    </message>
+    <message>
+        <source>A disc is being erased.</source>
+        <translation>Se está borrando un disco.</translation>
+    </message>
+    <message>
+        <source>A disc is being made.</source>
+        <translation>Se está creando un disco.</translation>
+    </message>
+    <message>
+        <source>%1 % – Corvalis</source>
+        <translation>%1 % – Corvalis</translation>
+    </message>
+    <message>
+        <source>Show Corvalis</source>
+        <translation>Mostrar Corvalis</translation>
     </message>
 </context>
 <context>

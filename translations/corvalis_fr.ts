@@ -73,15 +73,15 @@
     </message>
     <message>
         <source>Fast forward; each press is faster</source>
-        <translation>Avance rapide ; plus rapide à chaque appui</translation>
+        <translation>Avance rapide&#xa0;; plus rapide à chaque appui</translation>
     </message>
     <message>
         <source>Rewind; each press is faster</source>
-        <translation>Retour rapide ; plus rapide à chaque appui</translation>
+        <translation>Retour rapide&#xa0;; plus rapide à chaque appui</translation>
     </message>
     <message>
         <source>Position (Left and Right: five seconds)</source>
-        <translation>Position (Gauche et Droite : cinq secondes)</translation>
+        <translation>Position (Gauche et Droite&#xa0;: cinq secondes)</translation>
     </message>
 </context>
 <context>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>Open it in a browser: %1</source>
-        <translation>Ouvrez-la dans un navigateur : %1</translation>
+        <translation>Ouvrez-la dans un navigateur&#xa0;: %1</translation>
     </message>
     <message>
         <source>Corvalis %1</source>
@@ -255,7 +255,7 @@ Construit avec Qt %1, libburn, libisofs, ffmpeg et mpv.</translation>
     </message>
     <message>
         <source>Their names in the folder “%1” are not valid UTF-8 text. Rename them and add the folder again.</source>
-        <translation>Leurs noms dans le dossier « %1 » ne sont pas du texte UTF-8 valide. Renommez-les et ajoutez de nouveau le dossier.</translation>
+        <translation>Leurs noms dans le dossier «&#xa0;%1&#xa0;» ne sont pas du texte UTF-8 valide. Renommez-les et ajoutez de nouveau le dossier.</translation>
     </message>
     <message>
         <source>Add a folder to the list</source>
@@ -295,15 +295,15 @@ Construit avec Qt %1, libburn, libisofs, ffmpeg et mpv.</translation>
     </message>
     <message>
         <source>The program ffmpeg is missing. Install the package “ffmpeg” and add the files again. Without it the lists show no durations, and no audio or video disc can be made.</source>
-        <translation>Le programme ffmpeg est absent. Installez le paquet « ffmpeg » et ajoutez de nouveau les fichiers. Sans lui, les listes n’indiquent aucune durée, et aucun disque audio ou vidéo ne peut être créé.</translation>
+        <translation>Le programme ffmpeg est absent. Installez le paquet «&#xa0;ffmpeg&#xa0;» et ajoutez de nouveau les fichiers. Sans lui, les listes n’indiquent aucune durée, et aucun disque audio ou vidéo ne peut être créé.</translation>
     </message>
     <message>
         <source>A part of Corvalis is missing: %1. Install Corvalis again. Without it the lists show no durations, and no audio or video disc can be made.</source>
-        <translation>Une partie de Corvalis est absente : %1. Réinstallez Corvalis. Sans elle, les listes n’indiquent aucune durée, et aucun disque audio ou vidéo ne peut être créé.</translation>
+        <translation>Une partie de Corvalis est absente&#xa0;: %1. Réinstallez Corvalis. Sans elle, les listes n’indiquent aucune durée, et aucun disque audio ou vidéo ne peut être créé.</translation>
     </message>
     <message>
         <source>Save the list first?</source>
-        <translation>Enregistrer d’abord la liste ?</translation>
+        <translation>Enregistrer d’abord la liste&#xa0;?</translation>
     </message>
     <message>
         <source>The list that is shown has changes that are not saved. What is opened now takes its place.</source>
@@ -347,7 +347,7 @@ Construit avec Qt %1, libburn, libisofs, ffmpeg et mpv.</translation>
     </message>
     <message>
         <source>It is for a kind of disc that this Corvalis does not know: %1.</source>
-        <translation>Elle est destinée à un type de disque que ce Corvalis ne connaît pas : %1.</translation>
+        <translation>Elle est destinée à un type de disque que ce Corvalis ne connaît pas&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The list cannot be opened</source>
@@ -359,10 +359,6 @@ Construit avec Qt %1, libburn, libisofs, ffmpeg et mpv.</translation>
             <numerusform>%n élément de la liste est introuvable</numerusform>
             <numerusform>%n éléments de la liste sont introuvables</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>They stay on the list, marked. If they were moved, show a folder in which they are now, at any depth: they are found there by their names.</source>
-        <translation>Ils restent dans la liste, marqués. S’ils ont été déplacés, indiquez un dossier où ils se trouvent maintenant, à n’importe quel niveau : ils y seront retrouvés par leurs noms.</translation>
     </message>
     <message>
         <source>Find in a Folder…</source>
@@ -482,7 +478,7 @@ Construit avec Qt %1, libburn, libisofs, ffmpeg et mpv.</translation>
     </message>
     <message>
         <source>A disc is prepared in the folder %1, and its file system has %2 too little for that. Free some room and try again, or go on: what does not fit will not be on the disc.</source>
-        <translation>Le disque est préparé dans le dossier %1, et il manque %2 sur son système de fichiers. Libérez de la place et réessayez, ou continuez : ce qui n’y tient pas ne sera pas sur le disque.</translation>
+        <translation>Le disque est préparé dans le dossier %1, et il manque %2 sur son système de fichiers. Libérez de la place et réessayez, ou continuez&#xa0;: ce qui n’y tient pas ne sera pas sur le disque.</translation>
     </message>
     <message>
         <source>Go On</source>
@@ -592,7 +588,7 @@ Construit avec Qt %1, libburn, libisofs, ffmpeg et mpv.</translation>
     </message>
     <message>
         <source>“%1” was left out: another entry of the list is converted to “%2” too. Rename one of the files and try again.</source>
-        <translation>« %1 » a été omis : un autre élément de la liste est lui aussi converti en « %2 ». Renommez l’un des fichiers et réessayez.</translation>
+        <translation>«&#xa0;%1&#xa0;» a été omis&#xa0;: un autre élément de la liste est lui aussi converti en «&#xa0;%2&#xa0;». Renommez l’un des fichiers et réessayez.</translation>
     </message>
     <message>
         <source>A file was left out</source>
@@ -621,12 +617,16 @@ Construit avec Qt %1, libburn, libisofs, ffmpeg et mpv.</translation>
         <source>Warning 0000.</source>
         <translation>Avertissement 0000.</translation>
     </message>
+    <message>
+        <source>What is missing stays on the list, marked. If it was moved, show a folder in which it is now, at any depth: it is found there by its name.</source>
+        <translation>Ce qui manque reste dans la liste, marqué. Si cela a été déplacé, indiquez un dossier où cela se trouve maintenant, à n’importe quel niveau&#xa0;: c’est là qu’on le retrouve par son nom.</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
     <message>
         <source>%1: there is no such file or folder.</source>
-        <translation>%1 : aucun fichier ni dossier de ce nom.</translation>
+        <translation>%1&#xa0;: aucun fichier ni dossier de ce nom.</translation>
     </message>
     <message>
         <source>%1 is no file or folder, and a data disc is made of these.</source>
@@ -634,15 +634,15 @@ Construit avec Qt %1, libburn, libisofs, ffmpeg et mpv.</translation>
     </message>
     <message>
         <source>%1 is not a file that this disc can take. Accepted are: %2.</source>
-        <translation>%1 n’est pas un fichier que ce disque peut recevoir. Sont acceptés : %2.</translation>
+        <translation>%1 n’est pas un fichier que ce disque peut recevoir. Sont acceptés&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Adding files: %1 of %2</source>
-        <translation>Ajout des fichiers : %1 sur %2</translation>
+        <translation>Ajout des fichiers&#xa0;: %1 sur %2</translation>
     </message>
     <message>
         <source>Converting: file %1 of %2, %3 %</source>
-        <translation>Conversion : fichier %1 sur %2, %3 %</translation>
+        <translation>Conversion&#xa0;: fichier %1 sur %2, %3 %</translation>
     </message>
     <message>
         <source>Gathering the folders</source>
@@ -657,26 +657,26 @@ Construit avec Qt %1, libburn, libisofs, ffmpeg et mpv.</translation>
     </message>
     <message>
         <source>%1: press to choose another colour</source>
-        <translation>%1 : cliquez pour choisir une autre couleur</translation>
+        <translation>%1&#xa0;: cliquez pour choisir une autre couleur</translation>
     </message>
     <message>
         <source>No colour: press to choose one</source>
-        <translation>Aucune couleur : cliquez pour en choisir une</translation>
+        <translation>Aucune couleur&#xa0;: cliquez pour en choisir une</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>Try &apos;corvalis --help&apos;.</source>
-        <translation>Essayez « corvalis --help ».</translation>
+        <translation>Essayez «&#xa0;corvalis --help&#xa0;».</translation>
     </message>
     <message>
         <source>argument %1, &quot;%2&quot;, is not valid UTF-8 text; rename the file and try again.</source>
-        <translation>l’argument %1, &quot;%2&quot;, n’est pas du texte UTF-8 valide ; renommez le fichier et réessayez.</translation>
+        <translation>l’argument %1, &quot;%2&quot;, n’est pas du texte UTF-8 valide&#xa0;; renommez le fichier et réessayez.</translation>
     </message>
     <message>
         <source>there is no project &quot;%1&quot;; it is one of %2.</source>
-        <translation>il n’y a pas de projet &quot;%1&quot; ; choisissez parmi %2.</translation>
+        <translation>il n’y a pas de projet &quot;%1&quot;&#xa0;; choisissez parmi %2.</translation>
     </message>
     <message>
         <source>Prepares and writes optical discs.
@@ -685,12 +685,12 @@ Exit status with --burn: 0 the disc was written and everything is on it, 1 it wa
 A file whose name begins with a dash goes behind &quot;--&quot;.</source>
         <translation>Prépare et grave des disques optiques.
 
-Code de sortie avec --burn : 0 le disque a été gravé et tout y est, 1 il n’a pas été gravé, 2 arguments incorrects, 3 il a été gravé mais quelque chose n’y est pas ; arrêté par un signal, le programme se termine par ce signal.
+Code de sortie avec --burn&#xa0;: 0 le disque a été gravé et tout y est, 1 il n’a pas été gravé, 2 arguments incorrects, 3 il a été gravé mais quelque chose n’y est pas&#xa0;; arrêté par un signal, le programme se termine par ce signal.
 Un fichier dont le nom commence par un tiret se place après &quot;--&quot;.</translation>
     </message>
     <message>
         <source>Make a disc of kind &lt;project&gt; from the files and end: %1.</source>
-        <translation>Faire des fichiers un disque du type &lt;project&gt;, puis quitter : %1.</translation>
+        <translation>Faire des fichiers un disque du type &lt;project&gt;, puis quitter&#xa0;: %1.</translation>
     </message>
     <message>
         <source>project</source>
@@ -706,7 +706,7 @@ Un fichier dont le nom commence par un tiret se place après &quot;--&quot;.</tr
     </message>
     <message>
         <source>Files, or folders for a data disc; the tracks of an audio CD keep their order.</source>
-        <translation>Fichiers, ou aussi dossiers pour un disque de données ; les pistes d’un CD audio gardent leur ordre.</translation>
+        <translation>Fichiers, ou aussi dossiers pour un disque de données&#xa0;; les pistes d’un CD audio gardent leur ordre.</translation>
     </message>
     <message>
         <source>[FILE...]</source>
@@ -759,26 +759,26 @@ Un fichier dont le nom commence par un tiret se place après &quot;--&quot;.</tr
     <name>Gauge</name>
     <message>
         <source>Space occupied: %1 of %2 (%3 %), too large by %4</source>
-        <translation>Espace occupé : %1 sur %2 (%3 %), %4 de trop</translation>
+        <translation>Espace occupé&#xa0;: %1 sur %2 (%3&#xa0;%), %4 de trop</translation>
     </message>
     <message>
         <source>Space occupied: %1 of %2 (%3 %), too long by %4</source>
-        <translation>Espace occupé : %1 sur %2 (%3 %), trop long de %4</translation>
+        <translation>Espace occupé&#xa0;: %1 sur %2 (%3&#xa0;%), trop long de %4</translation>
     </message>
     <message>
         <source>Space occupied: %1 of %2 (%3 %), nearly full</source>
-        <translation>Espace occupé : %1 sur %2 (%3 %), presque plein</translation>
+        <translation>Espace occupé&#xa0;: %1 sur %2 (%3&#xa0;%), presque plein</translation>
     </message>
     <message>
         <source>Space occupied: %1 of %2 (%3 %)</source>
-        <translation>Espace occupé : %1 sur %2 (%3 %)</translation>
+        <translation>Espace occupé&#xa0;: %1 sur %2 (%3&#xa0;%)</translation>
     </message>
 </context>
 <context>
     <name>ListFile</name>
     <message>
         <source>It is damaged, or no list of Corvalis: %1.</source>
-        <translation>Elle est endommagée, ou n’est pas une liste de Corvalis : %1.</translation>
+        <translation>Elle est endommagée, ou n’est pas une liste de Corvalis&#xa0;: %1.</translation>
     </message>
     <message>
         <source>entry %1 has no full path</source>
@@ -938,7 +938,7 @@ Un fichier dont le nom commence par un tiret se place après &quot;--&quot;.</tr
     </message>
     <message>
         <source>A disc for every CD player: 74 minutes of sound (Alt+1)</source>
-        <translation>Un disque pour tout lecteur de CD : 74 minutes de son (Alt+1)</translation>
+        <translation>Un disque pour tout lecteur de CD&#xa0;: 74 minutes de son (Alt+1)</translation>
     </message>
     <message>
         <source>MP3 CD</source>
@@ -946,7 +946,7 @@ Un fichier dont le nom commence par un tiret se place après &quot;--&quot;.</tr
     </message>
     <message>
         <source>MP3 files on a CD: 9 and a half hours (Alt+2)</source>
-        <translation>Des fichiers MP3 sur un CD : neuf heures et demie (Alt+2)</translation>
+        <translation>Des fichiers MP3 sur un CD&#xa0;: neuf heures et demie (Alt+2)</translation>
     </message>
     <message>
         <source>MP3 DVD</source>
@@ -954,7 +954,7 @@ Un fichier dont le nom commence par un tiret se place après &quot;--&quot;.</tr
     </message>
     <message>
         <source>MP3 files on a DVD: 38 hours (Alt+3)</source>
-        <translation>Des fichiers MP3 sur un DVD : 38 heures (Alt+3)</translation>
+        <translation>Des fichiers MP3 sur un DVD&#xa0;: 38 heures (Alt+3)</translation>
     </message>
     <message>
         <source>Audio files</source>
@@ -963,7 +963,7 @@ Un fichier dont le nom commence par un tiret se place après &quot;--&quot;.</tr
     <message>
         <source>Add music with “Add Files”, or drop it here.
 The order of the list is the order on the disc.</source>
-        <translation>Ajoutez de la musique avec « Fichiers », ou déposez-la ici.
+        <translation>Ajoutez de la musique avec «&#xa0;Fichiers&#xa0;», ou déposez-la ici.
 L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
@@ -992,7 +992,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>MPEG-2 clips on a DVD: 2 and a half hours (Alt+1)</source>
-        <translation>Des clips MPEG-2 sur un DVD : deux heures et demie (Alt+1)</translation>
+        <translation>Des clips MPEG-2 sur un DVD&#xa0;: deux heures et demie (Alt+1)</translation>
     </message>
     <message>
         <source>Video Blu-ray</source>
@@ -1000,7 +1000,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>MPEG-2 clips on a Blu-ray disc: 23 hours (Alt+2)</source>
-        <translation>Des clips MPEG-2 sur un disque Blu-ray : 23 heures (Alt+2)</translation>
+        <translation>Des clips MPEG-2 sur un disque Blu-ray&#xa0;: 23 heures (Alt+2)</translation>
     </message>
     <message>
         <source>Video files</source>
@@ -1008,7 +1008,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Add clips with “Add Files”, or drop them here.</source>
-        <translation>Ajoutez des clips avec « Fichiers », ou déposez-les ici.</translation>
+        <translation>Ajoutez des clips avec «&#xa0;Fichiers&#xa0;», ou déposez-les ici.</translation>
     </message>
     <message>
         <source>Data</source>
@@ -1028,7 +1028,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Folders on a CD: 667 MB (Alt+1)</source>
-        <translation>Des dossiers sur un CD : 667 MB (Alt+1)</translation>
+        <translation>Des dossiers sur un CD&#xa0;: 667 MB (Alt+1)</translation>
     </message>
     <message>
         <source>Data DVD</source>
@@ -1036,7 +1036,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Folders on a DVD: 4.7 GB (Alt+2)</source>
-        <translation>Des dossiers sur un DVD : 4,7 GB (Alt+2)</translation>
+        <translation>Des dossiers sur un DVD&#xa0;: 4,7 GB (Alt+2)</translation>
     </message>
     <message>
         <source>Data Blu-ray</source>
@@ -1044,15 +1044,11 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Folders on a Blu-ray disc: 25 GB (Alt+3)</source>
-        <translation>Des dossiers sur un disque Blu-ray : 25 GB (Alt+3)</translation>
+        <translation>Des dossiers sur un disque Blu-ray&#xa0;: 25 GB (Alt+3)</translation>
     </message>
     <message>
         <source>Data folders</source>
         <translation>Dossiers de données</translation>
-    </message>
-    <message>
-        <source>Add folders with “Add Folder”, or drop them here.</source>
-        <translation>Ajoutez des dossiers avec « Dossier », ou déposez-les ici.</translation>
     </message>
     <message>
         <source>ISO</source>
@@ -1396,11 +1392,11 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Erase &amp;Completely: overwrite everything on the disc</source>
-        <translation>Effacer &amp;complètement : écraser tout ce que contient le disque</translation>
+        <translation>Effacer &amp;complètement&#xa0;: écraser tout ce que contient le disque</translation>
     </message>
     <message>
         <source>Erase &amp;Quickly: make everything on the disc unreachable</source>
-        <translation>Effacer &amp;rapidement : rendre tout ce que contient le disque inaccessible</translation>
+        <translation>Effacer &amp;rapidement&#xa0;: rendre tout ce que contient le disque inaccessible</translation>
     </message>
     <message>
         <source>&amp;Make an ISO Image…</source>
@@ -1452,7 +1448,11 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>&amp;About Corvalis</source>
-        <translation>À propos &amp;de Corvalis</translation>
+        <translation>À pr&amp;opos de Corvalis</translation>
+    </message>
+    <message>
+        <source>Add folders and files with the buttons above, or drop them here.</source>
+        <translation>Ajoutez des dossiers et des fichiers avec les boutons du haut, ou déposez-les ici.</translation>
     </message>
 </context>
 <context>
@@ -1479,7 +1479,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>The file cannot be read as sound or film: %1.</source>
-        <translation>Le fichier ne peut être lu ni comme son ni comme film : %1.</translation>
+        <translation>Le fichier ne peut être lu ni comme son ni comme film&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
@@ -1551,7 +1551,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     <name>PreviewPlayer</name>
     <message>
         <source>The preview player is not installed completely: %1. Install Corvalis again together with its preview player.</source>
-        <translation>Le lecteur d’aperçu n’est pas complètement installé : %1. Réinstallez Corvalis avec son lecteur d’aperçu.</translation>
+        <translation>Le lecteur d’aperçu n’est pas complètement installé&#xa0;: %1. Réinstallez Corvalis avec son lecteur d’aperçu.</translation>
     </message>
 </context>
 <context>
@@ -1629,7 +1629,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Only files with these extensions can: .%1</source>
-        <translation>Seuls les fichiers portant ces extensions le peuvent : .%1</translation>
+        <translation>Seuls les fichiers portant ces extensions le peuvent&#xa0;: .%1</translation>
     </message>
     <message>
         <source>Their names are not valid UTF-8 text. Rename them and try again.</source>
@@ -1685,7 +1685,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Takes the question back; the work has gone on meanwhile (Escape)</source>
-        <translation>Retire la question ; le travail a continué entre-temps (Échap)</translation>
+        <translation>Retire la question&#xa0;; le travail a continué entre-temps (Échap)</translation>
     </message>
     <message>
         <source>Ends the work at once</source>
@@ -1697,14 +1697,14 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Stop now?</source>
-        <translation>Arrêter maintenant ?</translation>
+        <translation>Arrêter maintenant&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>Surface</name>
     <message>
         <source>corvalis: there is no display for the window. Start it on a desktop, or use --burn, which needs none.</source>
-        <translation>corvalis : il n’y a pas d’écran pour la fenêtre. Lancez-le sur un bureau, ou utilisez --burn, qui n’en a pas besoin.</translation>
+        <translation>corvalis&#xa0;: il n’y a pas d’écran pour la fenêtre. Lancez-le sur un bureau, ou utilisez --burn, qui n’en a pas besoin.</translation>
     </message>
 </context>
 <context>
@@ -1829,7 +1829,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     <name>Window_Colors</name>
     <message>
         <source>Which colours should the window have?</source>
-        <translation>Quelles couleurs la fenêtre doit-elle avoir ?</translation>
+        <translation>Quelles couleurs la fenêtre doit-elle avoir&#xa0;?</translation>
     </message>
     <message>
         <source>List &amp;background</source>
@@ -1920,18 +1920,18 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Files copied: %1 (%2)</source>
-        <translation>Fichiers copiés : %1 (%2)</translation>
+        <translation>Fichiers copiés&#xa0;: %1 (%2)</translation>
     </message>
     <message>
         <source>Files copied: %1 (%2 of %3)</source>
-        <translation>Fichiers copiés : %1 (%2 sur %3)</translation>
+        <translation>Fichiers copiés&#xa0;: %1 (%2 sur %3)</translation>
     </message>
 </context>
 <context>
     <name>Window_New_Disc</name>
     <message>
         <source>What kind of disc do you want to make?</source>
-        <translation>Quel type de disque voulez-vous créer ?</translation>
+        <translation>Quel type de disque voulez-vous créer&#xa0;?</translation>
     </message>
     <message>
         <source>Audio</source>
@@ -1943,7 +1943,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Plays in every CD player: 74 minutes</source>
-        <translation>Se lit dans tout lecteur de CD : 74 minutes</translation>
+        <translation>Se lit dans tout lecteur de CD&#xa0;: 74 minutes</translation>
     </message>
     <message>
         <source>&amp;MP3 CD</source>
@@ -1951,7 +1951,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>MP3 files on a CD: 9 and a half hours</source>
-        <translation>Des fichiers MP3 sur un CD : neuf heures et demie</translation>
+        <translation>Des fichiers MP3 sur un CD&#xa0;: neuf heures et demie</translation>
     </message>
     <message>
         <source>MP&amp;3 DVD</source>
@@ -1959,7 +1959,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>MP3 files on a DVD: 38 hours</source>
-        <translation>Des fichiers MP3 sur un DVD : 38 heures</translation>
+        <translation>Des fichiers MP3 sur un DVD&#xa0;: 38 heures</translation>
     </message>
     <message>
         <source>Video</source>
@@ -1971,7 +1971,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>MPEG-2 clips on a DVD: 2 and a half hours</source>
-        <translation>Des clips MPEG-2 sur un DVD : deux heures et demie</translation>
+        <translation>Des clips MPEG-2 sur un DVD&#xa0;: deux heures et demie</translation>
     </message>
     <message>
         <source>Vid&amp;eo Blu-ray</source>
@@ -1979,7 +1979,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>MPEG-2 clips on a Blu-ray disc: 23 hours</source>
-        <translation>Des clips MPEG-2 sur un disque Blu-ray : 23 heures</translation>
+        <translation>Des clips MPEG-2 sur un disque Blu-ray&#xa0;: 23 heures</translation>
     </message>
     <message>
         <source>Data</source>
@@ -1991,7 +1991,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Folders on a CD: 700 MB</source>
-        <translation>Des dossiers sur un CD : 700 MB</translation>
+        <translation>Des dossiers sur un CD&#xa0;: 700 MB</translation>
     </message>
     <message>
         <source>&amp;Data DVD</source>
@@ -1999,7 +1999,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Folders on a DVD: 4.7 GB</source>
-        <translation>Des dossiers sur un DVD : 4,7 GB</translation>
+        <translation>Des dossiers sur un DVD&#xa0;: 4,7 GB</translation>
     </message>
     <message>
         <source>Data &amp;Blu-ray</source>
@@ -2007,7 +2007,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Folders on a Blu-ray disc: 25 GB</source>
-        <translation>Des dossiers sur un disque Blu-ray : 25 GB</translation>
+        <translation>Des dossiers sur un disque Blu-ray&#xa0;: 25 GB</translation>
     </message>
     <message>
         <source>OK empties the list.</source>
@@ -2027,15 +2027,15 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     <message numerus="yes">
         <source>%n folder(s) cannot be shown here: the names are not valid UTF-8 text. Rename them to choose them.</source>
         <translation>
-            <numerusform>%n dossier ne peut pas être affiché ici : son nom n’est pas du texte UTF-8 valide. Renommez-le pour le choisir.</numerusform>
-            <numerusform>%n dossiers ne peuvent pas être affichés ici : leurs noms ne sont pas du texte UTF-8 valide. Renommez-les pour les choisir.</numerusform>
+            <numerusform>%n dossier ne peut pas être affiché ici&#xa0;: son nom n’est pas du texte UTF-8 valide. Renommez-le pour le choisir.</numerusform>
+            <numerusform>%n dossiers ne peuvent pas être affichés ici&#xa0;: leurs noms ne sont pas du texte UTF-8 valide. Renommez-les pour les choisir.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) of this folder cannot be shown: the names are not valid UTF-8 text. Rename them to choose them.</source>
         <translation>
-            <numerusform>%n fichier de ce dossier ne peut pas être affiché : son nom n’est pas du texte UTF-8 valide. Renommez-le pour le choisir.</numerusform>
-            <numerusform>%n fichiers de ce dossier ne peuvent pas être affichés : leurs noms ne sont pas du texte UTF-8 valide. Renommez-les pour les choisir.</numerusform>
+            <numerusform>%n fichier de ce dossier ne peut pas être affiché&#xa0;: son nom n’est pas du texte UTF-8 valide. Renommez-le pour le choisir.</numerusform>
+            <numerusform>%n fichiers de ce dossier ne peuvent pas être affichés&#xa0;: leurs noms ne sont pas du texte UTF-8 valide. Renommez-les pour les choisir.</numerusform>
         </translation>
     </message>
 </context>
@@ -2135,7 +2135,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     <name>Window_Video_Settings</name>
     <message>
         <source>How are clips converted for video discs?</source>
-        <translation>Comment convertir les clips pour les disques vidéo ?</translation>
+        <translation>Comment convertir les clips pour les disques vidéo&#xa0;?</translation>
     </message>
     <message>
         <source>TV standard</source>
@@ -2171,6 +2171,29 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
 </context>
 <context>
+    <name>desktop::JobPresence</name>
+    <message>
+        <source>A disc image is being made.</source>
+        <translation>Une image disque est en cours de création.</translation>
+    </message>
+    <message>
+        <source>A disc is being erased.</source>
+        <translation>Un disque est en cours d’effacement.</translation>
+    </message>
+    <message>
+        <source>A disc is being made.</source>
+        <translation>Un disque est en cours de création.</translation>
+    </message>
+    <message>
+        <source>%1 % – Corvalis</source>
+        <translation>%1 % – Corvalis</translation>
+    </message>
+    <message>
+        <source>Show Corvalis</source>
+        <translation>Afficher Corvalis</translation>
+    </message>
+</context>
+<context>
     <name>runner::ToolRun</name>
     <message>
         <source>ended without an error</source>
@@ -2182,7 +2205,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>could not be started: %1</source>
-        <translation>n’a pas pu démarrer : %1</translation>
+        <translation>n’a pas pu démarrer&#xa0;: %1</translation>
     </message>
     <message>
         <source>crashed (signal %1)</source>
@@ -2206,7 +2229,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>%1 could not be started: %2</source>
-        <translation>%1 n’a pas pu démarrer : %2</translation>
+        <translation>%1 n’a pas pu démarrer&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 crashed (signal %2)</source>
@@ -2249,7 +2272,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>The disc is incomplete: erase it before you use it again.</source>
-        <translation>Le disque est incomplet : effacez-le avant de le réutiliser.</translation>
+        <translation>Le disque est incomplet&#xa0;: effacez-le avant de le réutiliser.</translation>
     </message>
     <message>
         <source>The disc is incomplete and cannot be used any more.</source>
@@ -2281,7 +2304,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>This disc is lost: it cannot be written a second time.</source>
-        <translation>Ce disque est perdu : il ne peut pas être gravé une seconde fois.</translation>
+        <translation>Ce disque est perdu&#xa0;: il ne peut pas être gravé une seconde fois.</translation>
     </message>
     <message>
         <source>No image was made.</source>

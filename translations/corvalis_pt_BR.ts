@@ -361,10 +361,6 @@ Feito com Qt %1, libburn, libisofs, ffmpeg e mpv.</translation>
         </translation>
     </message>
     <message>
-        <source>They stay on the list, marked. If they were moved, show a folder in which they are now, at any depth: they are found there by their names.</source>
-        <translation>Eles continuam na lista, marcados. Se foram movidos, indique uma pasta em que estejam agora, em qualquer nível: lá eles são encontrados pelos nomes.</translation>
-    </message>
-    <message>
         <source>Find in a Folder…</source>
         <translation>Procurar em uma pasta…</translation>
     </message>
@@ -620,6 +616,10 @@ Feito com Qt %1, libburn, libisofs, ffmpeg e mpv.</translation>
     <message>
         <source>Warning 0000.</source>
         <translation>Aviso 0000.</translation>
+    </message>
+    <message>
+        <source>What is missing stays on the list, marked. If it was moved, show a folder in which it is now, at any depth: it is found there by its name.</source>
+        <translation>O que falta continua na lista, marcado. Se foi movido, indique uma pasta em que esteja agora, em qualquer nível: lá é encontrado pelo nome.</translation>
     </message>
 </context>
 <context>
@@ -1051,10 +1051,6 @@ A ordem da lista é a ordem no disco.</translation>
         <translation>Pastas de dados</translation>
     </message>
     <message>
-        <source>Add folders with “Add Folder”, or drop them here.</source>
-        <translation>Adicione pastas com “Pasta” ou solte-as aqui.</translation>
-    </message>
-    <message>
         <source>ISO</source>
         <translation>ISO</translation>
     </message>
@@ -1453,6 +1449,10 @@ A ordem da lista é a ordem no disco.</translation>
     <message>
         <source>&amp;About Corvalis</source>
         <translation>&amp;Sobre o Corvalis</translation>
+    </message>
+    <message>
+        <source>Add folders and files with the buttons above, or drop them here.</source>
+        <translation>Adicione pastas e arquivos com os botões acima ou solte-os aqui.</translation>
     </message>
 </context>
 <context>
@@ -2168,6 +2168,29 @@ A ordem da lista é a ordem no disco.</translation>
     <message>
         <source>&amp;MPEG-2 audio (MP2)</source>
         <translation>Áudio &amp;MPEG-2 (MP2)</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::JobPresence</name>
+    <message>
+        <source>A disc image is being made.</source>
+        <translation>Uma imagem de disco está sendo criada.</translation>
+    </message>
+    <message>
+        <source>A disc is being erased.</source>
+        <translation>Um disco está sendo apagado.</translation>
+    </message>
+    <message>
+        <source>A disc is being made.</source>
+        <translation>Um disco está sendo criado.</translation>
+    </message>
+    <message>
+        <source>%1 % – Corvalis</source>
+        <translation>%1% – Corvalis</translation>
+    </message>
+    <message>
+        <source>Show Corvalis</source>
+        <translation>Mostrar o Corvalis</translation>
     </message>
 </context>
 <context>

@@ -46,6 +46,33 @@ const Row rows[] = {
         QT_TRANSLATE_NOOP("Acceptance",
             "The files in these folders have their endings in capital letters, and of a folder only those in "
             "small letters are taken. Add the files themselves.") },
+    { Refusal::NoSound,
+        QT_TRANSLATE_NOOP("Acceptance",
+            "This list takes files that end in %1, and any others with sound in them. ffmpeg finds none in "
+            "these.") },
+    { Refusal::NoFilm,
+        QT_TRANSLATE_NOOP("Acceptance",
+            "This list takes files that end in %1, and any others with a film in them. ffmpeg finds none in "
+            "these.") },
+    { Refusal::FolderWithoutSound,
+        QT_TRANSLATE_NOOP("Acceptance", "ffmpeg finds no sound in any file in these folders or below.") },
+    { Refusal::FolderWithoutFilm,
+        QT_TRANSLATE_NOOP("Acceptance", "ffmpeg finds no film in any file in these folders or below.") },
+    { Refusal::InPlaylist,
+        QT_TRANSLATE_NOOP("Acceptance",
+            "These are playlists and folders that a playlist names, and those are not followed. Add them "
+            "themselves.") },
+    { Refusal::EmptyPlaylist,
+        QT_TRANSLATE_NOOP("Acceptance", "These playlists name no files, or they are damaged.") },
+    { Refusal::LongPlaylist,
+        QT_TRANSLATE_NOOP("Acceptance",
+            "These playlists name more than 100,000 files. Only so many were taken, the first ones.") },
+    { Refusal::LargePlaylist,
+        QT_TRANSLATE_NOOP("Acceptance", "These files are too large for playlists, which have up to 32 MB.") },
+    { Refusal::LargeFolder,
+        QT_TRANSLATE_NOOP("Acceptance",
+            "There are more than 100,000 files below these folders. Only so many were taken, the first "
+            "ones.") },
 };
 
 /// What keeps anything at all from being added, whatever it is.

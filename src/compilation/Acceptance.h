@@ -19,6 +19,22 @@ enum class Refusal {
     OtherEnding,
     FolderWithout, ///< a folder without a file that ends in one of the list's endings
     FolderInCapitals, ///< the same, but for capital letters; of a folder only small ones are taken
+    NoSound, ///< a file of another ending, in which the transcoder finds no sound
+    NoFilm, ///< the same, with no moving pictures
+    FolderWithoutSound, ///< a folder with no sound in any file below it
+    FolderWithoutFilm,
+    InPlaylist, ///< a playlist or a folder that a playlist names
+    EmptyPlaylist, ///< or one that cannot be read as what its ending says
+    LongPlaylist, ///< what comes after the first entries of it is left out
+    LargePlaylist, ///< too large to be one
+    LargeFolder, ///< what comes after the first files below it is left out
+};
+
+/// Something that cannot go on a list.
+struct Refused {
+    Refusal refusal;
+    QUrl url;
+    qsizetype place = 0; ///< among all that was to be added with it
 };
 
 /// Of a file or folder for a list of media files with these endings, which are in small letters. Its own

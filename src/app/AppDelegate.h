@@ -173,6 +173,8 @@ public:
     /// Returns at once; addingEnded() follows. They come before the row `before`, -1: behind the last one.
     void addMediaFiles(ListKind kind, const QList<QUrl> &urls, int before = -1);
     void addMediaFolder(ListKind kind, const QString &folder);
+    /// The same for files that are told by what is in them, and for playlists; with all below them, for folders.
+    void addOtherMedia(ListKind kind, const QList<QUrl> &urls, int before = -1, bool withAllBelow = false);
     void addDataFolder(
         const QString &path, int before = -1); ///< or a file; before this row, -1: behind the last one
     void OnActionAudioAddFiles(), OnActionAudioAddFolder(), OnActionAudioDelete(), OnActionAudioClear(),
@@ -181,8 +183,9 @@ public:
         OnActionVideoPlay(), OnActionVideoNewDisc(), OnActionVideoCopyDisc(), OnActionVideoSettings();
     void OnActionDataAddFolder(), OnActionDataDelete(), OnActionDataClear(), OnActionDataNewDisc(),
         OnActionDataCopyDisc(), OnActionDataAddFiles();
+    void OnActionAudioAddOther(), OnActionVideoAddOther();
     /// Onto the list of the selected tab, before this row; tells what does not fit.
-    void addDroppedFiles(const QList<QUrl> &urls, int before);
+    void addDroppedFiles(const QList<QUrl> &urls, int before, bool withAllBelow = false);
     void moveSelectedEntries(int by); ///< up (-1) or down (1) in the list of the selected tab
     void moveSelectedEntriesBefore(int row); ///< of the same list; the number of rows is behind the last
 
@@ -302,8 +305,6 @@ private:
     void pickMediaFolder(ListKind kind);
     QList<QUrl> mediaIn(ListKind kind, const QString &folder); ///< the accepted files; tells what is no text
     struct Measuring; ///< of the files that are being added
-    void mediaFileMeasured(Measuring &measuring, const NodeMediaFile &record);
-    void mediaFilesAdded(ListKind kind, const Measuring &measuring);
     template <class Record>
     void insertRecords(ListTableView *table, QList<Record> &list, const QList<Record> &records, int before);
     void addData(const QStringList &paths, int before); ///< folders and files
@@ -311,10 +312,9 @@ private:
     template <class Record>
     void deleteSelected(ListTableView *table, QList<Record> &list);
     void playSelected(const ListTableView *table);
-    struct Refused; ///< what cannot go on a list, and why
-    void tellRefused(const QList<Refused> &all, ListKind kind); ///< in one alert, each with its sentence
-    void measureMediaFiles(ListKind kind, const QList<QUrl> &urls, int before);
-    NodeMediaFile measured(const QUrl &url, Measuring &measuring); ///< any thread; runs the transcoder
+    void addDroppedFolders(const QList<QUrl> &urls, int before);
+    void tellRefused(const Measuring &measuring); ///< in one alert, each with its sentence
+    void measureMediaFiles(const std::shared_ptr<Measuring> &measuring);
     void tellTranscoderMissing(); ///< once
     bool m_transcoderMissingTold = false;
     void forgetSorting(); ///< no heading claims any more that the list is in its order

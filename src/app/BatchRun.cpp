@@ -1,6 +1,7 @@
 #include "app/BatchRun.h"
 
 #include "app/AppDelegate.h"
+#include "app/BatchMedia.h"
 #include "app/MainWindow.h"
 #include "app/Surface.h"
 #include "app/Window_New_Disc.h"
@@ -10,6 +11,7 @@
 #include <QFileInfo>
 #include <QRadioButton>
 
+#include <algorithm>
 #include <cstdio>
 #include <limits>
 #include <sys/ioctl.h>
@@ -17,6 +19,8 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
+using compilation::Wanted;
+using ListKind = AppDelegate::ListKind;
 
 namespace {
 
@@ -77,6 +81,9 @@ QString BatchRun::meantPath(const QString &argument)
 QString BatchRun::objection(const BatchJob &job)
 {
     const bool data = job.type->tab == 2;
+    const ListKind kind = job.type->tab == 0 ? ListKind::Audio : ListKind::Video;
+    const QStringList &accepted = AppDelegate::acceptedExtensions(kind);
+    QList<Wanted> wanted;
     for (const QString &path : job.paths) {
         const QFileInfo info(path);
         if (!info.exists())
@@ -85,14 +92,13 @@ QString BatchRun::objection(const BatchJob &job)
             return tr("%1 is no file or folder, and a data disc is made of these.").arg(path);
         if (data)
             continue;
-        const QStringList &accepted = AppDelegate::acceptedExtensions(
-            job.type->tab == 0 ? AppDelegate::ListKind::Audio : AppDelegate::ListKind::Video);
-        if (!info.isFile() || !accepted.contains(info.suffix(), Qt::CaseInsensitive)) {
+        if (!info.isFile())
             return tr("%1 is not a file that this disc can take. Accepted are: %2.")
                 .arg(path, accepted.join(u", "_s));
-        }
+        const QUrl url = QUrl::fromLocalFile(path);
+        wanted.append({ url, compilation::wayOf(url, accepted) });
     }
-    return {};
+    return batch::objectionToMedia(kind, wanted);
 }
 
 void BatchRun::start()
@@ -138,10 +144,15 @@ void BatchRun::add()
     }
     if (data || urls.isEmpty())
         return burn();
-    if (m_job.type->tab == 0)
-        m_controller->OnActionAudioAddFiles();
+    const bool isAudio = m_job.type->tab == 0;
+    const QStringList &accepted =
+        AppDelegate::acceptedExtensions(isAudio ? ListKind::Audio : ListKind::Video);
+    const bool asEver = std::ranges::all_of(
+        urls, [&](const QUrl &url) { return compilation::wayOf(url, accepted) == Wanted::Way::Listed; });
+    if (isAudio)
+        asEver ? m_controller->OnActionAudioAddFiles() : m_controller->OnActionAudioAddOther();
     else
-        m_controller->OnActionVideoAddFiles();
+        asEver ? m_controller->OnActionVideoAddFiles() : m_controller->OnActionVideoAddOther();
 }
 
 void BatchRun::burn()

@@ -225,7 +225,7 @@ void AppDelegate::offerListActions(int tab)
         { ui->menuitemAddFolder, ui->menuitemCopyDisc, ui->menuitemBurn, ui->menuitemDelete,
             ui->menuitemClear, ui->menuitemSelectAll, ui->menuitemMoveUp, ui->menuitemMoveDown })
         action->setEnabled(list);
-    for (QAction *action : { ui->menuitemPlay, ui->menuitemSort3, ui->menuitemSort4 })
+    for (QAction *action : { ui->menuitemAddOther, ui->menuitemPlay, ui->menuitemSort3, ui->menuitemSort4 })
         action->setEnabled(media);
     for (QAction *action : { ui->menuitemAddFiles, ui->menuitemSort1, ui->menuitemSort2 })
         action->setEnabled(list);

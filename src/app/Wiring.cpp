@@ -124,6 +124,7 @@ const ListItemRow listItems[] = {
         { &D::OnActionAudioAddFiles, &D::OnActionVideoAddFiles, &D::OnActionDataAddFolder } },
     { &U::menuitemAddFolder,
         { &D::OnActionAudioAddFolder, &D::OnActionVideoAddFolder, &D::OnActionDataAddFolder } },
+    { &U::menuitemAddOther, { &D::OnActionAudioAddOther, &D::OnActionVideoAddOther, nullptr } },
     { &U::menuitemDelete, { &D::OnActionAudioDelete, &D::OnActionVideoDelete, &D::OnActionDataDelete } },
     { &U::menuitemClear, { &D::OnActionAudioClear, &D::OnActionVideoClear, &D::OnActionDataClear } },
     { &U::menuitemPlay, { &D::OnActionAudioPlay, &D::OnActionVideoPlay, nullptr } },
@@ -259,10 +260,11 @@ void AppDelegate::showListMenu(ListTableView *table, const QPoint &place, bool f
 {
     QAction *const sort = ui->submenuSort->menuAction();
     // Null: a line.
-    QList<QAction *> wanted{ ui->menuitemAddFiles, ui->menuitemAddFolder, ui->menuitemAddDataFiles };
+    QList<QAction *> wanted{ ui->menuitemAddFiles, ui->menuitemAddFolder, ui->menuitemAddDataFiles,
+        ui->menuitemAddOther };
     if (forRows) {
-        wanted = { ui->menuitemPlay, ui->menuitemDelete, nullptr, ui->menuitemMoveUp, ui->menuitemMoveDown,
-            nullptr, ui->menuitemSelectAll, sort, ui->menuitemClear };
+        wanted = { ui->menuitemPlay, ui->menuitemDelete, nullptr, ui->menuitemMoveUp,
+            ui->menuitemMoveDown, nullptr, ui->menuitemSelectAll, sort, ui->menuitemClear };
     } else if (table->model()->rowCount() > 0) {
         wanted += { nullptr, ui->menuitemSelectAll, sort, ui->menuitemClear };
     }

@@ -4,6 +4,7 @@
 #include "compilation/Acceptance.h"
 #include "compilation/FolderNames.h"
 #include "compilation/Measuring.h"
+#include "compilation/MediaAdding.h"
 #include "ui_MainWindow.h"
 
 #include <QDir>
@@ -12,6 +13,9 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
+using compilation::Refusal;
+using compilation::Refused;
+using compilation::Wanted;
 
 namespace {
 
@@ -42,13 +46,17 @@ QString namesOf(const QList<QUrl> &urls)
     return names.join(u'\n');
 }
 
-} // namespace
+void pickOther(AppDelegate *controller, AppDelegate::ListKind kind)
+{
+    OpenPanel panel;
+    panel.several = true;
+    panel.message = kind == AppDelegate::ListKind::Audio
+        ? AppDelegate::tr("Add any files with sound, and playlists, to the list")
+        : AppDelegate::tr("Add any films, and playlists, to the list");
+    controller->addOtherMedia(kind, controller->around.questions->choose(panel, controller->window));
+}
 
-/// What of one adding cannot go on the list, and why.
-struct AppDelegate::Refused {
-    compilation::Refusal refusal;
-    QUrl url;
-};
+} // namespace
 
 const QStringList &AppDelegate::acceptedExtensions(ListKind kind)
 {
@@ -104,17 +112,48 @@ QList<QUrl> AppDelegate::mediaIn(ListKind kind, const QString &folder)
 
 void AppDelegate::addMediaFiles(ListKind kind, const QList<QUrl> &urls, int before)
 {
-    QList<QUrl> files;
-    QList<Refused> refused;
+    const auto measuring = std::make_shared<Measuring>(this, kind, before);
     for (const QUrl &url : urls) {
         if (compilation::isNoFile(url.toLocalFile()))
-            refused.append({ compilation::Refusal::NoFile, url });
+            measuring->refused.append({ Refusal::NoFile, url });
         else
-            files.append(url);
+            measuring->wanted.append({ url });
     }
-    tellRefused(refused, kind);
-    if (!files.isEmpty())
-        measureMediaFiles(kind, files, before);
+    tellRefused(*measuring);
+    measuring->refused.clear();
+    measureMediaFiles(measuring);
+}
+
+void AppDelegate::addOtherMedia(ListKind kind, const QList<QUrl> &urls, int before, bool withAllBelow)
+{
+    const QStringList &endings = acceptedExtensions(kind);
+    const auto measuring = std::make_shared<Measuring>(this, kind, before);
+    for (qsizetype place = 0; place < urls.size(); ++place) {
+        const QUrl &url = urls.at(place);
+        const bool isFolder = QFileInfo(url.toLocalFile()).isDir();
+        Refusal refusal = compilation::refusalOfMedia(url, endings);
+        const bool isContent = refusal == Refusal::FolderWithout || refusal == Refusal::FolderInCapitals;
+        if (refusal == Refusal::OtherEnding || (isContent && withAllBelow))
+            refusal = Refusal::None;
+        if (url.isLocalFile() && !compilation::isReadable(url))
+            measuring->unreadable.append(url);
+        else if (refusal != Refusal::None)
+            measuring->refused.append({ refusal, url, place });
+        else if (isFolder && withAllBelow)
+            measuring->wanted.append({ url, Wanted::Way::Tree, place });
+        else if (isFolder) {
+            for (const QUrl &file : mediaIn(kind, QDir::cleanPath(url.toLocalFile())))
+                measuring->wanted.append({ file, Wanted::Way::Listed, place });
+        } else
+            measuring->wanted.append({ url, compilation::wayOf(url, endings), place });
+    }
+    // What only a look into files can tell is told with the rest, when all of them have been looked into.
+    if (!measuring->looksInside()) {
+        tellRefused(*measuring);
+        measuring->refused.clear();
+        measuring->unreadable.clear();
+    }
+    measureMediaFiles(measuring);
 }
 
 void AppDelegate::OnActionAudioAddFiles()
@@ -155,50 +194,61 @@ void AppDelegate::OnActionDataAddFiles()
     addDroppedFiles(around.questions->choose(panel, window), -1);
 }
 
-void AppDelegate::tellRefused(const QList<Refused> &all, ListKind kind)
+void AppDelegate::OnActionAudioAddOther()
+{
+    pickOther(this, ListKind::Audio);
+}
+
+void AppDelegate::OnActionVideoAddOther()
+{
+    pickOther(this, ListKind::Video);
+}
+
+void AppDelegate::tellRefused(const Measuring &measuring)
 {
     QStringList paragraphs;
-    QList<compilation::Refusal> told;
-    for (const Refused &first : all) {
+    QList<Refusal> told;
+    for (const Refused &first : measuring.refused) {
         if (told.contains(first.refusal))
             continue;
         told.append(first.refusal);
         QList<QUrl> alike;
-        for (const Refused &other : all) {
+        for (const Refused &other : measuring.refused) {
             if (other.refusal == first.refusal)
                 alike.append(other.url);
         }
-        paragraphs.append(
-            compilation::sentence(first.refusal, acceptedExtensions(kind)) + u"\n\n"_s + namesOf(alike));
+        paragraphs.append(compilation::sentence(first.refusal, acceptedExtensions(measuring.kind)) + u"\n\n"_s
+            + namesOf(alike));
     }
     if (!paragraphs.isEmpty())
         alert(tr("Not everything can go on this list"), paragraphs.join(u"\n\n"_s));
+    if (!measuring.unreadable.isEmpty())
+        alert(Questions::unusableFiles(),
+            Questions::unreadableNamesText() + u"\n\n"_s + namesOf(measuring.unreadable));
 }
 
-void AppDelegate::addDroppedFiles(const QList<QUrl> &urls, int before)
+void AppDelegate::addDroppedFiles(const QList<QUrl> &urls, int before, bool withAllBelow)
 {
     const int tab = ui->tabviewMain->currentIndex();
-    const ListKind kind = tab == 0 ? ListKind::Audio : ListKind::Video;
-    QList<QUrl> taken, unreadable;
-    QList<Refused> refused;
+    if (tab == 2)
+        return addDroppedFolders(urls, before);
+    addOtherMedia(tab == 0 ? ListKind::Audio : ListKind::Video, urls, before, withAllBelow);
+}
+
+void AppDelegate::addDroppedFolders(const QList<QUrl> &urls, int before)
+{
+    QList<QUrl> taken;
+    Measuring refused(this, ListKind::Audio, before); // nothing is measured of folders
     for (const QUrl &url : urls) {
-        const compilation::Refusal refusal = tab == 2
-            ? compilation::refusalOfData(url)
-            : compilation::refusalOfMedia(url, acceptedExtensions(kind));
+        const Refusal refusal = compilation::refusalOfData(url);
         if (url.isLocalFile() && !compilation::isReadable(url))
-            unreadable.append(url);
-        else if (refusal != compilation::Refusal::None)
-            refused.append({ refusal, url });
-        else if (tab != 2 && QFileInfo(url.toLocalFile()).isDir())
-            taken.append(mediaIn(kind, QDir::cleanPath(url.toLocalFile())));
+            refused.unreadable.append(url);
+        else if (refusal != Refusal::None)
+            refused.refused.append({ refusal, url });
         else
             taken.append(url);
     }
-    tellRefused(refused, kind);
-    if (!unreadable.isEmpty())
-        alert(Questions::unusableFiles(), Questions::unreadableNamesText() + u"\n\n"_s + namesOf(unreadable));
-    if (tab != 2)
-        return addMediaFiles(kind, taken, before);
+    tellRefused(refused);
     QStringList paths;
     for (const QUrl &url : std::as_const(taken))
         paths.append(QDir::cleanPath(url.toLocalFile()));

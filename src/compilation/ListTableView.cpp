@@ -347,7 +347,8 @@ void ListTableView::dropEvent(QDropEvent *event)
     if (!takes(event))
         return;
     if (event->mimeData()->hasUrls())
-        Q_EMIT filesDropped(event->mimeData()->urls(), before);
+        Q_EMIT filesDropped(
+            event->mimeData()->urls(), before, event->modifiers().testFlag(Qt::ControlModifier));
     else
         Q_EMIT rowsDropped(before);
 }

@@ -45,8 +45,9 @@ public:
     std::unique_ptr<QMimeData> selectedRowsData() const;
 
 Q_SIGNALS:
-    /// Files were let go before the row `before`; behind the last one it is the number of rows.
-    void filesDropped(const QList<QUrl> &urls, int before);
+    /// Files were let go before the row `before`; behind the last one it is the number of rows. `withAllBelow`: the Ctrl key
+    /// was held.
+    void filesDropped(const QList<QUrl> &urls, int before, bool withAllBelow);
     /// The selected rows were let go before the row `before`.
     void rowsDropped(int before);
     /// A row was opened: double click or Enter.

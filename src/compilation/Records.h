@@ -16,6 +16,7 @@ struct NodeMediaFile {
     QString s_Duration; ///< the 11 characters after "Duration:" in ffmpeg's report
     QString whyNotMeasured; ///< a sentence; empty where the duration is known
     QString title, performer; ///< as a player shows them: from the file's tags, or as typed on the list
+    QString carriedTitle, carriedPerformer; ///< those of the tags that a converted file gets by itself
 
     bool operator==(const NodeMediaFile &) const = default;
 };

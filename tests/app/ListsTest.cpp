@@ -1352,7 +1352,7 @@ void ListsTest::contextMenu_data()
     QTest::addColumn<int>("rows");
     QTest::addColumn<int>("on"); // -1: below the rows
     QTest::addColumn<QStringList>("items");
-    const QStringList add{ u"Add Files…"_s, u"Add Folder…"_s };
+    const QStringList add{ u"Add Files…"_s, u"Add Folder…"_s, u"Add Other Files…"_s };
     const QStringList all{ u"Select All"_s, u"Sort By"_s, u"Clear List"_s };
     const QStringList row{ u"Delete"_s, u"Move Up"_s, u"Move Down"_s };
     QTest::newRow("empty list") << 0 << 0 << -1 << add;

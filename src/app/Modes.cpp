@@ -229,6 +229,7 @@ void AppDelegate::offerListActions(int tab)
         action->setEnabled(media);
     for (QAction *action : { ui->menuitemAddFiles, ui->menuitemSort1, ui->menuitemSort2 })
         action->setEnabled(list);
+    ui->menuitemEditTitle->setEnabled(tab == 0 && ui->menuitemNameColumns->isChecked());
     ui->menuitemAddFiles->setText(tab == 2 ? tr("&Add Folder…") : tr("&Add Files…"));
     ui->menuitemAddFolder->setVisible(tab != 2);
     ui->menuitemAddDataFiles->setVisible(tab == 2);

@@ -3,6 +3,7 @@
 #include "app/MainWindow.h"
 #include "compilation/ListHeader.h"
 #include "compilation/ListTableModel.h"
+#include "compilation/NameColumns.h"
 #include "compilation/SpaceOccupiedView.h"
 #include "kit/SheetStage.h"
 #include "ui_MainWindow.h"
@@ -220,8 +221,8 @@ void AppDelegate::connectLists()
         int wideColumn;
     };
     const TableRow tables[] = {
-        { ui->tableviewAudioFiles, Kind::Media, &D::OnActionAudioPlay, ListTableModel::MediaPath },
-        { ui->tableviewVideoFiles, Kind::Media, &D::OnActionVideoPlay, ListTableModel::MediaPath },
+        { ui->tableviewAudioFiles, Kind::Audio, &D::OnActionAudioPlay, ListTableModel::MediaPath },
+        { ui->tableviewVideoFiles, Kind::Video, &D::OnActionVideoPlay, ListTableModel::MediaPath },
         { ui->tableviewDataFolders, Kind::Data, nullptr, ListTableModel::DataFolder },
     };
     for (const TableRow &row : tables) {
@@ -248,6 +249,7 @@ void AppDelegate::connectLists()
             }
         });
     }
+    new NameColumns(this);
     connect(ui->menuitemMoveUp, &QAction::triggered, this, [this] { moveSelectedEntries(-1); });
     connect(ui->menuitemMoveDown, &QAction::triggered, this, [this] { moveSelectedEntries(1); });
     connect(ui->menuitemSelectAll, &QAction::triggered, this, [this] {
@@ -263,7 +265,7 @@ void AppDelegate::showListMenu(ListTableView *table, const QPoint &place, bool f
     QList<QAction *> wanted{ ui->menuitemAddFiles, ui->menuitemAddFolder, ui->menuitemAddDataFiles,
         ui->menuitemAddOther };
     if (forRows) {
-        wanted = { ui->menuitemPlay, ui->menuitemDelete, nullptr, ui->menuitemMoveUp,
+        wanted = { ui->menuitemPlay, ui->menuitemEditTitle, ui->menuitemDelete, nullptr, ui->menuitemMoveUp,
             ui->menuitemMoveDown, nullptr, ui->menuitemSelectAll, sort, ui->menuitemClear };
     } else if (table->model()->rowCount() > 0) {
         wanted += { nullptr, ui->menuitemSelectAll, sort, ui->menuitemClear };

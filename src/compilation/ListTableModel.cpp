@@ -26,14 +26,16 @@ int ListTableModel::rowCount(const QModelIndex &parent) const
     if (parent.isValid())
         return 0;
     return static_cast<int>(
-        m_kind == Kind::Media ? m_controller->arrayMediaFiles.size() : m_controller->arrayDataFolders.size());
+        m_kind == Kind::Data ? m_controller->arrayDataFolders.size() : m_controller->arrayMediaFiles.size());
 }
 
 int ListTableModel::columnCount(const QModelIndex &parent) const
 {
     if (parent.isValid())
         return 0;
-    return m_kind == Kind::Media ? int(MediaColumnCount) : int(DataColumnCount);
+    return m_kind == Kind::Audio ? int(AudioColumnCount)
+        : m_kind == Kind::Video  ? int(MediaColumnCount)
+                                 : int(DataColumnCount);
 }
 
 QString ListTableModel::text(int row, int column) const
@@ -50,6 +52,10 @@ QString ListTableModel::text(int row, int column) const
         return file.s_Duration;
     case MediaSize:
         return file.s_File_Size;
+    case NameTitle:
+        return file.title;
+    case NamePerformer:
+        return file.performer;
     default:
         return file.s_Folder_Path;
     }
@@ -57,7 +63,7 @@ QString ListTableModel::text(int row, int column) const
 
 QString ListTableModel::sortText(int row, int column) const
 {
-    const bool path = m_kind == Kind::Media && column == MediaPath;
+    const bool path = m_kind != Kind::Data && column == MediaPath;
     return path ? m_controller->arrayMediaFiles.at(row).s_File_Path : text(row, column);
 }
 
@@ -73,8 +79,8 @@ QStringList ListTableModel::sortTexts(int column) const
 
 QString ListTableModel::whyNotMeasured(int row) const
 {
-    return m_kind == Kind::Media ? m_controller->arrayMediaFiles.at(row).whyNotMeasured
-                                 : m_controller->arrayDataFolders.at(row).whyNotMeasured;
+    return m_kind != Kind::Data ? m_controller->arrayMediaFiles.at(row).whyNotMeasured
+                                : m_controller->arrayDataFolders.at(row).whyNotMeasured;
 }
 
 QString ListTableModel::toolTip(int row) const
@@ -90,7 +96,7 @@ QString ListTableModel::toolTip(int row) const
 /// The mark of a file whose duration is not known, in the cell where it is missing.
 QVariant ListTableModel::mark(int row, int column, int role) const
 {
-    const bool here = column == (m_kind == Kind::Media ? int(MediaDuration) : int(DataSize));
+    const bool here = column == (m_kind != Kind::Data ? int(MediaDuration) : int(DataSize));
     if (!here || whyNotMeasured(row).isEmpty())
         return {};
     if (role == Qt::AccessibleTextRole)
@@ -117,6 +123,7 @@ QVariant ListTableModel::data(const QModelIndex &index, int role) const
         return {};
     switch (role) {
     case Qt::DisplayRole:
+    case Qt::EditRole:
         return text(index.row(), index.column());
     case SortRole:
         return sortText(index.row(), index.column());
@@ -142,7 +149,22 @@ QVariant ListTableModel::data(const QModelIndex &index, int role) const
 Qt::ItemFlags ListTableModel::flags(const QModelIndex &index) const
 {
     const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-    return index.isValid() ? flags | Qt::ItemIsDragEnabled : flags;
+    const bool isName = m_kind == Kind::Audio && index.column() >= NameTitle;
+    return !index.isValid() ? flags
+        : isName            ? flags | Qt::ItemIsDragEnabled | Qt::ItemIsEditable
+                            : flags | Qt::ItemIsDragEnabled;
+}
+
+bool ListTableModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable))
+        return false;
+    const QString name = value.toString().simplified();
+    if (name == text(index.row(), index.column()))
+        return false;
+    Q_EMIT nameTyped(index.row(), index.column(), name);
+    Q_EMIT dataChanged(index, index);
+    return true;
 }
 
 QVariant ListTableModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -157,6 +179,7 @@ QVariant ListTableModel::headerData(int section, Qt::Orientation orientation, in
         return {};
     if (m_kind == Kind::Data)
         return section == DataFolder ? tr("Folder") : tr("Size");
-    const QStringList headings{ tr("File"), tr("Duration"), tr("Size"), tr("Path") };
+    const QStringList headings{ tr("File"), tr("Duration"), tr("Size"), tr("Path"), tr("Title"),
+        tr("Performer") };
     return headings.at(section);
 }

@@ -68,7 +68,12 @@ ListTableView::ListTableView(QWidget *parent)
     setHorizontalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 12);
-    connect(this, &QTableView::doubleClicked, this, &ListTableView::rowOpened);
+    connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex &cell) {
+        if (canType(cell))
+            edit(cell);
+        else
+            Q_EMIT rowOpened();
+    });
 }
 
 void ListTableView::setGround(const QColor &ground)
@@ -135,6 +140,23 @@ int ListTableView::lastSelectedRow() const
     if (rows.contains(current))
         return current;
     return rows.isEmpty() ? -1 : rows.last();
+}
+
+bool ListTableView::canType(const QModelIndex &cell) const
+{
+    return cell.flags().testFlag(Qt::ItemIsEditable) && !isColumnHidden(cell.column());
+}
+
+void ListTableView::editRow()
+{
+    QModelIndex cell = currentIndex();
+    for (int column = 0; !canType(cell) && column < model()->columnCount(); ++column)
+        cell = model()->index(currentIndex().row(), column);
+    if (!canType(cell))
+        return;
+    selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
+    scrollTo(cell);
+    edit(cell);
 }
 
 void ListTableView::showRows(int first, int last)

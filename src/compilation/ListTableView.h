@@ -41,6 +41,9 @@ public:
     /// selected, where the keyboard goes on, and what is scrolled to.
     void keepPlace(const std::function<void()> &change);
 
+    /// Lets a person type into the current row: into its current cell, or into the first one that takes it.
+    void editRow();
+
     /// What a drag of the selected rows carries. Only this list takes it.
     std::unique_ptr<QMimeData> selectedRowsData() const;
 
@@ -50,7 +53,7 @@ Q_SIGNALS:
     void filesDropped(const QList<QUrl> &urls, int before, bool withAllBelow);
     /// The selected rows were let go before the row `before`.
     void rowsDropped(int before);
-    /// A row was opened: double click or Enter.
+    /// A row was opened: Enter, or a double click but on a cell that can be typed into.
     void rowOpened();
     /// A context menu is wanted, at `place` on the screen: for the selected rows, or for the whole list.
     void menuWanted(const QPoint &place, bool forRows);
@@ -68,6 +71,7 @@ protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 
 private:
+    bool canType(const QModelIndex &cell) const;
     QByteArray ownMark() const;
     bool takes(QDropEvent *event) const;
     void showWhere(QDropEvent *event);

@@ -116,12 +116,13 @@ void AppDelegate::tableView_sortDescriptorsDidChange(ListTableView *table)
         &AppDelegate::m_b_Col3_Ascenging, &AppDelegate::m_b_Col4_Ascenging };
     const auto *model = static_cast<const ListTableModel *>(table->model());
     const int column = table->selectedColumn();
+    const int sortable = qMin(model->columnCount(), static_cast<int>(flags.size()));
     QList<int> selected = table->selectedRows();
-    if (column >= 0 && column < model->columnCount()) {
+    if (column >= 0 && column < sortable) {
         const bool ascending = this->*flags.at(static_cast<std::size_t>(column));
         const QList<qsizetype> order = compilation::sortedOrder(model->sortTexts(column), ascending);
         reorderList(table, order, selected);
-        for (int other = 0; other < model->columnCount(); ++other)
+        for (int other = 0; other < sortable; ++other)
             this->*flags.at(static_cast<std::size_t>(other)) = other == column && !ascending;
         table->horizontalHeader()->setSortIndicatorShown(true);
         table->horizontalHeader()->setSortIndicator(

@@ -1,7 +1,13 @@
 // Audio CDs, MP3 CDs and MP3 DVDs: checks, conversion, and 0.1 seconds later the disc.
+#include "app/MainWindow.h"
+#include "runner/ActivityLog.h"
+#include "ui_MainWindow.h"
 #include "writing/DiscForms.h"
 #include "writing/Job.h"
 #include "writing/Names.h"
+#include "writing/TrackNames.h"
+
+#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -46,6 +52,24 @@ void AppDelegate::burnAudio(const AudioForm &form)
             file.s_File_Path, writing::convertedPath(s_Audio_Folder, file.s_File_Path, form.extension));
     });
     schedule(this->*form.timer, form.write);
+}
+
+void writing::nameTrack(const AppDelegate &controller, const QString &path, const NodeMediaFile &file)
+{
+    Job *const job = controller.job.get();
+    const bool isTrack =
+        job->work().workingFolder == controller.s_Audio_Folder && controller.i_Burn_Audio_Type == 1;
+    const auto names = namesToWrite(file, controller.ui->menuitemWriteTitles->isChecked());
+    if (!isTrack || !names || job->isStopping() || !QFile::exists(path))
+        return;
+    const QString why = writeTrackNames(path, *names);
+    if (why.isEmpty())
+        return;
+    const QString what = AppDelegate::tr(
+        "The title and the performer of “%1” are not on the disc as they are on the list: %2.")
+                             .arg(file.s_File_Name_With_Extension.simplified(), why);
+    controller.activityLog->note(AppDelegate::tr("The names of a track could not be written"), what);
+    job->leaveOut(what);
 }
 
 void AppDelegate::TimerBurnAudioCD()

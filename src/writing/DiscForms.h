@@ -52,4 +52,8 @@ QStringList mp3Arguments(const QString &source, const QString &output);
 QStringList mpegArguments(
     const QString &source, const QString &output, const QString &videoFormat, const QString &audioFormat);
 
+/// Lets the converted file at `path`, where it is a track of the job's audio CD, say the names that `file` has on the list.
+/// Called right behind the conversion, as the disc utility orders the tracks by when their files were last changed.
+void nameTrack(const AppDelegate &controller, const QString &path, const NodeMediaFile &file);
+
 } // namespace writing

@@ -122,6 +122,8 @@ void AppDelegate::convert(const QStringList &arguments, const NodeMediaFile &fil
     // Nothing is written over: of two files that are converted to one name the first one is kept.
     const bool taken = QFile::exists(arguments.last());
     transcodeAndWait(arguments, file.s_File_Name_With_Extension.simplified(), taken ? 1 : 0);
+    if (!taken)
+        writing::nameTrack(*this, arguments.last(), file);
     if (taken) {
         const QString why =
             tr("“%1” was left out: another entry of the list is converted to “%2” too. Rename one of "

@@ -121,7 +121,8 @@ QStringList TablesTest::column(int column) const
 
 void TablesTest::headings()
 {
-    const QList<QStringList> expected{ { u"File"_s, u"Duration"_s, u"Size"_s, u"Path"_s },
+    const QList<QStringList> expected{
+        { u"File"_s, u"Duration"_s, u"Size"_s, u"Path"_s, u"Title"_s, u"Performer"_s },
         { u"File"_s, u"Duration"_s, u"Size"_s, u"Path"_s }, { u"Folder"_s, u"Size"_s } };
     for (int tab = 0; tab < 3; ++tab) {
         showTab(tab);
@@ -134,7 +135,7 @@ void TablesTest::headings()
             identifiers.append(heading(ListTableModel::IdentifierRole));
         }
         QCOMPARE(shown, expected.at(tab));
-        const QStringList keys{ u"key1"_s, u"key2"_s, u"key3"_s, u"key4"_s };
+        const QStringList keys{ u"key1"_s, u"key2"_s, u"key3"_s, u"key4"_s, u"key5"_s, u"key6"_s };
         QCOMPARE(identifiers, keys.first(shown.size()));
         // All of them are there to be pressed, at any width.
         const QHeaderView *header = table()->horizontalHeader();

@@ -128,6 +128,9 @@ private Q_SLOTS:
         QCOMPARE(machine.trouble(), QString());
         QVERIFY2(
             contentOf(machine.recorder.path(u"disc.bin"_s)) == discOf(paths), "the sound is another one");
+        // FLAC has its names for the whole file, Ogg for the stream only.
+        const QByteArray tracks = Recorder::drutil({ u"tracks"_s }).simplified();
+        QVERIFY2(tracks.contains(" One 2 ") && tracks.contains(" Two Band 3 "), tracks.constData());
     }
 
     void filmsOfAnyEndingMakeADvd()

@@ -195,6 +195,7 @@ public:
     bool mayReplaceList(); ///< false: the person wants to keep the list that is shown
     void OnMenuListOpen(), OnMenuListSave(), OnMenuListSaveAs(), OnMenuFindMissing();
     void OnMenuUndo(), OnMenuRedo();
+    void listsChanged(); ///< for the history, which is told once control is back in the event loop
     void setDiscName(const QString &name); ///< any text; into the field, and where usable to the tools
 
     // ---- Tables, sorting, gauge (compilation/)
@@ -330,7 +331,6 @@ private:
     const std::unique_ptr<SavedLists> m_lists;
     Compilation present() const;
     void show(const Compilation &compilation);
-    void listsChanged(); ///< for the history, which is told once control is back in the event loop
     void noteLists();
     bool isListUnsaved() const;
     bool saveList(const QString &path);

@@ -153,6 +153,8 @@ void AppDelegate::addOtherMedia(ListKind kind, const QList<QUrl> &urls, int befo
         measuring->refused.clear();
         measuring->unreadable.clear();
     }
+    if (measuring->wanted.isEmpty() && !urls.isEmpty())
+        Q_EMIT addingEnded(); // for a batch run, which would wait
     measureMediaFiles(measuring);
 }
 

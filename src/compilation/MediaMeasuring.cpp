@@ -131,8 +131,11 @@ AppDelegate::Measuring::Measured AppDelegate::Measuring::measured(const Wanted &
     record.i_Duration_in_Seconds = Return_Seconds_From_Duration_Str(record.s_Duration);
     record.whyNotMeasured = compilation::whyNotMeasured(path, record.s_Duration, report.text);
     const compilation::MediaReport content = compilation::mediaReport(report.text, path);
-    record.title = content.names.title;
-    record.performer = content.names.performer;
+    // Of the usual files only what the conversion takes over is shown: untouched, it is what the disc will say.
+    const bool isUsual = acceptedExtensions(kind).contains(record.s_File_Extension, Qt::CaseInsensitive);
+    const compilation::TrackNames &names = isUsual ? content.carried : content.names;
+    record.title = names.title;
+    record.performer = names.performer;
     record.carriedTitle = content.carried.title;
     record.carriedPerformer = content.carried.performer;
     if (report.isWithoutTranscoder()) {

@@ -70,6 +70,7 @@ void NameColumns::takeName(int row, int column, const QString &name)
 {
     NodeMediaFile &file = m_controller->arrayMediaFiles[row];
     (column == ListTableModel::NameTitle ? file.title : file.performer) = name;
+    m_controller->listsChanged();
 }
 
 void NameColumns::show(bool shown)

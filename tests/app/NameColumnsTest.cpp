@@ -20,6 +20,7 @@ private Q_SLOTS:
     void namesComeFromTheTags();
     void typing_data();
     void typing();
+    void undone();
     void escapeTakesBack();
     void doubleClicks();
     void aNameIsOneLineOfAtMostSoMany();
@@ -74,11 +75,14 @@ void NameColumnsTest::namesComeFromTheTags()
                       "  Stream #0:0: Audio: opus\\n    Metadata:\\n      title           : Inside\\n"
                       "      artist          : Other Band\\n\" \"$2\"\n");
     QSignalSpy ended(m_app->controller.get(), &AppDelegate::addingEnded);
-    m_app->controller->addMediaFiles(AppDelegate::ListKind::Audio, { QUrl::fromLocalFile(u"/x/song.mp3"_s) });
+    m_app->controller->addMediaFiles(AppDelegate::ListKind::Audio,
+        { QUrl::fromLocalFile(u"/x/song.ogg"_s), QUrl::fromLocalFile(u"/x/song.mp3"_s) });
     QVERIFY(ended.count() > 0 || ended.wait(20'000));
     QCOMPARE(cell(3, title).data().toString(), u"Inside"_s);
     QCOMPARE(cell(3, performer).data().toString(), u"Other Band"_s);
     QCOMPARE(record(3).carriedTitle, QString());
+    // Untouched, a disc of the usual files says what the conversion takes over, and so does the list.
+    QCOMPARE(record(4).title, QString());
 }
 
 void NameColumnsTest::typing_data()
@@ -104,6 +108,17 @@ void NameColumnsTest::typing()
     QCOMPARE(into == title ? record(1).performer : record(1).title, into == title ? u"Band"_s : u"Title 1"_s);
     QCOMPARE(audio()->selectedRows(), QList<int>{ 1 });
     QVERIFY(m_app->questions.alerts.isEmpty()); // nothing was played
+}
+
+void NameColumnsTest::undone()
+{
+    QCoreApplication::processEvents(); // the list as it was is a step of its own
+    QVERIFY(audio()->model()->setData(cell(0, title), u"Typed"_s, Qt::EditRole));
+    QTRY_VERIFY(item("menuitemUndo")->isEnabled());
+    person::choose(m_app->window.get(), "menuitemUndo");
+    QCOMPARE(cell(0, title).data().toString(), u"Title 0"_s);
+    person::choose(m_app->window.get(), "menuitemRedo");
+    QCOMPARE(cell(0, title).data().toString(), u"Typed"_s);
 }
 
 void NameColumnsTest::escapeTakesBack()

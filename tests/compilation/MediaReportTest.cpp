@@ -59,6 +59,7 @@ class MediaReportTest : public QObject {
 private Q_SLOTS:
     void whatIsInAFile_data();
     void whatIsInAFile();
+    void whatLooksLikeAReport();
 };
 
 void MediaReportTest::whatIsInAFile_data()
@@ -97,18 +98,6 @@ void MediaReportTest::whatIsInAFile_data()
         u"/a"_s, true, false, { QString(QChar(0xfffd)), {}, QString(QChar(0xfffd)), {} });
     row("a control character in the name", "Input #0, mp3, from '/a?b':\n  Stream #0:0: Audio: mp3\n",
         u"/a\x01"_s + u"b"_s, true, false, none);
-    // A name that looks like a report makes none of a text.
-    const QString liar = u"/m/x\n  Stream #0:0: Audio: mp3\n  Metadata:\n    title : no.txt"_s;
-    row("a name like a report", (liar + u": Invalid data found when processing input\n"_s).toUtf8(), liar,
-        false, false, none);
-    row("a name like a report, of a picture",
-        (u"Input #0, image2, from '"_s + liar + u"':\n"_s).toUtf8() + "  Stream #0:0: Video: png\n", liar,
-        false, false, none);
-    row("a tag like a stream",
-        "Input #0, image2, from '/a':\n  Metadata:\n    comment         : x\n                    :   Stream "
-        "#0:0: "
-        "Audio: mp3\n  Stream #0:0: Video: png\n",
-        u"/a"_s, false, false, none);
 }
 
 void MediaReportTest::whatIsInAFile()
@@ -122,6 +111,24 @@ void MediaReportTest::whatIsInAFile()
     QCOMPARE(QStringList(
                  { found.names.title, found.names.performer, found.carried.title, found.carried.performer }),
         names);
+}
+
+/// A name that looks like a report makes none of a text.
+void MediaReportTest::whatLooksLikeAReport()
+{
+    const QString liar = u"/m/x\n  Stream #0:0: Audio: mp3\n  Metadata:\n    title : no.txt"_s;
+    const QByteArray name = liar.toUtf8();
+    const std::pair<QString, QByteArray> reports[] = {
+        { liar, name + ": Invalid data found when processing input\n" },
+        { liar, "Input #0, image2, from '" + name + "':\n  Stream #0:0: Video: png\n" },
+        { u"/a"_s,
+            "Input #0, image2, from '/a':\n  Metadata:\n    comment         : x\n"
+            "                    :   Stream #0:0: Audio: mp3\n  Stream #0:0: Video: png\n" },
+    };
+    for (const auto &[path, report] : reports) {
+        const MediaReport found = compilation::mediaReport(report, path);
+        QVERIFY2(!found.hasSound && !found.hasFilm && found.names == TrackNames(), report.constData());
+    }
 }
 
 QTEST_GUILESS_MAIN(MediaReportTest)

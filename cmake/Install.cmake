@@ -23,8 +23,7 @@ foreach(program drutil hdiutil)
 endforeach()
 install(PROGRAMS ${CMAKE_BINARY_DIR}/libexec/corvalis/ffmpeg DESTINATION ${CORVALIS_LIBEXEC})
 
-install(FILES src/kit/icons/corvalis.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-install(FILES ${packaging}/corvalis.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+include(cmake/InstallDesktop.cmake)
 install(FILES debian/copyright README.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/corvalis)
 
 # Installed compressed, without a time stamp so that a build can be reproduced.

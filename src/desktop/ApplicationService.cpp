@@ -77,6 +77,8 @@ void ApplicationService::Open(const QStringList &addresses, const QVariantMap &p
     Request request;
     for (const QString &address : addresses) {
         const QUrl url(address, QUrl::StrictMode);
+        if (url.scheme() == "burn"_L1)
+            continue; // a blank disc, as file managers call it; there is nothing on it to be opened
         if (address.size() > longestAddress || !isFileHere(url))
             return sendErrorReply(QDBusError::InvalidArgs, u"Only addresses of files of this computer."_s);
         request.files.append(url);

@@ -155,6 +155,7 @@ void SecondStartTest::foreignCalls_data()
     const QString longOne = u"file:///"_s + QString(ApplicationService::longestAddress, u'a');
     QTest::newRow("activate") << u"Activate"_s << QVariantList{ data } << true;
     QTest::newRow("no files") << u"Open"_s << open({}) << true;
+    QTest::newRow("blank disc") << u"Open"_s << open({ u"burn:///"_s }) << true;
     QTest::newRow("elsewhere") << u"Open"_s << open({ u"https://somewhere/a.mp3"_s }) << false;
     QTest::newRow("other host") << u"Open"_s << open({ u"file://somewhere/a.mp3"_s }) << false;
     QTest::newRow("relative") << u"Open"_s << open({ u"a.mp3"_s }) << false;

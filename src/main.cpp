@@ -145,7 +145,7 @@ void describeOptions(QCommandLineParser &parser)
         Texts::tr("what"));
     parser.addOptions({ burn, show, newWindow, action });
     parser.addPositionalArgument(Texts::tr("FILE"),
-        Texts::tr("Files, or folders for a data disc; the tracks of an audio CD keep their order. Without "
+        Texts::tr("Files, for a data disc also folders; the tracks of an audio CD keep their order. Without "
                   "--burn they are opened in the window: music, films, folders, a disc image or a saved "
                   "list."),
         Texts::tr("[FILE...]"));

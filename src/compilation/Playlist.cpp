@@ -97,7 +97,7 @@ void parseXspf(const QByteArray &content, Playlist &playlist)
             append(playlist, location);
     }
     if (xml.hasError() || !isPlaylist)
-        playlist = { .isBroken = true, .areAddresses = true };
+        playlist = { {}, false, true, true };
 }
 
 struct Form {

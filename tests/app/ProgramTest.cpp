@@ -337,8 +337,8 @@ void ProgramTest::wrongArguments_data()
         << QStringList{ u"--burn"_s, u"Audio CD"_s, u"song.mp3"_s, u"gone.mp3"_s } << u"gone.mp3"_s;
     QTest::newRow("folder on an audio disc")
         << QStringList{ u"--burn"_s, u"Audio CD"_s, u"folder.mp3"_s } << u"folder.mp3"_s;
-    QTest::newRow("file on a data disc")
-        << QStringList{ u"--burn"_s, u"Data CD"_s, u"song.mp3"_s } << u"song.mp3"_s;
+    QTest::newRow("device on a data disc")
+        << QStringList{ u"--burn"_s, u"Data CD"_s, u"/dev/null"_s } << u"/dev/null"_s;
     QTest::newRow("empty name") << QStringList{ u"--burn"_s, u"Audio CD"_s, QString(u""_s) } << u"file"_s;
     QTest::newRow("unknown option") << QStringList{ u"--bake"_s } << u"bake"_s;
     QTest::newRow("missing file for the window") << QStringList{ u"gone.mp3"_s } << u"gone.mp3"_s;

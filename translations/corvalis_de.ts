@@ -1092,7 +1092,7 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     </message>
     <message>
         <source>Destroys everything on the rewritable disc in the drive. It does not ask again.</source>
-        <translation>Vernichtet alles auf der wiederbeschreibbaren Disc im Laufwerk. Es wird nicht noch einmal gefragt.</translation>
+        <translation>Vernichtet alles auf der Disc im Laufwerk. Es wird nicht noch einmal gefragt.</translation>
     </message>
     <message>
         <source>Disc Information</source>

@@ -41,6 +41,8 @@ void languages::speak(const QLocale &locale, const QString &translations)
         toolkit->load(spoken, u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     install(std::move(toolkit), hasToolkit);
     install(std::move(own), true);
-    // Said outright, as the toolkit's translations, which would say it too, may not be installed.
-    QGuiApplication::setLayoutDirection(spoken.textDirection());
+    // Said outright, as the toolkit's translations, which would say it too, may not be installed. From left to right
+    // is what it takes without being told, or the other way round with its option -reverse.
+    if (spoken.textDirection() == Qt::RightToLeft)
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
 }

@@ -96,6 +96,17 @@ inline QList<ShownText> textsOf(const QMenu *menu)
     return texts;
 }
 
+/// What a card has to say under its heading, wrapped: beside its symbol, and three lines of it at most.
+inline QSize roomWantedByCard(const BarButton *card)
+{
+    constexpr int besideText = 108;
+    const QRect room(0, 0, card->width() - besideText, 10'000);
+    const QFontMetrics metrics(card->font());
+    const int wanted = metrics.boundingRect(room, Qt::TextWordWrap, card->description()).height();
+    const bool fits = wanted <= 3 * metrics.lineSpacing();
+    return card->minimumSizeHint() + QSize(0, fits ? 0 : card->height() + wanted);
+}
+
 /// The room that the text of a widget takes; nothing where the widget has none, or shows it in part on purpose.
 inline QSize roomWanted(const QWidget *widget)
 {
@@ -105,7 +116,7 @@ inline QSize roomWanted(const QWidget *widget)
         return label->wordWrap() ? QSize(0, label->heightForWidth(label->width())) : label->sizeHint();
     }
     if (const auto *bar = qobject_cast<const BarButton *>(widget))
-        return bar->look() == BarButton::Look::Card ? bar->minimumSizeHint() : bar->sizeHint();
+        return bar->look() == BarButton::Look::Card ? roomWantedByCard(bar) : bar->sizeHint();
     if (qobject_cast<const QPushButton *>(widget) || qobject_cast<const QRadioButton *>(widget)
         || qobject_cast<const QCheckBox *>(widget) || qobject_cast<const QTabBar *>(widget))
         return widget->sizeHint();

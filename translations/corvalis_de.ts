@@ -705,10 +705,6 @@ Eine Datei, deren Name mit einem Strich beginnt, steht hinter &quot;--&quot;.</t
         <translation>DATEI</translation>
     </message>
     <message>
-        <source>Files, or folders for a data disc; the tracks of an audio CD keep their order.</source>
-        <translation>Dateien, für eine Daten-Disc auch Ordner; die Titel einer Audio-CD behalten ihre Reihenfolge.</translation>
-    </message>
-    <message>
         <source>[FILE...]</source>
         <translation>[DATEI...]</translation>
     </message>
@@ -717,12 +713,44 @@ Eine Datei, deren Name mit einem Strich beginnt, steht hinter &quot;--&quot;.</t
         <translation>%1 Eine Datei, deren Name mit einem Strich beginnt, steht hinter &quot;--&quot;.</translation>
     </message>
     <message>
-        <source>files and --show go with --burn.</source>
-        <translation>Dateien und --show gibt es nur mit --burn.</translation>
-    </message>
-    <message>
         <source>--burn is there more than once.</source>
         <translation>--burn steht mehr als einmal da.</translation>
+    </message>
+    <message>
+        <source>--show goes with --burn.</source>
+        <translation>--show gibt es nur mit --burn.</translation>
+    </message>
+    <message>
+        <source>there is no action &quot;%1&quot;; it is one of %2.</source>
+        <translation>es gibt keine Aktion &quot;%1&quot;; möglich sind %2.</translation>
+    </message>
+    <message>
+        <source>--action goes without files.</source>
+        <translation>--action steht ohne Dateien.</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file or folder.</source>
+        <translation>%1: Eine solche Datei oder einen solchen Ordner gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Open the files in a window of their own, not in the one that runs.</source>
+        <translation>Die Dateien in einem eigenen Fenster öffnen, nicht in dem, das schon läuft.</translation>
+    </message>
+    <message>
+        <source>Begin &lt;what&gt; in the window: %1.</source>
+        <translation>Im Fenster mit &lt;what&gt; beginnen: %1.</translation>
+    </message>
+    <message>
+        <source>what</source>
+        <translation>what</translation>
+    </message>
+    <message>
+        <source>Files, or folders for a data disc; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
+        <translation>Dateien, für eine Daten-Disc auch Ordner; die Titel einer Audio-CD behalten ihre Reihenfolge. Ohne --burn werden sie im Fenster geöffnet: Musik, Filme, Ordner, ein Disc-Abbild oder eine gespeicherte Liste.</translation>
+    </message>
+    <message>
+        <source>--new-window and --action go without --burn.</source>
+        <translation>--new-window und --action gibt es nur ohne --burn.</translation>
     </message>
 </context>
 <context>
@@ -1453,6 +1481,10 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     <message>
         <source>Add folders and files with the buttons above, or drop them here.</source>
         <translation>Fügen Sie Ordner und Dateien mit den Knöpfen oben hinzu oder ziehen Sie sie hierher.</translation>
+    </message>
+    <message>
+        <source>User &amp;Guide</source>
+        <translation>&amp;Benutzerhandbuch</translation>
     </message>
 </context>
 <context>
@@ -2191,6 +2223,82 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     <message>
         <source>Show Corvalis</source>
         <translation>Corvalis zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::Opening</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New Audio CD</source>
+        <translation>Neue Audio-CD</translation>
+    </message>
+    <message>
+        <source>New Data Disc</source>
+        <translation>Neue Daten-Disc</translation>
+    </message>
+    <message>
+        <source>Write an Image</source>
+        <translation>Abbild brennen</translation>
+    </message>
+    <message>
+        <source>Copy a Disc</source>
+        <translation>Disc kopieren</translation>
+    </message>
+    <message>
+        <source>Not everything can be opened</source>
+        <translation>Nicht alles kann geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Files of this computer can be opened: music, films, folders, one disc image or one saved list.</source>
+        <translation>Dateien dieses Rechners können geöffnet werden: Musik, Filme, Ordner, ein Disc-Abbild oder eine gespeicherte Liste.</translation>
+    </message>
+    <message>
+        <source>One disc image or one saved list can be opened at a time.</source>
+        <translation>Nur ein Disc-Abbild oder eine gespeicherte Liste kann auf einmal geöffnet werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n Datei</numerusform>
+            <numerusform>%n Dateien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Opened when the job has ended: %1</source>
+        <translation>Wird geöffnet, wenn der Auftrag beendet ist: %1</translation>
+    </message>
+    <message>
+        <source>Opened when this is answered: %1</source>
+        <translation>Wird geöffnet, wenn dies beantwortet ist: %1</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::Window_Opened_Image</name>
+    <message>
+        <source>Write this image to the disc in the drive?</source>
+        <translation>Dieses Abbild auf die Disc im Laufwerk brennen?</translation>
+    </message>
+    <message>
+        <source>%1 in the folder %2</source>
+        <translation>%1 im Ordner %2</translation>
+    </message>
+    <message>
+        <source>&amp;Write Image</source>
+        <translation>Abbild &amp;brennen</translation>
+    </message>
+    <message>
+        <source>Write Image</source>
+        <translation>Abbild brennen</translation>
+    </message>
+    <message>
+        <source>Look at the disc in the drive, and write the image to it</source>
+        <translation>Die Disc im Laufwerk prüfen und das Abbild darauf brennen</translation>
     </message>
 </context>
 <context>

@@ -705,10 +705,6 @@ Un archivo cuyo nombre empieza por un guion va detrás de &quot;--&quot;.</trans
         <translation>ARCHIVO</translation>
     </message>
     <message>
-        <source>Files, or folders for a data disc; the tracks of an audio CD keep their order.</source>
-        <translation>Archivos, o también carpetas para un disco de datos; las pistas de un CD de audio conservan su orden.</translation>
-    </message>
-    <message>
         <source>[FILE...]</source>
         <translation>[ARCHIVO...]</translation>
     </message>
@@ -717,12 +713,44 @@ Un archivo cuyo nombre empieza por un guion va detrás de &quot;--&quot;.</trans
         <translation>%1 Un archivo cuyo nombre empieza por un guion va detrás de &quot;--&quot;.</translation>
     </message>
     <message>
-        <source>files and --show go with --burn.</source>
-        <translation>los archivos y --show van con --burn.</translation>
-    </message>
-    <message>
         <source>--burn is there more than once.</source>
         <translation>--burn aparece más de una vez.</translation>
+    </message>
+    <message>
+        <source>--show goes with --burn.</source>
+        <translation>--show va con --burn.</translation>
+    </message>
+    <message>
+        <source>there is no action &quot;%1&quot;; it is one of %2.</source>
+        <translation>no hay ninguna acción &quot;%1&quot;; puede ser %2.</translation>
+    </message>
+    <message>
+        <source>--action goes without files.</source>
+        <translation>--action va sin archivos.</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file or folder.</source>
+        <translation>%1: no existe tal archivo o carpeta.</translation>
+    </message>
+    <message>
+        <source>Open the files in a window of their own, not in the one that runs.</source>
+        <translation>Abrir los archivos en una ventana propia, no en la que ya está abierta.</translation>
+    </message>
+    <message>
+        <source>Begin &lt;what&gt; in the window: %1.</source>
+        <translation>Empezar &lt;what&gt; en la ventana: %1.</translation>
+    </message>
+    <message>
+        <source>what</source>
+        <translation>what</translation>
+    </message>
+    <message>
+        <source>Files, or folders for a data disc; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
+        <translation>Archivos, o también carpetas para un disco de datos; las pistas de un CD de audio conservan su orden. Sin --burn se abren en la ventana: música, películas, carpetas, una imagen de disco o una lista guardada.</translation>
+    </message>
+    <message>
+        <source>--new-window and --action go without --burn.</source>
+        <translation>--new-window y --action van sin --burn.</translation>
     </message>
 </context>
 <context>
@@ -1453,6 +1481,10 @@ El orden de la lista es el orden en el disco.</translation>
     <message>
         <source>Add folders and files with the buttons above, or drop them here.</source>
         <translation>Añada carpetas y archivos con los botones de arriba o suéltelos aquí.</translation>
+    </message>
+    <message>
+        <source>User &amp;Guide</source>
+        <translation>&amp;Guía del usuario</translation>
     </message>
 </context>
 <context>
@@ -2191,6 +2223,82 @@ El orden de la lista es el orden en el disco.</translation>
     <message>
         <source>Show Corvalis</source>
         <translation>Mostrar Corvalis</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::Opening</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>y %n más</numerusform>
+            <numerusform>y %n más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New Audio CD</source>
+        <translation>CD de audio nuevo</translation>
+    </message>
+    <message>
+        <source>New Data Disc</source>
+        <translation>Disco de datos nuevo</translation>
+    </message>
+    <message>
+        <source>Write an Image</source>
+        <translation>Grabar una imagen</translation>
+    </message>
+    <message>
+        <source>Copy a Disc</source>
+        <translation>Copiar un disco</translation>
+    </message>
+    <message>
+        <source>Not everything can be opened</source>
+        <translation>No se puede abrir todo</translation>
+    </message>
+    <message>
+        <source>Files of this computer can be opened: music, films, folders, one disc image or one saved list.</source>
+        <translation>Se pueden abrir archivos de este equipo: música, películas, carpetas, una imagen de disco o una lista guardada.</translation>
+    </message>
+    <message>
+        <source>One disc image or one saved list can be opened at a time.</source>
+        <translation>Solo se puede abrir una imagen de disco o una lista guardada a la vez.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n archivo</numerusform>
+            <numerusform>%n archivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Opened when the job has ended: %1</source>
+        <translation>Se abrirá cuando termine el trabajo: %1</translation>
+    </message>
+    <message>
+        <source>Opened when this is answered: %1</source>
+        <translation>Se abrirá cuando responda a esto: %1</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::Window_Opened_Image</name>
+    <message>
+        <source>Write this image to the disc in the drive?</source>
+        <translation>¿Grabar esta imagen en el disco de la unidad?</translation>
+    </message>
+    <message>
+        <source>%1 in the folder %2</source>
+        <translation>%1 en la carpeta %2</translation>
+    </message>
+    <message>
+        <source>&amp;Write Image</source>
+        <translation>&amp;Grabar imagen</translation>
+    </message>
+    <message>
+        <source>Write Image</source>
+        <translation>Grabar imagen</translation>
+    </message>
+    <message>
+        <source>Look at the disc in the drive, and write the image to it</source>
+        <translation>Examinar el disco de la unidad y grabar en él la imagen</translation>
     </message>
 </context>
 <context>

@@ -705,10 +705,6 @@ Un fichier dont le nom commence par un tiret se place après &quot;--&quot;.</tr
         <translation>FICHIER</translation>
     </message>
     <message>
-        <source>Files, or folders for a data disc; the tracks of an audio CD keep their order.</source>
-        <translation>Fichiers, ou aussi dossiers pour un disque de données&#xa0;; les pistes d’un CD audio gardent leur ordre.</translation>
-    </message>
-    <message>
         <source>[FILE...]</source>
         <translation>[FICHIER...]</translation>
     </message>
@@ -717,12 +713,44 @@ Un fichier dont le nom commence par un tiret se place après &quot;--&quot;.</tr
         <translation>%1 Un fichier dont le nom commence par un tiret se place après &quot;--&quot;.</translation>
     </message>
     <message>
-        <source>files and --show go with --burn.</source>
-        <translation>les fichiers et --show ne vont qu’avec --burn.</translation>
-    </message>
-    <message>
         <source>--burn is there more than once.</source>
         <translation>--burn est donné plus d’une fois.</translation>
+    </message>
+    <message>
+        <source>--show goes with --burn.</source>
+        <translation>--show ne va qu’avec --burn.</translation>
+    </message>
+    <message>
+        <source>there is no action &quot;%1&quot;; it is one of %2.</source>
+        <translation>il n’y a pas d’action &quot;%1&quot;&#xa0;; choisissez parmi %2.</translation>
+    </message>
+    <message>
+        <source>--action goes without files.</source>
+        <translation>--action se donne sans fichiers.</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file or folder.</source>
+        <translation>%1&#xa0;: aucun fichier ni dossier de ce nom.</translation>
+    </message>
+    <message>
+        <source>Open the files in a window of their own, not in the one that runs.</source>
+        <translation>Ouvrir les fichiers dans leur propre fenêtre, et non dans celle qui est déjà ouverte.</translation>
+    </message>
+    <message>
+        <source>Begin &lt;what&gt; in the window: %1.</source>
+        <translation>Commencer &lt;what&gt; dans la fenêtre&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>what</source>
+        <translation>what</translation>
+    </message>
+    <message>
+        <source>Files, or folders for a data disc; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
+        <translation>Fichiers, ou aussi dossiers pour un disque de données&#xa0;; les pistes d’un CD audio gardent leur ordre. Sans --burn, ils sont ouverts dans la fenêtre&#xa0;: musique, films, dossiers, une image disque ou une liste enregistrée.</translation>
+    </message>
+    <message>
+        <source>--new-window and --action go without --burn.</source>
+        <translation>--new-window et --action ne vont pas avec --burn.</translation>
     </message>
 </context>
 <context>
@@ -1453,6 +1481,10 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     <message>
         <source>Add folders and files with the buttons above, or drop them here.</source>
         <translation>Ajoutez des dossiers et des fichiers avec les boutons du haut, ou déposez-les ici.</translation>
+    </message>
+    <message>
+        <source>User &amp;Guide</source>
+        <translation>&amp;Guide de l’utilisateur</translation>
     </message>
 </context>
 <context>
@@ -2191,6 +2223,82 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     <message>
         <source>Show Corvalis</source>
         <translation>Afficher Corvalis</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::Opening</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>et %n de plus</numerusform>
+            <numerusform>et %n de plus</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New Audio CD</source>
+        <translation>Nouveau CD audio</translation>
+    </message>
+    <message>
+        <source>New Data Disc</source>
+        <translation>Nouveau disque de données</translation>
+    </message>
+    <message>
+        <source>Write an Image</source>
+        <translation>Graver une image</translation>
+    </message>
+    <message>
+        <source>Copy a Disc</source>
+        <translation>Copier un disque</translation>
+    </message>
+    <message>
+        <source>Not everything can be opened</source>
+        <translation>Tout ne peut pas être ouvert</translation>
+    </message>
+    <message>
+        <source>Files of this computer can be opened: music, films, folders, one disc image or one saved list.</source>
+        <translation>On peut ouvrir des fichiers de cet ordinateur&#xa0;: musique, films, dossiers, une image disque ou une liste enregistrée.</translation>
+    </message>
+    <message>
+        <source>One disc image or one saved list can be opened at a time.</source>
+        <translation>On ne peut ouvrir qu’une image disque ou qu’une liste enregistrée à la fois.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n fichier</numerusform>
+            <numerusform>%n fichiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Opened when the job has ended: %1</source>
+        <translation>Sera ouvert à la fin du travail&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Opened when this is answered: %1</source>
+        <translation>Sera ouvert après votre réponse&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::Window_Opened_Image</name>
+    <message>
+        <source>Write this image to the disc in the drive?</source>
+        <translation>Graver cette image sur le disque qui est dans le lecteur&#xa0;?</translation>
+    </message>
+    <message>
+        <source>%1 in the folder %2</source>
+        <translation>%1 dans le dossier %2</translation>
+    </message>
+    <message>
+        <source>&amp;Write Image</source>
+        <translation>&amp;Graver l’image</translation>
+    </message>
+    <message>
+        <source>Write Image</source>
+        <translation>Graver l’image</translation>
+    </message>
+    <message>
+        <source>Look at the disc in the drive, and write the image to it</source>
+        <translation>Examiner le disque qui est dans le lecteur et y graver l’image</translation>
     </message>
 </context>
 <context>

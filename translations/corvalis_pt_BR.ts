@@ -705,10 +705,6 @@ Um arquivo cujo nome começa com um hífen vai depois de &quot;--&quot;.</transl
         <translation>ARQUIVO</translation>
     </message>
     <message>
-        <source>Files, or folders for a data disc; the tracks of an audio CD keep their order.</source>
-        <translation>Arquivos, ou também pastas para um disco de dados; as faixas de um CD de áudio mantêm a ordem.</translation>
-    </message>
-    <message>
         <source>[FILE...]</source>
         <translation>[ARQUIVO...]</translation>
     </message>
@@ -717,12 +713,44 @@ Um arquivo cujo nome começa com um hífen vai depois de &quot;--&quot;.</transl
         <translation>%1 Um arquivo cujo nome começa com um hífen vai depois de &quot;--&quot;.</translation>
     </message>
     <message>
-        <source>files and --show go with --burn.</source>
-        <translation>arquivos e --show só acompanham --burn.</translation>
-    </message>
-    <message>
         <source>--burn is there more than once.</source>
         <translation>--burn aparece mais de uma vez.</translation>
+    </message>
+    <message>
+        <source>--show goes with --burn.</source>
+        <translation>--show só acompanha --burn.</translation>
+    </message>
+    <message>
+        <source>there is no action &quot;%1&quot;; it is one of %2.</source>
+        <translation>não há ação &quot;%1&quot;; ela é uma de %2.</translation>
+    </message>
+    <message>
+        <source>--action goes without files.</source>
+        <translation>--action vai sem arquivos.</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file or folder.</source>
+        <translation>%1: não existe tal arquivo ou pasta.</translation>
+    </message>
+    <message>
+        <source>Open the files in a window of their own, not in the one that runs.</source>
+        <translation>Abrir os arquivos em uma janela própria, não na que já está aberta.</translation>
+    </message>
+    <message>
+        <source>Begin &lt;what&gt; in the window: %1.</source>
+        <translation>Começar &lt;what&gt; na janela: %1.</translation>
+    </message>
+    <message>
+        <source>what</source>
+        <translation>what</translation>
+    </message>
+    <message>
+        <source>Files, or folders for a data disc; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
+        <translation>Arquivos, ou também pastas para um disco de dados; as faixas de um CD de áudio mantêm a ordem. Sem --burn eles são abertos na janela: músicas, filmes, pastas, uma imagem de disco ou uma lista salva.</translation>
+    </message>
+    <message>
+        <source>--new-window and --action go without --burn.</source>
+        <translation>--new-window e --action não acompanham --burn.</translation>
     </message>
 </context>
 <context>
@@ -1453,6 +1481,10 @@ A ordem da lista é a ordem no disco.</translation>
     <message>
         <source>Add folders and files with the buttons above, or drop them here.</source>
         <translation>Adicione pastas e arquivos com os botões acima ou solte-os aqui.</translation>
+    </message>
+    <message>
+        <source>User &amp;Guide</source>
+        <translation>&amp;Guia do usuário</translation>
     </message>
 </context>
 <context>
@@ -2191,6 +2223,82 @@ A ordem da lista é a ordem no disco.</translation>
     <message>
         <source>Show Corvalis</source>
         <translation>Mostrar o Corvalis</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::Opening</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>e mais %n</numerusform>
+            <numerusform>e mais %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New Audio CD</source>
+        <translation>Novo CD de áudio</translation>
+    </message>
+    <message>
+        <source>New Data Disc</source>
+        <translation>Novo disco de dados</translation>
+    </message>
+    <message>
+        <source>Write an Image</source>
+        <translation>Gravar uma imagem</translation>
+    </message>
+    <message>
+        <source>Copy a Disc</source>
+        <translation>Copiar um disco</translation>
+    </message>
+    <message>
+        <source>Not everything can be opened</source>
+        <translation>Nem tudo pode ser aberto</translation>
+    </message>
+    <message>
+        <source>Files of this computer can be opened: music, films, folders, one disc image or one saved list.</source>
+        <translation>Arquivos deste computador podem ser abertos: músicas, filmes, pastas, uma imagem de disco ou uma lista salva.</translation>
+    </message>
+    <message>
+        <source>One disc image or one saved list can be opened at a time.</source>
+        <translation>Só é possível abrir uma imagem de disco ou uma lista salva por vez.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n arquivo</numerusform>
+            <numerusform>%n arquivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Opened when the job has ended: %1</source>
+        <translation>Será aberto quando o trabalho terminar: %1</translation>
+    </message>
+    <message>
+        <source>Opened when this is answered: %1</source>
+        <translation>Será aberto quando isto for respondido: %1</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::Window_Opened_Image</name>
+    <message>
+        <source>Write this image to the disc in the drive?</source>
+        <translation>Gravar esta imagem no disco que está na unidade?</translation>
+    </message>
+    <message>
+        <source>%1 in the folder %2</source>
+        <translation>%1 na pasta %2</translation>
+    </message>
+    <message>
+        <source>&amp;Write Image</source>
+        <translation>&amp;Gravar imagem</translation>
+    </message>
+    <message>
+        <source>Write Image</source>
+        <translation>Gravar imagem</translation>
+    </message>
+    <message>
+        <source>Look at the disc in the drive, and write the image to it</source>
+        <translation>Examinar o disco que está na unidade e gravar nele a imagem</translation>
     </message>
 </context>
 <context>

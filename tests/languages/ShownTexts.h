@@ -96,15 +96,15 @@ inline QList<ShownText> textsOf(const QMenu *menu)
     return texts;
 }
 
-/// What a card has to say under its heading, wrapped: beside its symbol, and three lines of it at most.
+/// A card takes the room of what it has to say, wrapped, below its heading; the symbol is beside them, or above them
+/// in a tall card.
 inline QSize roomWantedByCard(const BarButton *card)
 {
-    constexpr int besideText = 108;
-    const QRect room(0, 0, card->width() - besideText, 10'000);
+    const bool tall = card->height() >= 200;
+    const QRect room(0, 0, card->width() - (tall ? 40 : 108), 10'000);
     const QFontMetrics metrics(card->font());
-    const int wanted = metrics.boundingRect(room, Qt::TextWordWrap, card->description()).height();
-    const bool fits = wanted <= 3 * metrics.lineSpacing();
-    return card->minimumSizeHint() + QSize(0, fits ? 0 : card->height() + wanted);
+    const int text = metrics.boundingRect(room, Qt::TextWordWrap, card->description()).height();
+    return card->minimumSizeHint().expandedTo({ 0, text + metrics.height() + 4 + 16 + (tall ? 72 + 16 : 0) });
 }
 
 /// The room that the text of a widget takes; nothing where the widget has none, or shows it in part on purpose.

@@ -108,6 +108,8 @@ desktop::Request windowRequest(const QCommandLineParser &parser)
 {
     if (parser.isSet(u"show"_s))
         refuse(Texts::tr("--show goes with --burn."));
+    if (parser.isSet(u"for-players"_s))
+        refuse(BatchRun::playersNeedVideo());
     const QString action = parser.value(u"action"_s);
     if (parser.isSet(u"action"_s) && !desktop::Opening::actions().contains(action))
         refuse(Texts::tr("there is no action \"%1\"; it is one of %2.")
@@ -143,7 +145,10 @@ void describeOptions(QCommandLineParser &parser)
     const QCommandLineOption action(u"action"_s,
         Texts::tr("Begin <what> in the window: %1.").arg(desktop::Opening::actions().join(u", "_s)),
         Texts::tr("what"));
-    parser.addOptions({ burn, show, newWindow, action });
+    const QCommandLineOption players(u"for-players"_s,
+        Texts::tr(
+            "Make a Video DVD for DVD players, with titles and chapters, whatever the video settings say."));
+    parser.addOptions({ burn, show, newWindow, action, players });
     parser.addPositionalArgument(Texts::tr("FILE"),
         Texts::tr("Files, for a data disc also folders; the tracks of an audio CD keep their order. Without "
                   "--burn they are opened in the window: music, films, folders, a disc image or a saved "
@@ -168,7 +173,8 @@ CommandLine readCommandLine(const QCoreApplication &application)
         refuse(Texts::tr("--new-window and --action go without --burn."));
     if (parser.values(u"burn"_s).size() > 1)
         refuse(Texts::tr("--burn is there more than once."));
-    BatchJob job{ projectNamed(parser.value(u"burn"_s)), {}, parser.isSet(u"show"_s) };
+    BatchJob job{ projectNamed(parser.value(u"burn"_s)), {}, parser.isSet(u"show"_s),
+        parser.isSet(u"for-players"_s) };
     for (const QString &path : parser.positionalArguments())
         job.paths.append(BatchRun::meantPath(path));
     if (const QString objection = BatchRun::objection(job); !objection.isEmpty())

@@ -53,6 +53,7 @@ Surroundings Surroundings::ofThisMachine(Questions *questions)
     Surroundings around;
     around.drutil = toolPath(u"drutil"_s);
     around.hdiutil = toolPath(u"hdiutil"_s);
+    around.dvdauthor = u"/usr/bin/dvdauthor"_s;
     around.resources = QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../libexec/corvalis"_s);
     around.guide = QDir::cleanPath(
         QCoreApplication::applicationDirPath() + u"/../share/corvalis/guide/user-guide.html"_s);
@@ -113,6 +114,7 @@ void AppDelegate::applicationDidFinishLaunching()
     emptyWorkingFolders();
     s_Video_Output_Format = preference(preferences::videoFormat);
     s_Audio_Output_Format = preference(preferences::audioFormat);
+    forPlayers = preference(preferences::forPlayers) == u"1";
     array_Optical_Media_Drives.clear();
     Load_List_Of_Optical_Drives();
     arrayMediaFiles.clear();

@@ -83,6 +83,7 @@ public:
     QString s_Current_Drive_Number;
     QString s_Disc_Name; ///< as typed, so it may be one that no disc can have; set it with setDiscName()
     QString s_Video_Output_Format, s_Audio_Output_Format; ///< "0" NTSC, Dolby Digital; else PAL, MPEG audio
+    bool forPlayers = false; ///< Video DVDs are made for players in living rooms: titles and chapters
     bool m_b_Debug_Mode = false;
 
     // ---- State: the running tool
@@ -353,9 +354,9 @@ private:
     /// Who can read what a run makes: as a person's files are, or its owner only.
     enum class Readers { AsUsual, Owner };
     void runInBackground(const QString &program, const QStringList &arguments, writing::Stage stage,
-        Observer atEnd, Output output, Readers readers = Readers::AsUsual);
-    /// Converts `subject`, in a nested run of the event loop. `expectedStatus`: how the transcoder should end.
-    void transcodeAndWait(const QStringList &arguments, const QString &subject, int expectedStatus);
+        Observer atEnd, Output output, Readers readers = Readers::AsUsual, const QString &workingFolder = {});
+    /// Converts `subject`, in a nested run of the event loop; answers its place in the activity log.
+    qsizetype transcodeAndWait(const QStringList &arguments, const QString &subject, int expectedStatus);
     void removeObservers(); ///< no handler of an earlier run can fire any more
     void showProgress(const QString &piece); ///< of the transcoder's standard error
     void transcoderTerminated();
@@ -374,15 +375,15 @@ private:
     bool endStopped(Observer atEnd); ///< where the job is to stop: goes the way that its last tool's end goes
     void finishWriting(const QString &workingFolder);
     void burnAudio(const AudioForm &form);
-    void burnVideo(const DiscForm &form);
-    void burnData(const DiscForm &form);
+    void burnVideo(const DiscForm &form), burnData(const DiscForm &form);
     void describeConverted(const QString &folder); ///< tells the job what is in it
-    /// Converts every listed file with the arguments that `argumentsFor` gives, behind the progress sheet.
-    void convertList(
-        quint64 progressMode, const std::function<QStringList(const NodeMediaFile &)> &argumentsFor);
+    /// Converts the listed files behind the progress sheet, each with `convertOne`.
+    void convertList(quint64 progressMode, const std::function<void(const NodeMediaFile &)> &convertOne);
     void convert(const QStringList &arguments, const NodeMediaFile &file);
+    struct Titles; ///< of a DVD for players, in the making
+    std::shared_ptr<Titles> m_titles; ///< of the present job; null: its disc holds files
     bool hasRoomFor(const QList<NodeDataFolder> &folders); ///< false: there is none, and the person gave up
-    void gatherFolders();
+    void gatherFolders(), authorTitles(), titlesAuthored();
     void dataFolderEmptied(bool copiesEnded);
     void isoMakingTerminated();
     QString duplicationImage() const;

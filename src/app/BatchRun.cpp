@@ -81,6 +81,8 @@ QString BatchRun::meantPath(const QString &argument)
 QString BatchRun::objection(const BatchJob &job)
 {
     const bool data = job.type->tab == 2;
+    if (job.forPlayers && job.type->code != 4)
+        return playersNeedVideo();
     const ListKind kind = job.type->tab == 0 ? ListKind::Audio : ListKind::Video;
     const QStringList &accepted = AppDelegate::acceptedExtensions(kind);
     QList<Wanted> wanted;
@@ -99,6 +101,11 @@ QString BatchRun::objection(const BatchJob &job)
         wanted.append({ url, compilation::wayOf(url, accepted) });
     }
     return batch::objectionToMedia(kind, wanted);
+}
+
+QString BatchRun::playersNeedVideo()
+{
+    return tr("--for-players goes with --burn \"Video DVD\".");
 }
 
 void BatchRun::start()
@@ -125,6 +132,8 @@ void BatchRun::chooseType()
     m_controller->ShowNewDiscWindow();
     m_controller->windowNewDisc->findChild<QRadioButton *>(u"radio%1"_s.arg(m_job.type->code))->click();
     m_controller->windowNewDisc->OnOK();
+    if (m_job.forPlayers)
+        m_controller->forPlayers = true;
 }
 
 void BatchRun::add()
@@ -216,6 +225,8 @@ void BatchRun::showProgress(const writing::Progress &progress)
                 .arg(progress.number)
                 .arg(progress.count)
                 .arg(static_cast<int>(qMax(0.0, progress.itemPercent))));
+    case Stage::Authoring:
+        return printLine(BatchRun::Stage::Authoring, tr("Making the titles and chapters"));
     case Stage::Gathering:
         return printLine(BatchRun::Stage::Gathering, tr("Gathering the folders"));
     default:

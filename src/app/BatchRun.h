@@ -18,6 +18,7 @@ struct BatchJob {
     const ProjectType *type = nullptr;
     QStringList paths; ///< files, or folders for a data disc; absolute
     bool show = false; ///< in visible windows, which stay when the job is done
+    bool forPlayers = false; ///< a Video DVD with titles and chapters, whatever the settings say
 };
 
 /// Answers alerts by printing their two texts to standard error and pressing the first button, and
@@ -68,6 +69,9 @@ public:
     /// Why the job cannot be what a person could have chosen in the panels; empty when it can.
     static QString objection(const BatchJob &job);
 
+    /// What is said of --for-players beside anything else than a Video DVD.
+    static QString playersNeedVideo();
+
 private:
     void chooseType();
     void add();
@@ -75,7 +79,7 @@ private:
     void completed();
     void showAdding(qsizetype done, qsizetype count);
     void showProgress(const writing::Progress &progress);
-    enum class Stage { None, Adding, Converting, Gathering, Writing, Done };
+    enum class Stage { None, Adding, Converting, Authoring, Gathering, Writing, Done };
     void show(); ///< prints what was told last, if it has not been printed
     void printLine(Stage stage, const QString &line);
     void endLine();

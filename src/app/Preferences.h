@@ -8,6 +8,7 @@ namespace preferences {
 inline constexpr QLatin1StringView videoFormat("QuendralVideoFormat18"); ///< "0" NTSC, else PAL
 inline constexpr QLatin1StringView audioFormat(
     "QuendralAudioFormat18"); ///< "0" Dolby Digital, else MPEG audio
+inline constexpr QLatin1StringView forPlayers("Corvalis_Video_DVD_For_Players"); ///< "1" titles, else files
 inline constexpr QLatin1StringView lastDrive(
     "Quendral_Last_Selected_Drive_18"); ///< title of the chosen drive
 

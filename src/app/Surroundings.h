@@ -12,11 +12,13 @@ class Questions;
 struct Surroundings {
     QString drutil; ///< full path of the disc utility
     QString hdiutil; ///< full path of the disk-image utility
+    QString dvdauthor; ///< full path of the program that makes titles; need not be there
     QString resources; ///< the folder of the application's own resources
     QString guide; ///< full path of the user guide; where there is no such file, the web has it
     int probeLimit = 60'000; ///< ms after which a probe that gives no answer is ended
     int stagingPoll = 60'000; ///< ms between two measurements of a folder that is being copied
     int copyEndLimit = 10'000; ///< ms that a folder copy has to stop when the disc is written
+    int authoringSilence = 300'000; ///< ms after which a dvdauthor that tells nothing is ended
     bool stagingUntilCopied = false; ///< goes on when a folder is copied, without waiting for the next look
     bool remembersWindow = true; ///< its size, place and columns; somebody sees it
     Questions *questions = nullptr; ///< answers alerts and panels; not owned

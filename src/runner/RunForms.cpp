@@ -91,9 +91,10 @@ void AppDelegate::removeObservers()
 }
 
 void AppDelegate::runInBackground(const QString &program, const QStringList &arguments, writing::Stage stage,
-    Observer atEnd, Output output, Readers readers)
+    Observer atEnd, Output output, Readers readers, const QString &workingFolder)
 {
     auto *run = new ToolRun(program, arguments, activityLog, this);
+    run->setWorkingDirectory(workingFolder);
     if (readers == Readers::Owner)
         run->makeForOwnerOnly();
     run->setProcessChannelMode(QProcess::MergedChannels);
@@ -107,7 +108,8 @@ void AppDelegate::runInBackground(const QString &program, const QStringList &arg
     run->launch();
 }
 
-void AppDelegate::transcodeAndWait(const QStringList &arguments, const QString &subject, int expectedStatus)
+qsizetype AppDelegate::transcodeAndWait(
+    const QStringList &arguments, const QString &subject, int expectedStatus)
 {
     terminated = false;
     auto *run = new ToolRun(sffmpegPath, arguments, activityLog, this);
@@ -125,9 +127,11 @@ void AppDelegate::transcodeAndWait(const QStringList &arguments, const QString &
     });
     connect(run, &QProcess::readyReadStandardOutput, this, [this, run] { outData(run); });
     connect(run, &QProcess::readyReadStandardError, this, [this, run] { errData(run); });
+    const qsizetype position = run->position();
     QEventLoop nested;
     while (!terminated)
         nested.processEvents(QEventLoop::WaitForMoreEvents);
+    return position;
 }
 
 void AppDelegate::outData(ToolRun *tool)

@@ -48,8 +48,9 @@ void AppDelegate::burnAudio(const AudioForm &form)
         return;
     convertList(1, [this, &form](const NodeMediaFile &file) {
         i_Burn_Audio_Type = form.burnAudioType;
-        return form.transcoderArguments(
-            file.s_File_Path, writing::convertedPath(s_Audio_Folder, file.s_File_Path, form.extension));
+        convert(form.transcoderArguments(file.s_File_Path,
+                    writing::convertedPath(s_Audio_Folder, file.s_File_Path, form.extension)),
+            file);
     });
     schedule(this->*form.timer, form.write);
 }

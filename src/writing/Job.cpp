@@ -2,6 +2,7 @@
 
 #include "compilation/Measuring.h"
 #include "writing/FolderClaim.h"
+#include "writing/TitleAuthoring.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -118,6 +119,8 @@ void Job::readLine(const QString &line)
     // The folder is told of a drive whose discs lie in one.
     static const QRegularExpression drive(
         u"^Burning in (drive .)(?:: (.+?))?\\.(?: Its discs lie in \"(/.*)\"\\.)?$"_s);
+    if (m_progress.stage == Stage::Authoring)
+        return readAuthoring(line);
     constexpr qsizetype most = 200;
     m_progress.words = forPerson(line.left(most).simplified());
     if (line.startsWith(notePrefix)) {
@@ -130,6 +133,17 @@ void Job::readLine(const QString &line)
     } else {
         m_lastWords = line;
     }
+    Q_EMIT progressed(m_progress);
+}
+
+void Job::readAuthoring(const QString &line)
+{
+    const AuthoringLine told = authoringLine(line);
+    if (!told.failure.isEmpty())
+        m_lastWords = told.failure;
+    if (told.doing.isEmpty())
+        return;
+    m_progress.words = forPerson(told.doing);
     Q_EMIT progressed(m_progress);
 }
 
@@ -161,13 +175,20 @@ void Job::tell(double percent)
     Q_EMIT progressed(m_progress);
 }
 
+/// An image or titles that are made to be written are not yet what the job is for.
+bool Job::isLastWork() const
+{
+    if (m_work.result == Work::Result::Image)
+        return m_progress.stage == Stage::Imaging;
+    return m_progress.stage != Stage::Imaging && m_progress.stage != Stage::Authoring;
+}
+
 void Job::decided(const ToolRun &run)
 {
     if (!m_lines.rest().trimmed().isEmpty())
         readLine(m_lines.rest().trimmed());
     const bool well = !run.end().troubled();
-    // An image that is made to be written is not yet what the job is for.
-    if ((m_progress.stage == Stage::Imaging) == (m_work.result == Work::Result::Image))
+    if (isLastWork())
         m_done = well;
     // The first trouble decides, but a person who stopped a job wants to know in what state the disc is.
     if (well || (!m_reason.isEmpty() && run.end().how != ToolEnd::How::Stopped))
@@ -188,6 +209,9 @@ QString Job::reasonOf(const ToolRun &run) const
         || (end.how == ToolEnd::How::Stopped && run.state() == QProcess::NotRunning
             && run.exitStatus() == QProcess::NormalExit);
     const QString tool = QFileInfo(run.program()).fileName();
+    if (m_progress.stage == Stage::Authoring && endedItself && !m_lastWords.isEmpty())
+        return tr("%1 could not make the titles: %2. The disc is as it was.")
+            .arg(tool, forPerson(m_lastWords));
     // Our tools begin a failure with their name, as command-line programs do.
     if (endedItself && !m_lastWords.isEmpty())
         return forPerson(m_lastWords.mid(m_lastWords.startsWith(tool + u": "_s) ? tool.size() + 2 : 0));
@@ -214,6 +238,12 @@ void Job::describe(const QString &content, qint64 bytes)
 {
     m_content = content;
     m_bytes = bytes;
+}
+
+void Job::fail(const QString &reason)
+{
+    if (m_reason.isEmpty())
+        m_reason = reason;
 }
 
 void Job::leaveOut(const QString &what, qsizetype run)
@@ -250,6 +280,7 @@ QString Job::costOfStopping() const
 {
     switch (m_progress.stage) {
     case Stage::Converting:
+    case Stage::Authoring:
         return tr("What was converted so far is thrown away. The disc stays as it is.");
     case Stage::Gathering:
         return tr("What was copied so far is thrown away. The disc and your folders stay as they are.");

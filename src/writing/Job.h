@@ -1,6 +1,6 @@
 // A job: one disc, image or erasure in the making, from the moment after the checks to its one end.
 //
-//     begin -> [Converting | Gathering | Imaging]* -> Writing -> Comparing -> Emptying -> end(Outcome)
+//     begin -> [Converting | Authoring | Gathering | Imaging]* -> Writing -> Comparing -> Emptying -> end(Outcome)
 //                  |  progressed(Progress)
 //                  '--stop()--> the same way out, Outcome::How::Stopped
 //
@@ -24,7 +24,7 @@ class FolderClaim;
 
 namespace writing {
 
-enum class Stage { Converting, Gathering, Imaging, Exchanging, Erasing, Writing, Emptying };
+enum class Stage { Converting, Authoring, Gathering, Imaging, Exchanging, Erasing, Writing, Emptying };
 
 /// What a job tells while it runs.
 struct Progress {
@@ -88,6 +88,9 @@ public:
     /// A sentence that goes before what was left out, and makes the disc incomplete as that does.
     void remark(const QString &sentence) { m_remark = sentence; }
 
+    /// The work cannot go on, for this reason: a sentence. The first reason holds.
+    void fail(const QString &reason);
+
     /// Something will not be on the disc; told by the name that a person knows. `run`: where the log tells of it.
     void leaveOut(const QString &what, qsizetype run = -1);
 
@@ -112,9 +115,11 @@ Q_SIGNALS:
 
 private:
     void readLine(const QString &line);
+    void readAuthoring(const QString &line);
     void readNote(const QString &note);
     void readProgress(const runner::ToolProgress &told);
     void decided(const runner::ToolRun &run);
+    bool isLastWork() const;
     QString reasonOf(const runner::ToolRun &run) const;
     void tell(double percent);
     QString stateOfDisc() const;

@@ -68,6 +68,7 @@ bool AppDelegate::beginJob(const writing::Work &work)
 void AppDelegate::dropJob()
 {
     m_gathering.reset();
+    m_titles.reset();
     job.reset();
     window->stage()->release();
 }
@@ -95,7 +96,7 @@ bool AppDelegate::endStopped(Observer atEnd)
 }
 
 void AppDelegate::convertList(
-    quint64 progressMode, const std::function<QStringList(const NodeMediaFile &)> &argumentsFor)
+    quint64 progressMode, const std::function<void(const NodeMediaFile &)> &convertOne)
 {
     job->enter(writing::Stage::Converting);
     Show_Window_Progress(arrayMediaFiles.size());
@@ -111,7 +112,7 @@ void AppDelegate::convertList(
         windowProgress->progressBar()->setValue(0);
         job->beginItem(file.s_File_Name_With_Extension, i + 1, arrayMediaFiles.size(), weight(file), weights);
         u_Type_Progress = progressMode;
-        convert(argumentsFor(file), file);
+        convertOne(file);
         windowProgress->progressOverall()->setValue(static_cast<int>(i + 1));
     }
     Close_Window_Progress();

@@ -146,6 +146,7 @@ void Window_Performing_Operation::showProgress(const Progress &progress)
     };
     const QString leave = tr("This can take several minutes. Please leave the disc in the drive.");
     const Row rows[] = {
+        { Stage::Authoring, tr("Making the titles and chapters"), tr("This can take several minutes.") },
         { Stage::Imaging, tr("Making the image"), tr("This can take several minutes.") },
         { Stage::Erasing, tr("Erasing the disc"), leave },
         { Stage::Writing, tr("Writing the disc"), leave },

@@ -1,7 +1,9 @@
-// Video DVDs and Blu-rays: discs of MPEG-2 program streams. Both are converted with the DVD presets.
+// Video DVDs and Blu-rays: discs of MPEG-2 program streams, both converted with the DVD presets. Where players are
+// to play a DVD, PlayerDiscWriting.cpp makes titles of the streams before they are written.
 #include "writing/DiscForms.h"
 #include "writing/Job.h"
 #include "writing/Names.h"
+#include "writing/PlayerTitles.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,23 +29,32 @@ void AppDelegate::Burn_Video_Bluray()
 
 void AppDelegate::burnVideo(const DiscForm &form)
 {
-    if (!mayWrite(form, arrayMediaFiles.isEmpty()))
+    const bool toBeAuthored = forPlayers && form.mediaType == "DVD"_L1;
+    if (!mayWrite(form, arrayMediaFiles.isEmpty()) || (toBeAuthored && !Titles::mayBeMade(*this)))
         return;
     if (!beginJob(workOn(form.code, s_Video_Folder)))
         return;
+    if (toBeAuthored)
+        m_titles = std::make_shared<Titles>(*this);
     convertList(0, [this](const NodeMediaFile &file) {
-        return writing::mpegArguments(file.s_File_Path,
-            writing::convertedPath(s_Video_Folder, file.s_File_Path, "mpg"_L1), s_Video_Output_Format,
-            s_Audio_Output_Format);
+        if (m_titles)
+            return m_titles->convert(file);
+        convert(writing::mpegArguments(file.s_File_Path,
+                    writing::convertedPath(s_Video_Folder, file.s_File_Path, "mpg"_L1), s_Video_Output_Format,
+                    s_Audio_Output_Format),
+            file);
     });
-    schedule(timerBurnVideo, &AppDelegate::TimerBurnVideoRoutine);
+    schedule(timerBurnVideo, m_titles ? &AppDelegate::authorTitles : &AppDelegate::TimerBurnVideoRoutine);
 }
 
 void AppDelegate::TimerBurnVideoRoutine()
 {
     if (endStopped(&AppDelegate::VideoBurnTerminated))
         return;
-    describeConverted(s_Video_Folder);
+    if (m_titles)
+        m_titles->describe();
+    else
+        describeConverted(s_Video_Folder);
     runInBackground(around.drutil, { u"burn"_s, s_Video_Folder, u"-drive"_s, s_Current_Drive_Number },
         writing::Stage::Writing, &AppDelegate::VideoBurnTerminated, Output::Observed);
     Show_Window_Performing_Operation();

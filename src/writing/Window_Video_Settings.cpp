@@ -18,7 +18,7 @@ void switchOffIfOn(const QRadioButton *pressed, QRadioButton *other)
 } // namespace
 
 Window_Video_Settings::Window_Video_Settings(
-    SheetStage *stage, const QString &videoFormat, const QString &audioFormat)
+    SheetStage *stage, const QString &videoFormat, const QString &audioFormat, bool forPlayers)
     : Sheet(stage, Dismiss::ByPerson)
     , m_ui(std::make_unique<Ui::Window_Video_Settings>())
 {
@@ -41,9 +41,15 @@ Window_Video_Settings::Window_Video_Settings(
     new RadioChoice({ m_ui->radioVideoNTSC, m_ui->radioVideoPal }, this);
     new RadioChoice({ m_ui->radioAudioDolbyDigital, m_ui->radioAudioMPEG2 }, this);
     windowDidLoad(videoFormat, audioFormat);
+    m_ui->checkForPlayers->setChecked(forPlayers);
 }
 
 Window_Video_Settings::~Window_Video_Settings() = default;
+
+bool Window_Video_Settings::isForPlayers() const
+{
+    return m_ui->checkForPlayers->isChecked();
+}
 
 void Window_Video_Settings::windowDidLoad(const QString &videoFormat, const QString &audioFormat)
 {

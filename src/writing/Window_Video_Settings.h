@@ -11,13 +11,18 @@ class Window_Video_Settings;
 }
 
 /// Two pairs of radio buttons. Pressing one only ever switches the other of its pair off, and OK reads
-/// the first of each pair only: whatever is not NTSC is PAL, whatever is not Dolby Digital is MPEG-2.
+/// the first of each pair only: whatever is not NTSC is PAL, whatever is not Dolby Digital is MPEG-2. Below them is a
+/// switch that concerns Video DVDs only.
 class Window_Video_Settings : public Sheet {
     Q_OBJECT
 public:
-    /// The format codes that hold now; "0" is NTSC, and Dolby Digital.
-    Window_Video_Settings(SheetStage *stage, const QString &videoFormat, const QString &audioFormat);
+    /// The format codes that hold now; "0" is NTSC, and Dolby Digital. `forPlayers`: the switch is on.
+    Window_Video_Settings(
+        SheetStage *stage, const QString &videoFormat, const QString &audioFormat, bool forPlayers);
     ~Window_Video_Settings() override;
+
+    /// The switch for discs with titles and chapters.
+    bool isForPlayers() const;
 
     void OnVideoNTSC();
     void OnVideoPal();

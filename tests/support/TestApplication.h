@@ -129,6 +129,7 @@ public:
     NotingTool drutil{ folder.path(), QStringLiteral("drutil") };
     NotingTool hdiutil{ folder.path(), QStringLiteral("hdiutil") };
     NotingTool ffmpeg{ folder.path(), QStringLiteral("ffmpeg") };
+    NotingTool dvdauthor{ folder.path(), QStringLiteral("dvdauthor") };
     NotingQuestions questions;
     WindowQuestions dialogs;
     QList<int> exits; ///< every status with which the program would have ended
@@ -140,6 +141,7 @@ public:
     {
         around.drutil = drutil.path();
         around.hdiutil = hdiutil.path();
+        around.dvdauthor = dvdauthor.path();
         around.resources = folder.path();
         around.probeLimit = 20'000;
         around.stagingPoll = 50;
@@ -153,6 +155,7 @@ public:
     {
         around.drutil = builtPrograms() + QLatin1String("/drutil");
         around.hdiutil = builtPrograms() + QLatin1String("/hdiutil");
+        around.dvdauthor = QStandardPaths::findExecutable(QStringLiteral("dvdauthor"));
         around.resources = QDir::cleanPath(builtPrograms() + QLatin1String("/../libexec/corvalis"));
     }
 

@@ -3,6 +3,7 @@
 #include "support/JobApplication.h"
 #include "writing/Window_Video_Settings.h"
 
+#include <QCheckBox>
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
@@ -215,6 +216,40 @@ private Q_SLOTS:
         setAll(app, true);
         close(app, QDialogButtonBox::Ok);
         QCOMPARE(kept(app), u"00 on disk 00"_s);
+    }
+
+    void theSwitchForPlayersIsOffAndIsKept()
+    {
+        const auto box = [](const JobApplication &app) {
+            return app.controller->windowVideoSettings->findChild<QCheckBox *>(u"checkForPlayers"_s);
+        };
+        const auto stored = [] {
+            return QSettings(u"Corvalis"_s, u"Corvalis"_s).value(preferences::forPlayers.toString()).toString();
+        };
+        store("Corvalis_Video_DVD_For_Players", nullptr);
+        {
+            JobApplication app;
+            open(app);
+            QVERIFY(!box(app)->isChecked());
+            box(app)->click();
+            close(app, QDialogButtonBox::Cancel);
+            QVERIFY(!app.controller->forPlayers);
+            QCOMPARE(stored(), QString());
+            app.press("toolbar_btn_Video_Settings");
+            QVERIFY(!box(app)->isChecked());
+            box(app)->click();
+            close(app, QDialogButtonBox::Ok);
+            QVERIFY(app.controller->forPlayers);
+            QCOMPARE(stored(), u"1"_s);
+            QCOMPARE(kept(app), u"00 on disk 00"_s);
+        }
+        JobApplication app;
+        open(app);
+        QVERIFY(box(app)->isChecked());
+        box(app)->click();
+        close(app, QDialogButtonBox::Ok);
+        QVERIFY(!app.controller->forPlayers);
+        QCOMPARE(stored(), u"0"_s);
     }
 
     void theMenuOpensTheSheetToo()

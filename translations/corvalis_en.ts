@@ -61,6 +61,20 @@
             <numerusform>%n entries of the list cannot be found</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>A DVD for players has room for 99 titles, and there are %Ln clip(s) on the list. Take some off and try again.</source>
+        <translation>
+            <numerusform>A DVD for players has room for 99 titles, and there is %Ln clip on the list. Take some off and try again.</numerusform>
+            <numerusform>A DVD for players has room for 99 titles, and there are %Ln clips on the list. Take some off and try again.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln title(s)</source>
+        <translation>
+            <numerusform>%Ln title</numerusform>
+            <numerusform>%Ln titles</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ListTableView</name>

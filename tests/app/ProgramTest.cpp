@@ -352,6 +352,12 @@ void ProgramTest::wrongArguments_data()
     QTest::newRow("new window of a batch run")
         << QStringList{ u"--new-window"_s, u"--burn"_s, u"MP3 CD"_s, u"song.mp3"_s } << u"--new-window"_s;
     QTest::newRow("show without a project") << QStringList{ u"--show"_s } << u"--burn"_s;
+    const QString players = u"--for-players goes with --burn \"Video DVD\"."_s;
+    QTest::newRow("for players without a project") << QStringList{ u"--for-players"_s } << players;
+    QTest::newRow("a Blu-ray for players")
+        << QStringList{ u"--burn"_s, u"Video Blu-ray"_s, u"--for-players"_s, u"clip.mp4"_s } << players;
+    QTest::newRow("an audio CD for players")
+        << QStringList{ u"--for-players"_s, u"--burn"_s, u"Audio CD"_s, u"song.mp3"_s } << players;
 }
 
 void ProgramTest::wrongArguments()
@@ -393,6 +399,7 @@ void ProgramTest::help()
     QCOMPARE(folder.run({ u"--help"_s }), 0);
     const QString said = QString::fromUtf8(folder.process.readAllStandardOutput());
     QVERIFY(said.contains(u"--burn"_s) && said.contains(u"--show"_s) && said.contains(u"FILE"_s));
+    QVERIFY(said.contains(u"--for-players"_s));
     QVERIFY(folder.drutil.runs().isEmpty());
 }
 

@@ -227,6 +227,21 @@ private Q_SLOTS:
         }
         QCOMPARE(player.titles, inOrder);
     }
+
+    void aRunWithoutAWindowMakesTitlesToo()
+    {
+        const Recorder recorder;
+        Recorder::insert(u"dvd-r"_s);
+        const QString clip = m_clips.filePath(clips().at(4).name);
+        const QString gone = m_clips.filePath(u"none.ts"_s);
+        makeFile(gone, "no film");
+        const Printed printed = run(builtPrograms() + u"/corvalis"_s,
+            { u"--burn"_s, u"Video DVD"_s, u"--for-players"_s, u"--"_s, clip, gone });
+        QCOMPARE(printed.status, 3);
+        QVERIFY2(printed.output.contains("Making the titles and chapters\n"), printed.output.constData());
+        QVERIFY2(printed.errors.contains("none.ts: "), printed.errors.constData());
+        QCOMPARE(listedTitles(recorder.iso()).size(), 1);
+    }
 };
 
 QTEST_MAIN(PlayerDiscsTest)

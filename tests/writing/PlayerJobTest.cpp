@@ -63,14 +63,15 @@ private Q_SLOTS:
         QVERIFY(app.completes());
         QCOMPARE(app.trouble(), QString());
         QCOMPARE(app.outcome->how, How::Complete);
-        QVERIFY2(app.outcome->made.contains(u"2 titles"_s), qPrintable(app.outcome->made));
+        QVERIFY2(app.outcome->made.contains(u"2 title(s)"_s), qPrintable(app.outcome->made));
         const QString folder = app.controller->s_Video_Folder;
         QCOMPARE(app.dvdauthor.runs(),
             QList<QStringList>({ { u"-o"_s, folder, u"-x"_s, folder + u"/titles.xml"_s } }));
         QCOMPARE(QString::fromUtf8(noted(app, ".place")), QFileInfo(folder).canonicalFilePath());
         QCOMPARE(noted(app, ".names"), QByteArray("title-01.mpg\ntitle-02.mpg\ntitles.xml"));
         const QByteArray xml = noted(app, ".xml");
-        QVERIFY2(xml.contains("<vob file=\"title-02.mpg\" chapters=\"0:00:00.000,0:05:00.000\"/>"), xml.constData());
+        QVERIFY2(xml.contains("<vob file=\"title-02.mpg\" chapters=\"0:00:00.000,0:05:00.000\"/>"),
+            xml.constData());
         QCOMPARE(
             app.drutil.runs(u"burn"_s), QList<QStringList>({ { u"burn"_s, folder, u"-drive"_s, u"1"_s } }));
         QCOMPARE(app.burned(), (QStringList{ u"AUDIO_TS"_s, u"VIDEO_TS"_s, u"VIDEO_TS/VIDEO_TS.IFO"_s }));

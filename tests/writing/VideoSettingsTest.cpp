@@ -224,7 +224,9 @@ private Q_SLOTS:
             return app.controller->windowVideoSettings->findChild<QCheckBox *>(u"checkForPlayers"_s);
         };
         const auto stored = [] {
-            return QSettings(u"Corvalis"_s, u"Corvalis"_s).value(preferences::forPlayers.toString()).toString();
+            return QSettings(u"Corvalis"_s, u"Corvalis"_s)
+                .value(preferences::forPlayers.toString())
+                .toString();
         };
         store("Corvalis_Video_DVD_For_Players", nullptr);
         {

@@ -43,7 +43,7 @@ _corvalis() {
     --action) _corvalis_answer "$word" new-audio-cd new-data-disc write-image copy-disc; return ;;
     esac
     if [[ $word == -* && " ${COMP_WORDS[*]:0:COMP_CWORD} " != *" -- "* ]]; then
-        _corvalis_answer "$word" --burn --show --new-window --action --help --version
+        _corvalis_answer "$word" --burn --show --for-players --new-window --action --help --version
         return
     fi
     kind=$(_corvalis_kind)

@@ -25,6 +25,7 @@ complete -c corvalis -f
 complete -c corvalis -n 'not __fish_seen_argument -l action' -a '(__corvalis_files)'
 complete -c corvalis -l burn -x -a '"Audio CD" "MP3 CD" "MP3 DVD" "Video DVD" "Video Blu-ray" "Data CD" "Data DVD" "Data Blu-ray"' -d 'Make a disc of this kind and end'
 complete -c corvalis -l show -n '__fish_contains_opt burn' -d 'Do so in the window, which stays'
+complete -c corvalis -l for-players -n '__fish_contains_opt burn' -d 'A Video DVD with titles and chapters'
 complete -c corvalis -l new-window -n 'not __fish_contains_opt burn' -d 'Open the files in a window of their own'
 complete -c corvalis -l action -x -n 'not __fish_contains_opt burn' -a 'new-audio-cd new-data-disc write-image copy-disc' -d 'Begin it in the window'
 complete -c corvalis -s h -l help -d 'Print the options and end'

@@ -164,7 +164,7 @@ void AppDelegate::Titles::author()
     // The description names the clips without a folder, as it could not hold the name of every folder.
     app.runInBackground(app.around.dvdauthor,
         writing::authoringArguments(app.s_Video_Folder, description.fileName()), writing::Stage::Authoring,
-        &AppDelegate::titlesAuthored, Output::Ignored, app.s_Video_Folder);
+        &AppDelegate::titlesAuthored, Output::Ignored, Readers::AsUsual, app.s_Video_Folder);
     endWhenSilent(app.job->watched());
     app.Show_Window_Performing_Operation();
 }

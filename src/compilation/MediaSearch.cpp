@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <set>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -122,6 +123,8 @@ private:
     {
         if (!isNew(folder))
             return;
+        if (::access(QFile::encodeName(folder).constData(), R_OK | X_OK) != 0)
+            return refuse(Refusal::Forbidden, QUrl::fromLocalFile(folder));
         Level level{ folder.endsWith(u'/') ? folder : folder + u'/', {}, {} };
         FolderNames found = namesIn(folder);
         std::ranges::stable_sort(found.names, m_collator);

@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
 #include "app/Preferences.h"
+#include "compilation/ListHeader.h"
 #include "compilation/ListTableModel.h"
 #include "compilation/ListTableView.h"
 #include "ui_MainWindow.h"
@@ -29,6 +30,9 @@ public:
         if (auto *field = qobject_cast<QLineEdit *>(editor)) {
             const QString heading = index.model()->headerData(index.column(), Qt::Horizontal).toString();
             field->setMaxLength(longestName);
+            constexpr int inset =
+                ListStyle::room - 1; // with a field's own two pixels the text stays where it is
+            field->setTextMargins(inset, 0, inset, 0);
             field->setObjectName(u"fieldName"_s);
             field->setAccessibleName(heading);
             field->setToolTip(NameColumns::tr("Return keeps what was typed, Escape what was there before"));
@@ -50,7 +54,9 @@ NameColumns::NameColumns(AppDelegate *controller)
         &NameColumns::takeName);
     connect(ui->menuitemEditTitle, &QAction::triggered, table, &ListTableView::editRow);
 
+    constexpr int titleWidth = 27; // characters
     QHeaderView *const headings = table->horizontalHeader();
+    headings->resizeSection(ListTableModel::NameTitle, titleWidth * table->fontMetrics().averageCharWidth());
     headings->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(headings, &QWidget::customContextMenuRequested, this, &NameColumns::showMenu);
 

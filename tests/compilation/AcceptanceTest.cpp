@@ -107,7 +107,7 @@ void AcceptanceTest::forbiddenFolder()
 void AcceptanceTest::everyRefusalHasItsSentence()
 {
     QStringList sentences;
-    for (int refusal = 1; refusal <= static_cast<int>(Refusal::FolderInCapitals); ++refusal) {
+    for (int refusal = 1; refusal <= static_cast<int>(Refusal::LargeFolder); ++refusal) {
         const QString text = compilation::sentence(static_cast<Refusal>(refusal), m_endings);
         QVERIFY2(text.endsWith(u'.') && !text.contains(u'%'), qPrintable(text));
         QVERIFY2(!sentences.contains(text), qPrintable(text));

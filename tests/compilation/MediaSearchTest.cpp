@@ -1,6 +1,6 @@
 #include "compilation/MediaSearch.h"
-#include "compilation/Playlist.h"
 
+#include "compilation/Playlist.h"
 #include "support/ScratchFolder.h"
 
 #include <QTest>
@@ -23,6 +23,7 @@ private Q_SLOTS:
     void aPlaylistGivesItsFiles();
     void aPlaylistThatIsNone_data();
     void aPlaylistThatIsNone();
+    void aFolderThatMayNotBeLookedIntoIsTold();
     void stopped();
 
 private:
@@ -147,6 +148,20 @@ void MediaSearchTest::aPlaylistThatIsNone()
     QVERIFY(found.files.isEmpty());
     QCOMPARE(found.refused.size(), 1);
     QTEST(int(found.refused.first().refusal), "refusal");
+}
+
+void MediaSearchTest::aFolderThatMayNotBeLookedIntoIsTold()
+{
+    support::makeFolder(folder("part"));
+    support::makeFolder(folder("part/closed"), 0);
+    support::writeFile(folder("part/x.mp3"), "x");
+    const auto outcome = [this] {
+        const Found found = compilation::filesOf({ { QUrl(u"file:part"_s), Way::Tree } }, m_endings, false);
+        const bool isTold = found.refused.size() == 1 && found.refused.first().refusal == Refusal::Forbidden
+            && found.refused.first().url.fileName() == "closed"_L1;
+        return isTold ? static_cast<int>(found.files.size()) : -1;
+    };
+    QCOMPARE(support::asOrdinaryUser(m_folder.path(), outcome), 1);
 }
 
 void MediaSearchTest::stopped()

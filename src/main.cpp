@@ -190,9 +190,9 @@ int runWindow(const desktop::Request &request)
     AppDelegate controller(&window, Surroundings::ofThisMachine(&questions));
     const desktop::JobPresence presence(&controller, desktop::JobPresence::Audience::Person);
     desktop::Opening opening(&controller);
-    const desktop::ApplicationService service(&opening);
     controller.awakeFromNib();
     controller.applicationDidFinishLaunching();
+    const desktop::ApplicationService service(&opening); // once the window is up, which it must not hold up
     if (!request.isEmpty())
         opening.open(request);
     return QApplication::exec();

@@ -47,9 +47,9 @@ install(FILES ${packaging}/completions/drutil.bash DESTINATION ${CMAKE_INSTALL_D
 install(FILES ${packaging}/completions/_corvalis DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
 install(FILES ${packaging}/completions/corvalis.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 
-# "Write to Disc with Corvalis". Dolphin takes only entries that may be run.
+# "Write to Disc with Corvalis". Dolphin takes entries that root owns, others would have to be executable.
 install(FILES ${packaging}/filemanagers/corvalis.nemo_action DESTINATION ${CMAKE_INSTALL_DATADIR}/nemo/actions)
-install(PROGRAMS ${packaging}/filemanagers/corvalis-dolphin.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/kio/servicemenus
+install(FILES ${packaging}/filemanagers/corvalis-dolphin.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/kio/servicemenus
   RENAME corvalis.desktop)
 install(FILES ${packaging}/filemanagers/corvalis_nautilus.py DESTINATION ${CMAKE_INSTALL_DATADIR}/nautilus-python/extensions
   RENAME corvalis.py)

@@ -117,8 +117,8 @@ Result<std::vector<std::string>> recorderFolders(const std::string &base)
         if (isNumber(entry->d_name) && isFolder(::dirfd(folder.get()), entry->d_name))
             names.emplace_back(entry->d_name);
     std::ranges::sort(names, [](const std::string &a, const std::string &b) {
-        const long left = std::atol(a.c_str());
-        const long right = std::atol(b.c_str());
+        const long left = std::strtol(a.c_str(), nullptr, 10);
+        const long right = std::strtol(b.c_str(), nullptr, 10);
         return left != right ? left < right : a < b;
     });
     for (std::string &name : names)
@@ -257,7 +257,7 @@ Result<void> RecorderFolder::clear() const
 
 Result<std::string> RecorderFolder::cueSheet() const
 {
-    const Result<std::string> text =
+    Result<std::string> text =
         readSmallFile(m_folder.get(), cueSheetFile, "The cue sheet of " + m_name + " cannot be read");
     if (!text)
         return Error{ Exit::failed, text.error().message + "; write the disc again." };

@@ -57,7 +57,7 @@ struct Compilation;
 class AppDelegate : public QObject {
     Q_OBJECT
 public:
-    AppDelegate(MainWindow *mainWindow, Surroundings around);
+    AppDelegate(MainWindow *mainWindow, Surroundings surroundings);
     ~AppDelegate() override;
 
     // ---- State: where files lie while a disc is made

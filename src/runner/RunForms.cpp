@@ -72,7 +72,7 @@ QByteArray AppDelegate::captureTool(
 {
     auto *run = new ToolRun(program, arguments, activityLog, this);
     Patience patience(window->stage());
-    const QByteArray printed = run->capture(around.probeLimit, [&patience] { patience(); });
+    QByteArray printed = run->capture(around.probeLimit, [&patience] { patience(); });
     const bool missing = run->hasEnded() && run->end().how == runner::ToolEnd::How::CouldNotStart;
     m_notStarted = missing ? run->end().sentence(program) : QString();
     m_probeHung = run->hasEnded() && run->end().how == runner::ToolEnd::How::EndedByUs;

@@ -2,6 +2,7 @@
 // An area's operations are defined in that area's folder; this header is their table of contents.
 #pragma once
 
+#include "app/Forward.h"
 #include "app/ProjectTypes.h"
 #include "app/Questions.h"
 #include "app/Surroundings.h"
@@ -20,37 +21,6 @@
 
 #include <functional>
 #include <memory>
-
-class ActivityLog;
-class MainWindow;
-class QSettings;
-class ListTableView;
-class Window_Activity_Log;
-class Window_Colors;
-class Window_Data_Copy_Folders;
-class Window_New_Disc;
-class Window_Operation_Terminated;
-class Window_Performing_Operation;
-class Window_Progress;
-class Window_Unique_Progress;
-class Window_Video_Settings;
-namespace Ui {
-class MainWindow;
-}
-namespace runner {
-class ToolRun;
-struct ToolEnd;
-} // namespace runner
-
-namespace writing {
-class FolderGathering;
-class Job;
-enum class Stage;
-struct Outcome;
-struct Work;
-} // namespace writing
-
-struct Compilation;
 
 /// See the head of this file. One instance, made by main(); lives and works on the GUI thread. All
 /// fields are public to the areas; nobody else writes them.

@@ -41,6 +41,12 @@ QList<Object_Optical_Drive> parseList(const QString &listing)
     return drives;
 }
 
+bool isList(const QString &listing)
+{
+    const QString heading = listing.section(u'\n', 0, 0);
+    return heading.contains("Vendor"_L1) && heading.contains("Product"_L1);
+}
+
 Choice choose(const QList<Object_Optical_Drive> &listed, const QString &remembered)
 {
     Choice choice{ {}, {}, QList<bool>(slotCount, false) };

@@ -26,6 +26,9 @@ QString title(const Object_Optical_Drive &drive);
 /// it were filled with blanks.
 QList<Object_Optical_Drive> parseList(const QString &listing);
 
+/// Whether a text is a listing at all, be it one without drives: its first line names the columns.
+bool isList(const QString &listing);
+
 /// What follows from a listing and the title remembered from an earlier session.
 struct Choice {
     QString number; ///< the current drive's number; empty: no drive, keep the present one

@@ -6,6 +6,7 @@
 #include "compilation/FolderTree.h"
 #include "compilation/ListTableView.h"
 #include "compilation/SavedLists.h"
+#include "drives/DriveWatch.h"
 #include "runner/ActivityLog.h"
 #include "ui_MainWindow.h"
 #include "writing/FolderClaim.h"
@@ -58,6 +59,7 @@ Surroundings Surroundings::ofThisMachine(Questions *questions)
     around.guide = QDir::cleanPath(
         QCoreApplication::applicationDirPath() + u"/../share/corvalis/guide/user-guide.html"_s);
     around.questions = questions;
+    around.driveEvents = DriveEvents::ofUdev;
     around.exitProcess = exitAtOnce;
     return around;
 }

@@ -6,7 +6,7 @@
 #include "app/ProjectTypes.h"
 #include "app/Questions.h"
 #include "app/Surroundings.h"
-#include "compilation/Capacity.h"
+#include "compilation/DiscRoom.h"
 #include "compilation/Records.h"
 #include "drives/DriveList.h"
 
@@ -51,6 +51,7 @@ public:
 
     // ---- State: drive, formats, debug
     QString s_Current_Drive_Number;
+    QString s_Gone_Drive; ///< title of the chosen drive once it is not there any more; else empty
     QString s_Disc_Name; ///< as typed, so it may be one that no disc can have; set it with setDiscName()
     QString s_Video_Output_Format, s_Audio_Output_Format; ///< "0" NTSC, Dolby Digital; else PAL, MPEG audio
     bool forPlayers = false; ///< Video DVDs are made for players in living rooms: titles and chapters
@@ -131,6 +132,11 @@ public:
     QString TypeOfMediaInTheDrive();
     void OnMenuDriveInsertBlank(const QString &kind); ///< virtual recorders only; "none" removes the disc
     void OnMenuDriveShowDiscs();
+    void OnMenuDriveLook(); ///< which drives there are now; the chosen one stays chosen, even if it is gone
+    bool takeDriveListing(const QByteArray &listing); ///< as just printed; false: it is none
+    void takeStatus(const QString &status); ///< what the disc utility told of the current drive's disc
+    void chooseDriveTitled(const QString &title); ///< the first listed one of this title, where there is one
+    QString driveTitle() const; ///< vendor and product of the current drive, empty where none is listed
 
     // ---- Records and measurements (compilation/)
     QString GetMediaFileDuration(const QString &path); ///< any thread; runs the transcoder and waits
@@ -223,6 +229,9 @@ Q_SIGNALS:
     void jobBegan(writing::Job *job);
     /// The burn button's job, or another job behind sheets, has reached the operation-complete sheet.
     void operationCompleted();
+    void discTold(const QString &status); ///< of the current drive; empty: what was told holds no more
+    void driveChosen(); ///< another one, or the chosen one is gone, back, or has another number
+    void drivesListed(const QStringList &appeared); ///< anew; titles of those that were not there before
     /// Of `count` files that are being probed `done` are.
     void addingProgressed(qsizetype done, qsizetype count);
     /// Files that were being probed are all on the list.
@@ -263,11 +272,17 @@ private:
     /// In debug mode, what the disc utility printed, as it stands.
     void tellPrinted(const QString &printed, const QString &code);
     QString driveStatus(); ///< what the disc utility prints of the current drive's medium
-    QString driveTitle() const; ///< vendor and product of the current drive, empty where none is listed
+    QByteArray lookForDrives(); ///< lists them anew; what the disc utility printed where that was no listing
+    bool isDriveGone(); ///< looks once more; true: an alert has told that the chosen drive is not there
+    bool tellDriveGone(); ///< an alert, where the newest status or listing had no such drive any more
     void chooseDrive(int slot); ///< 0..5
-    void preferCurrentDrive(); ///< tells the tools, by this process' environment
+    void showDrives(const QList<bool> &checked); ///< in the menu, with a mark for each of the slots
+    void useCurrentDrive(); ///< tells the tools, by this process' environment, and all who want to know
+    qsizetype currentDrive() const; ///< its place in the list; -1: it is not there
+    void forgetDisc(); ///< the disc in the drive may be another one, or changed
     void offerVirtualDrive(); ///< shows or hides what only a virtual recorder can do
     bool isVirtualRecorderSelected() const;
+    std::optional<compilation::DiscRoom> m_discRoom; ///< until it may be another disc
     QString m_lastStatus; ///< the newest answer of driveStatus()
     QString m_notStarted; ///< why the newest tool that was waited for could not be started; empty: it was
     bool m_probeHung = false; ///< the newest tool that was waited for gave no answer in time
@@ -359,7 +374,7 @@ private:
     QString duplicationImage() const;
     bool promptForBlank(); ///< false: the person gave up
     void eraseDisc(const QString &extent); ///< "full" or "quick"
-    void moveTray(const QString &motion); ///< "eject" or "close"
+    void moveTray(const QString &motion, const QString &drive = {}); ///< a number; empty: the current one
     bool tellNotStarted(); ///< an alert, where the newest tool could not be started
     std::unique_ptr<writing::FolderGathering> m_gathering; ///< of the present job
 

@@ -13,6 +13,8 @@ inline constexpr QLatin1StringView lastDrive(
     "Quendral_Last_Selected_Drive_18"); ///< title of the chosen drive
 
 inline constexpr QLatin1StringView recentLists("Corvalis_Recent_Lists"); ///< full paths, the newest first
+inline constexpr QLatin1StringView speed("Corvalis_Speed_"); ///< and a drive's title: a factor, or "max"
+
 inline constexpr QLatin1StringView windowGeometry("Corvalis_Window_Geometry"); ///< as QWidget::saveGeometry()
 inline constexpr QLatin1StringView columns("Corvalis_Columns_"); ///< and a table's name: widths, by commas
 inline constexpr QLatin1StringView nameColumns("Corvalis_Name_Columns"); ///< "0": hidden

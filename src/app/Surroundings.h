@@ -4,7 +4,9 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 
+class DriveEvents;
 class Questions;
 
 /// What the controller needs of the machine around it. The defaults are a person's machine; tests
@@ -22,6 +24,8 @@ struct Surroundings {
     bool stagingUntilCopied = false; ///< goes on when a folder is copied, without waiting for the next look
     bool remembersWindow = true; ///< its size, place and columns; somebody sees it
     Questions *questions = nullptr; ///< answers alerts and panels; not owned
+    std::function<std::unique_ptr<DriveEvents>()>
+        driveEvents; ///< of drives that come and go; empty: nobody tells
     std::function<void(int)> exitProcess; ///< ends the process at once with this status
 
     /// The machine as it is: tools at their usual places, else beside the program.

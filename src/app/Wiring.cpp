@@ -5,6 +5,8 @@
 #include "compilation/ListTableModel.h"
 #include "compilation/NameColumns.h"
 #include "compilation/SpaceOccupiedView.h"
+#include "drives/DriveNews.h"
+#include "drives/SpeedMenu.h"
 #include "kit/SheetStage.h"
 #include "ui_MainWindow.h"
 
@@ -102,6 +104,7 @@ const ItemRow items[] = {
     { &U::submenuItemDriveSlot5, &D::OnMenuDriveSlot5 },
     { &U::submenuItemDriveSlot6, &D::OnMenuDriveSlot6 },
     { &U::menuitemShowWrittenDiscs, &D::OnMenuDriveShowDiscs },
+    { &U::menuitemDriveLook, &D::OnMenuDriveLook },
     { &U::menuitemISOCreate, &D::OnActionISOCreate },
     { &U::menuitemISOBurn, &D::OnActionISOBurn },
     { &U::menuitemEraseFull, &D::OnToolsFormatFull },
@@ -160,6 +163,8 @@ void AppDelegate::awakeFromNib()
     connectMenus();
     connectLists();
     connectTools();
+    new SpeedMenu(ui->submenuSpeed, this);
+    new DriveNews(around.driveEvents ? around.driveEvents() : nullptr, this);
     blockWhileOccupied();
     offerListActions(0);
     ui->submenuItemTabAudio->setChecked(true);

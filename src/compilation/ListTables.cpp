@@ -108,6 +108,12 @@ void AppDelegate::PaintSpaceOccupiedControl()
     ui->label_BottomBar_SpaceOcuupied->setText(text);
     ui->label_BottomBar_SpaceOcuupied->setToolTip(text); // where the window is too narrow for it
     ui->spaceoccupiedviewControl->setAccessibleDescription(text);
+    const QString room = m_discRoom
+        ? compilation::discRoomText(*m_discRoom, measure.page, measure.kind, measure.total)
+        : QString();
+    ui->labelDiscRoom->setText(room);
+    ui->labelDiscRoom->setToolTip(room);
+    ui->labelDiscRoom->setVisible(!room.isEmpty());
 }
 
 void AppDelegate::tableView_sortDescriptorsDidChange(ListTableView *table)

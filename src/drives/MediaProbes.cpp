@@ -10,9 +10,54 @@ QString AppDelegate::driveStatus()
     // A drive that has not answered will not answer the next question of the same press either.
     if (m_probeHung)
         return {};
-    m_lastStatus =
-        QString::fromUtf8(captureTool(around.drutil, { u"status"_s, u"-drive"_s, s_Current_Drive_Number }));
+    if (!s_Gone_Drive.isEmpty())
+        lookForDrives(); // it may be back
+    if (!s_Gone_Drive.isEmpty())
+        return m_lastStatus = QString();
+    const auto ask = [this] {
+        takeStatus(QString::fromUtf8(
+            captureTool(around.drutil, { u"status"_s, u"-drive"_s, s_Current_Drive_Number })));
+    };
+    ask();
+    if (drives::saysGone(m_lastStatus)) {
+        const QString number = s_Current_Drive_Number;
+        lookForDrives();
+        if (s_Gone_Drive.isEmpty() && s_Current_Drive_Number != number)
+            ask();
+    }
     return m_lastStatus;
+}
+
+void AppDelegate::takeStatus(const QString &status)
+{
+    m_lastStatus = status;
+    m_discRoom = compilation::readDiscRoom(status);
+    PaintSpaceOccupiedControl();
+    Q_EMIT discTold(status);
+}
+
+void AppDelegate::forgetDisc()
+{
+    m_discRoom.reset();
+    PaintSpaceOccupiedControl();
+    Q_EMIT discTold({});
+}
+
+bool AppDelegate::isDriveGone()
+{
+    if (!s_Gone_Drive.isEmpty())
+        lookForDrives(); // it may be back
+    return tellDriveGone();
+}
+
+bool AppDelegate::tellDriveGone()
+{
+    if (s_Gone_Drive.isEmpty())
+        return false;
+    alert(tr("The drive is not there any more"),
+        tr("“%1” is not connected. Connect it again, or choose another drive in the Drive menu.")
+            .arg(s_Gone_Drive));
+    return true;
 }
 
 void AppDelegate::tellPrinted(const QString &printed, const QString &code)

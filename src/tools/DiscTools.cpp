@@ -1,6 +1,7 @@
 // Erase, eject, load, and what the drive says of its disc.
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
+#include "drives/MediaStatus.h"
 #include "ui_MainWindow.h"
 #include "writing/Job.h"
 
@@ -27,7 +28,10 @@ void AppDelegate::eraseDisc(const QString &extent)
 {
     if (isJobPending())
         return;
-    if (IsDriveEmpty()) {
+    const bool empty = IsDriveEmpty();
+    if (tellDriveGone())
+        return;
+    if (empty) {
         return alert(tr("No disc"),
             tr("There is no disc on the drive. insert a rewritable media on the drive and try again."));
     }
@@ -53,10 +57,17 @@ bool AppDelegate::tellNotStarted()
     return true;
 }
 
-void AppDelegate::moveTray(const QString &motion)
+void AppDelegate::moveTray(const QString &motion, const QString &drive)
 {
-    captureTool(around.drutil, { u"tray"_s, motion, u"-drive"_s, s_Current_Drive_Number });
-    tellNotStarted();
+    if (isDriveGone())
+        return;
+    const QByteArray said = captureTool(
+        around.drutil, { u"tray"_s, motion, u"-drive"_s, drive.isEmpty() ? s_Current_Drive_Number : drive });
+    forgetDisc();
+    if (!tellNotStarted() && drives::saysGone(QString::fromUtf8(said))) {
+        lookForDrives();
+        tellDriveGone();
+    }
 }
 
 void AppDelegate::OnToolsEjectDisc()
@@ -72,7 +83,7 @@ void AppDelegate::OnToolsLoadDisc()
 void AppDelegate::OnToolsDiscInfo()
 {
     const bool empty = IsDriveEmpty();
-    if (tellNotStarted())
+    if (tellNotStarted() || tellDriveGone())
         return;
     if (empty)
         return alert(

@@ -13,7 +13,10 @@ void AppDelegate::DuplicateMedia()
 {
     if (isJobPending())
         return;
-    if (IsDriveEmpty()) {
+    const bool empty = IsDriveEmpty();
+    if (tellDriveGone())
+        return;
+    if (empty) {
         return alert(tr(writing::noDisc),
             tr("There is no disc on the drive. insert a media on the drive to copy and try again."));
     }
@@ -57,7 +60,10 @@ bool AppDelegate::promptForBlank()
     for (;;) {
         if (around.questions->ask({ prompt, prompt, { tr("OK"), tr("Cancel") } }, window) != 0)
             return false;
-        if (IsDriveEmpty())
+        const bool empty = IsDriveEmpty();
+        if (tellDriveGone())
+            continue;
+        if (empty)
             alert(tr(writing::noDisc), tr(writing::noDiscText));
         else if (IsMediaOneTimeWritable() || IsMediaReWritable())
             return true;

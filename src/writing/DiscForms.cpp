@@ -30,7 +30,10 @@ bool AppDelegate::mayWrite(const DiscForm &form, bool listIsEmpty)
 {
     if (listIsEmpty)
         return alert(tr(form.nothingListed), tr(form.nothingListedText)), false;
-    if (IsDriveEmpty())
+    const bool empty = IsDriveEmpty();
+    if (tellDriveGone())
+        return false;
+    if (empty)
         return alert(tr(writing::noDisc), tr(writing::noDiscText)), false;
     if (!IsMediaOneTimeWritable() && !IsMediaReWritable())
         return alert(tr(writing::notWritable), tr(writing::notWritableText)), false;

@@ -82,13 +82,18 @@ void AppDelegate::OnActionISOBurn()
 
 void AppDelegate::burnImage(const QString &image)
 {
-    if (IsDriveEmpty())
+    const bool empty = IsDriveEmpty();
+    if (tellDriveGone())
+        return;
+    if (empty)
         return alert(tr(writing::noDisc), tr(writing::noDiscText));
     if (!IsMediaOneTimeWritable() && !IsMediaReWritable())
         return alert(tr(writing::notWritable), tr(writing::notWritableText));
     const QFileInfo file(image);
     writing::Work work = workOn(0, {});
     work.name = tr("Image %1").arg(file.fileName().simplified());
+    work.image = image;
+    work.repeatable = true;
     beginJob(work);
     job->describe({}, file.size());
     runInBackground(around.hdiutil, { u"burn"_s, image }, writing::Stage::Writing,

@@ -71,6 +71,7 @@ void AppDelegate::dropJob()
     m_titles.reset();
     job.reset();
     window->stage()->release();
+    forgetDisc(); // it was written or exchanged
 }
 
 template <class Sheet>

@@ -15,7 +15,8 @@ struct Work {
     QString name; ///< as a person calls it: "Audio CD", "Copy of a disc"; in the language of the windows
     QString drive; ///< vendor and product; empty: the tool chooses one, or none is needed
     QString workingFolder; ///< claimed for the time of the job and not named to a person; empty: none
-    QString image; ///< of Result::Image: its full path
+    QString image; ///< the full path of the image that is made, or written to a disc; empty: none
+    bool repeatable = false; ///< the same disc can be made once more as things stand
     bool compared = false; ///< the tool reads the disc back after writing it
     bool rewritable = false; ///< the medium can be erased, by its last status
 };
@@ -32,6 +33,7 @@ struct Outcome {
     QStringList
         leftOut; ///< one line for each thing that is not on the disc, by the names that a person knows
     QStringList changed; ///< one line for each thing that is there, but not as it was
+    QString drive; ///< number of the drive with that disc, as the tool told it; empty: the current one
     qsizetype run = -1; ///< the run in the activity log that decided; -1: none
 
     /// The exit status of a batch run: 0 complete, 1 not done or stopped, 3 incomplete.

@@ -265,6 +265,7 @@ private:
     void showTab(int index);
     void didSelectTab(int index); ///< what follows from showing a tab
     void offerKinds(int tab); ///< names the menu items of the tab's kinds of disc
+    void offerDiscName(); ///< shows its field where the chosen kind of disc has a name
     void offerListActions(int tab); ///< enables the menu items that the tab has a use for
     QString selectedPage() const; ///< identifier of the selected tab, "1" to "5"
 
@@ -350,6 +351,8 @@ private:
     struct DiscForm; ///< the checks before a job: what all kinds of disc have in common
     struct AudioForm;
     bool mayWrite(const DiscForm &form, bool listIsEmpty); ///< false: an alert has told why not
+    void connectDiscName();
+    bool mayUseDiscName(); ///< false: an alert has told what is wrong with it
     writing::Work workOn(
         int code, const QString &workingFolder) const; ///< a disc of this kind in the current drive
     bool beginJob(

@@ -84,6 +84,7 @@ void AppDelegate::Close_Window_New_Disc()
         i_Type_of_New_Disc = 1;
         return;
     }
+    setDiscName({});
     if (const ProjectType *type = projects::byCode(i_Type_of_New_Disc))
         beginKind(*type);
     else
@@ -97,6 +98,7 @@ void AppDelegate::beginKind(const ProjectType &type)
     ui->tabviewMain->setCurrentIndex(type.tab);
     markVariant(type.code);
     ui->btnBurn->setText(type.shownBurnTitle());
+    offerDiscName();
 }
 
 qint64 AppDelegate::variantOf(int tab) const
@@ -107,6 +109,9 @@ qint64 AppDelegate::variantOf(int tab) const
 void AppDelegate::emptyAllLists()
 {
     forgetListFile();
+    // The name goes with what it was typed for. One that stands there before anything is listed is for what comes.
+    if (!arrayMediaFiles.isEmpty() || !arrayDataFolders.isEmpty())
+        setDiscName({});
     arrayDataFolders.clear();
     refreshTableDataFolders();
     arrayMediaFiles.clear();
@@ -130,6 +135,7 @@ void AppDelegate::chooseVariant(int code)
     this->*listTab(type->tab).variant = type->variant;
     markVariant(code);
     ui->btnBurn->setText(type->shownBurnTitle());
+    offerDiscName();
     (this->*listTab(type->tab).refresh)();
 }
 
@@ -201,7 +207,17 @@ void AppDelegate::didSelectTab(int index)
     for (int i = 0; i < 5; ++i)
         items[i]->setChecked(i == index);
     offerListActions(index);
+    offerDiscName();
     focusList();
+}
+
+void AppDelegate::offerDiscName()
+{
+    constexpr int iso = 3;
+    const int tab = ui->tabviewMain->currentIndex();
+    const bool isList = tab < static_cast<int>(listTabs.size());
+    const ProjectType *type = isList ? projects::byVariant(tab, this->*listTab(tab).variant) : nullptr;
+    ui->customviewDiscName->setVisible(tab == iso || (type && projects::hasDiscName(*type)));
 }
 
 void AppDelegate::offerKinds(int tab)

@@ -59,4 +59,10 @@ constexpr const ProjectType *byVariant(int tab, long long variant)
     return nullptr;
 }
 
+/// Whether a disc of this kind carries a name that a person can give it. A CD with audio tracks has no file system for one.
+constexpr bool hasDiscName(const ProjectType &type)
+{
+    return type.code != 1;
+}
+
 } // namespace projects

@@ -163,6 +163,7 @@ void AppDelegate::awakeFromNib()
     connectMenus();
     connectLists();
     connectTools();
+    connectDiscName();
     new SpeedMenu(ui->submenuSpeed, this);
     new DriveNews(around.driveEvents ? around.driveEvents() : nullptr, this);
     blockWhileOccupied();

@@ -26,11 +26,6 @@ void AppDelegate::show(const Compilation &compilation)
     focusList();
 }
 
-void AppDelegate::setDiscName(const QString &name)
-{
-    s_Disc_Name = name;
-}
-
 void AppDelegate::listsChanged()
 {
     // One action may change the lists several times before it is done; that is one step.

@@ -39,7 +39,7 @@ bool AppDelegate::mayWrite(const DiscForm &form, bool listIsEmpty)
         return alert(tr(writing::notWritable), tr(writing::notWritableText)), false;
     const QString type = TypeOfMediaInTheDrive();
     if (type == form.mediaType)
-        return true;
+        return !projects::hasDiscName(*projects::byCode(form.code)) || mayUseDiscName();
     alert(tr(form.wrongMedium), tr(form.wrongMediumText));
     if (m_b_Debug_Mode)
         alert(type, tr(form.warning));

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 void AppDelegate::OnActionISOCreate()
 {
-    if (isJobPending())
+    if (isJobPending() || !mayUseDiscName())
         return;
     SourcePath = DestPath = DestPathISO = QString();
     OpenPanel panel;
@@ -25,6 +25,7 @@ void AppDelegate::OnActionISOCreate()
     writing::Work work;
     work.result = writing::Work::Result::Image;
     work.name = tr("Disc image");
+    work.named = true;
     beginJob(work);
     schedule(timerCreateISOStep1, &AppDelegate::TimerCreateISOStep1Routine);
 }

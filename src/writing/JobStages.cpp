@@ -23,8 +23,11 @@ writing::Work AppDelegate::workOn(int code, const QString &workingFolder) const
 {
     writing::Work work;
     work.kind = code;
-    if (const ProjectType *type = projects::byCode(code))
+    if (const ProjectType *type = projects::byCode(code)) {
         work.name = type->shownName();
+        work.named = projects::hasDiscName(*type);
+        work.repeatable = true; // the list stays
+    }
     work.compared = code != projects::byCode(1)->code; // the samples of an audio track are not read back
     work.drive = driveTitle();
     work.workingFolder = workingFolder;

@@ -17,6 +17,7 @@ struct Work {
     QString workingFolder; ///< claimed for the time of the job and not named to a person; empty: none
     QString image; ///< the full path of the image that is made, or written to a disc; empty: none
     bool repeatable = false; ///< the same disc can be made once more as things stand
+    bool named = false; ///< the name that a person gave the disc goes onto it
     bool compared = false; ///< the tool reads the disc back after writing it
     bool rewritable = false; ///< the medium can be erased, by its last status
 };

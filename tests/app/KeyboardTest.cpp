@@ -33,6 +33,13 @@ QString described(const QObject *object)
     return u"%1 %2"_s.arg(QString::fromLatin1(object->metaObject()->className()), object->objectName());
 }
 
+/// What the Tab key has to reach: whatever can be pressed, chosen from or written into.
+bool isUsable(const QWidget *widget)
+{
+    return qobject_cast<const BarButton *>(widget) || qobject_cast<const ListTableView *>(widget)
+        || qobject_cast<const QLineEdit *>(widget);
+}
+
 } // namespace
 
 class KeyboardTest : public QObject {
@@ -357,15 +364,13 @@ void KeyboardTest::tabOrder()
     const QWidgetList order = reached();
     // All that can be pressed or chosen from is reached, and nothing else.
     for (QWidget *widget : m_app->window->findChildren<QWidget *>()) {
-        const bool pressable = qobject_cast<BarButton *>(widget) || qobject_cast<ListTableView *>(widget);
-        if (pressable && widget->isVisible())
+        if (isUsable(widget) && widget->isVisible())
             QVERIFY2(order.contains(widget), qPrintable(described(widget)));
     }
     // As one reads: rows from the top, in a row from the left.
     QPoint before(-1, -1);
     for (QWidget *widget : order) {
-        QVERIFY2(qobject_cast<BarButton *>(widget) || qobject_cast<ListTableView *>(widget),
-            qPrintable(described(widget)));
+        QVERIFY2(isUsable(widget), qPrintable(described(widget)));
         const QPoint place = widget->mapTo(m_app->window.get(), QPoint());
         const bool sameRow = qAbs(place.y() - before.y()) < 8;
         QVERIFY2(sameRow ? place.x() > before.x() : place.y() > before.y(), qPrintable(described(widget)));

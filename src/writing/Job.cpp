@@ -128,6 +128,7 @@ void Job::readLine(const QString &line)
     } else if (const auto told = runner::readProgress(line)) {
         return readProgress(*told);
     } else if (const auto match = drive.match(line); match.hasMatch()) {
+        m_driveNumber = match.captured(1).right(1);
         m_drive = match.captured(match.hasCaptured(2) ? 2 : 1);
         m_driveFolder = QFileInfo(match.captured(3)).isDir() ? match.captured(3) : QString();
     } else {
@@ -327,6 +328,9 @@ Outcome Job::end()
     }
     outcome.leftOut = m_leftOut;
     outcome.changed = m_changed;
+    outcome.onDisc = m_work.result != Work::Result::Image;
+    outcome.drive = m_driveNumber;
+    outcome.repeatable = m_work.repeatable && outcome.how != How::Stopped;
     outcome.run = m_decidingRun >= 0 ? m_decidingRun : m_leftOutRun;
     Q_EMIT ended(outcome);
     return outcome;

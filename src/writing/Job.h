@@ -143,7 +143,7 @@ private:
     bool m_done = false; ///< the work of the last deciding run was done
     QString m_content;
     qint64 m_bytes = -1;
-    QString m_drive, m_driveFolder; ///< as the tool tells them
+    QString m_drive, m_driveNumber, m_driveFolder; ///< as the tool tells them
     QString m_lastWords; ///< of the running tool: its newest line that is neither progress nor a note
     QString m_reason, m_remark;
     qsizetype m_decidingRun = -1;

@@ -197,6 +197,13 @@ void AppDelegate::Show_Window_Operation_Complete()
         const QFileInfo made(path);
         openPage(QUrl::fromLocalFile(made.isDir() ? path : made.path()));
     });
+    connect(sheet, &Window_Operation_Terminated::ejectWanted, this,
+        [this, drive = outcome.drive] { moveTray(u"eject"_s, drive); });
+    connect(sheet, &Window_Operation_Terminated::anotherWanted, this,
+        [this, image = job ? job->work().image : QString()] {
+            Close_Window_Operation_Complete();
+            image.isEmpty() ? OnBtnBurn() : burnImage(image);
+        });
     sheet->beginSheet();
     if (job)
         dropJob();

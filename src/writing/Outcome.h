@@ -34,7 +34,9 @@ struct Outcome {
     QStringList
         leftOut; ///< one line for each thing that is not on the disc, by the names that a person knows
     QStringList changed; ///< one line for each thing that is there, but not as it was
+    bool onDisc = false; ///< the job was done to a disc, which can be ejected now
     QString drive; ///< number of the drive with that disc, as the tool told it; empty: the current one
+    bool repeatable = false; ///< the same job can be begun once more
     qsizetype run = -1; ///< the run in the activity log that decided; -1: none
 
     /// The exit status of a batch run: 0 complete, 1 not done or stopped, 3 incomplete.

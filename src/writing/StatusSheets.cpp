@@ -211,23 +211,49 @@ void Window_Operation_Terminated::showOutcome(const Outcome &outcome)
     }
 }
 
+QPushButton *Window_Operation_Terminated::addButton(
+    const QString &title, const QString &name, const QString &toolTip)
+{
+    QPushButton *button = m_ui->buttonBox->addButton(title, QDialogButtonBox::ActionRole);
+    button->setObjectName(name);
+    button->setToolTip(toolTip);
+    button->setAutoDefault(false);
+    return button;
+}
+
 void Window_Operation_Terminated::addButtons(const Outcome &outcome)
 {
-    const auto add = [this](const QString &title, const QString &name) {
-        QPushButton *button = m_ui->buttonBox->addButton(title, QDialogButtonBox::ActionRole);
-        button->setObjectName(name);
-        button->setAutoDefault(false);
-        return button;
-    };
     if (!outcome.folder.isEmpty()) {
-        connect(add(tr("Show in Folder"), u"btnShowInFolder"_s), &QPushButton::clicked, this,
-            [this, path = outcome.folder] { Q_EMIT folderWanted(path); });
+        connect(addButton(tr("Show in Folder"), u"btnShowInFolder"_s, tr("Show in its folder what was made")),
+            &QPushButton::clicked, this, [this, path = outcome.folder] { Q_EMIT folderWanted(path); });
     }
     if (outcome.how != Outcome::How::Complete) {
-        connect(add(tr("Activity Log…"), u"btnActivityLog"_s), &QPushButton::clicked, this,
-            [this, run = outcome.run] { Q_EMIT logWanted(run); });
+        connect(addButton(tr("Activity Log…"), u"btnActivityLog"_s,
+                    tr("Show the command that decided, and all it said")),
+            &QPushButton::clicked, this, [this, run = outcome.run] { Q_EMIT logWanted(run); });
+    }
+    if (outcome.onDisc) {
+        QPushButton *button = addButton(tr("&Eject"), u"btnEject"_s, tr("Open the tray of the drive"));
+        connect(button, &QPushButton::clicked, this, [this, button] { eject(button); });
+    }
+    if (outcome.repeatable) {
+        connect(addButton(tr("&Burn Another"), u"btnBurnAnother"_s,
+                    tr("Do the same once more, with the disc that is in the drive then")),
+            &QPushButton::clicked, this, &Window_Operation_Terminated::anotherWanted);
     }
     m_ui->buttonBox->button(QDialogButtonBox::Ok)->setDefault(true);
+}
+
+void Window_Operation_Terminated::eject(QPushButton *button)
+{
+    const QPointer<Window_Operation_Terminated> alive(this);
+    setEnabled(false);
+    Q_EMIT ejectWanted();
+    if (!alive)
+        return;
+    setEnabled(true);
+    button->setEnabled(false); // it is out
+    m_ui->buttonBox->button(QDialogButtonBox::Ok)->setFocus(Qt::OtherFocusReason);
 }
 
 void Window_Operation_Terminated::OnOK()

@@ -7,6 +7,7 @@
 #include <memory>
 
 class QProgressBar;
+class QPushButton;
 class Spinner;
 namespace Ui {
 class Window_Operation_Terminated;
@@ -85,6 +86,10 @@ Q_SIGNALS:
     void logWanted(qsizetype run);
     /// The person wants to see what was made in its folder.
     void folderWanted(const QString &path);
+    /// The person wants the disc out. The sheet stays, and takes no input until this signal has been dealt with.
+    void ejectWanted();
+    /// The person wants the same job once more.
+    void anotherWanted();
 
 protected:
     void cancelled() override { OnOK(); }
@@ -92,6 +97,8 @@ protected:
 private:
     void showOutcome(const writing::Outcome &outcome);
     void addButtons(const writing::Outcome &outcome);
+    QPushButton *addButton(const QString &title, const QString &name, const QString &toolTip);
+    void eject(QPushButton *button);
 
     std::unique_ptr<Ui::Window_Operation_Terminated> m_ui;
 };

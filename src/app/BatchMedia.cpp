@@ -14,15 +14,15 @@ using ListKind = AppDelegate::ListKind;
 namespace batch {
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("BatchRun", text);
-}
+/// Where translators find the texts of this file.
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(BatchMedia)
+};
 
 QString objectionToFound(const compilation::Found &found, const QStringList &accepted)
 {
     if (!found.unreadable.isEmpty()) {
-        return tr("%1: the name is not valid UTF-8 text. Rename the file and try again.")
+        return Texts::tr("%1: the name is not valid UTF-8 text. Rename the file and try again.")
             .arg(found.unreadable.first().toDisplayString());
     }
     if (found.refused.isEmpty())
@@ -30,8 +30,8 @@ QString objectionToFound(const compilation::Found &found, const QStringList &acc
     const auto &[refusal, url, place] = found.refused.first();
     const QString name = url.isLocalFile() ? url.toLocalFile() : url.toDisplayString();
     if (refusal == Refusal::Missing)
-        return tr("%1: there is no such file or folder.").arg(name);
-    return tr("%1: %2").arg(name, compilation::sentence(refusal, accepted));
+        return Texts::tr("%1: there is no such file or folder.").arg(name);
+    return Texts::tr("%1: %2").arg(name, compilation::sentence(refusal, accepted));
 }
 
 bool holds(ListKind kind, const QString &path)
@@ -52,8 +52,10 @@ QString objectionToMedia(ListKind kind, const QList<Wanted> &wanted)
     if (const QString objection = objectionToFound(found, accepted); !objection.isEmpty())
         return objection;
     const QString sentence = kind == ListKind::Audio
-        ? tr("%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no sound in it.")
-        : tr("%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no film in it.");
+        ? Texts::tr(
+            "%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no sound in it.")
+        : Texts::tr(
+            "%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no film in it.");
     for (const Wanted &file : found.files) {
         const QString path = file.url.toLocalFile();
         if (file.way == Wanted::Way::Probed && !holds(kind, path))

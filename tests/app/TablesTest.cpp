@@ -121,8 +121,8 @@ QStringList TablesTest::column(int column) const
 
 void TablesTest::headings()
 {
-    const QList<QStringList> expected{
-        { u"File"_s, u"Duration"_s, u"Size"_s, u"Path"_s, u"Title"_s, u"Performer"_s },
+    const QList<QStringList> expected{ { u"File"_s, u"Duration"_s, u"Size"_s, u"Path"_s, u"Title"_s,
+                                           u"Performer"_s },
         { u"File"_s, u"Duration"_s, u"Size"_s, u"Path"_s }, { u"Folder"_s, u"Size"_s } };
     for (int tab = 0; tab < 3; ++tab) {
         showTab(tab);

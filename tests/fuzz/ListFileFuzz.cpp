@@ -16,6 +16,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         return 0;
     // What was understood is saved so that it is understood again, in the same way.
     const compilation::ListFileRead again = compilation::parsedListFile(compilation::written(read.list));
-    HOLDS(again.error.isEmpty() && again.list.entries == read.list.entries && again.list.kind == read.list.kind);
+    HOLDS(again.error.isEmpty() && again.list.entries == read.list.entries
+        && again.list.kind == read.list.kind);
     return 0;
 }

@@ -142,11 +142,9 @@ void ActivityLogTest::tellsTroubles_data()
         u"drutil: how it ended"_s);
     row("a reason before how far it came", u"/usr/bin/drutil"_s, "no room\nClosing the disc\n", true,
         u"drutil: no room"_s);
-    row("its last line", u"/usr/bin/drutil"_s, "one\ntwo\ndrutil: no disc\n", true,
-        u"drutil: no disc"_s);
+    row("its last line", u"/usr/bin/drutil"_s, "one\ntwo\ndrutil: no disc\n", true, u"drutil: no disc"_s);
     row("its last line without an end", u"ffmpeg"_s, "one\ntwo", true, u"ffmpeg: two"_s);
-    row("its last line after bare returns", u"ffmpeg"_s, "10 %\r20 %\rfailed\r\n", true,
-        u"ffmpeg: failed"_s);
+    row("its last line after bare returns", u"ffmpeg"_s, "10 %\r20 %\rfailed\r\n", true, u"ffmpeg: failed"_s);
     row("empty lines at the end", u"ffmpeg"_s, "failed\n\n  \n", true, u"ffmpeg: failed"_s);
     row("it said nothing", u"/usr/bin/drutil"_s, "", true, u"drutil: how it ended"_s);
     row("it said only line ends", u"/usr/bin/drutil"_s, "\n\r\n", true, u"drutil: how it ended"_s);

@@ -7,6 +7,12 @@
 class TestAccess {
 public:
     /// The gathering of the job under way; null when none is.
-    static writing::FolderGathering *gathering(const AppDelegate &controller) { return controller.m_gathering.get(); }
-    static void showProgress(AppDelegate &controller, const QString &piece) { controller.showProgress(piece); }
+    static writing::FolderGathering *gathering(const AppDelegate &controller)
+    {
+        return controller.m_gathering.get();
+    }
+    static void showProgress(AppDelegate &controller, const QString &piece)
+    {
+        controller.showProgress(piece);
+    }
 };

@@ -128,13 +128,18 @@ NodeMediaFile mediaRecord(const QUrl &url, const QString &path)
     return record;
 }
 
+NodeDataFolder folderRecord(const QString &path, quint64 bytes)
+{
+    return { path, static_cast<qint64>(bytes >> 10), sizeText(bytes), {} };
+}
+
 NodeDataFolder dataRecord(const QString &path)
 {
     const QFileInfo info(path);
     const quint64 bytes = info.isDir() ? treeSize(QFile::encodeName(path).toStdString())
         : info.exists()                ? fileSize(path)
                                        : 0;
-    NodeDataFolder record{ path, static_cast<qint64>(bytes >> 10), sizeText(bytes), {} };
+    NodeDataFolder record = folderRecord(path, bytes);
     if (!info.exists()) {
         record.whyNotMeasured = QCoreApplication::translate(
             "Measuring", QT_TRANSLATE_NOOP("Measuring", "There is no such file or folder any more."));

@@ -54,6 +54,9 @@ QStringList splitStringIntoChars(const QString &text);
 /// The record of the file at `path`, all but its duration. Any thread.
 NodeMediaFile mediaRecord(const QUrl &url, const QString &path);
 
+/// The record of the folder or file at `path`, which holds `bytes`.
+NodeDataFolder folderRecord(const QString &path, quint64 bytes);
+
 /// The record of the folder or file at `path`, measured at once. Of a folder's tree each file is asked.
 NodeDataFolder dataRecord(const QString &path);
 

@@ -17,7 +17,7 @@ inline constexpr QLatin1StringView speed("Corvalis_Speed_"); ///< and a drive's 
 
 inline constexpr QLatin1StringView windowGeometry("Corvalis_Window_Geometry"); ///< as QWidget::saveGeometry()
 inline constexpr QLatin1StringView columns("Corvalis_Columns_"); ///< and a table's name: widths, by commas
-inline constexpr QLatin1StringView nameColumns("Corvalis_Name_Columns"); ///< "0": hidden
+inline constexpr QLatin1StringView nameColumns("Corvalis_Name_Columns"); ///< "1": shown
 inline constexpr QLatin1StringView writeTitles("Corvalis_Write_Titles"); ///< "0": audio CDs without CD-TEXT
 
 } // namespace preferences

@@ -21,15 +21,14 @@ constexpr auto kindKey = "kind"_L1;
 constexpr auto nameKey = "name"_L1;
 constexpr auto entriesKey = "entries"_L1;
 constexpr auto pathKey = "path"_L1;
+constexpr auto relativeKey = "relative"_L1;
 
-/// The texts of an entry, by their keys.
-struct TextRow {
+/// What was typed of an entry, by its keys.
+struct NameRow {
     QLatin1StringView key;
-    QString ListFile::Entry::*text;
+    std::optional<QString> ListFile::Entry::*name;
 };
-const TextRow texts[] = {
-    { pathKey, &ListFile::Entry::path },
-    { "relative"_L1, &ListFile::Entry::relative },
+const NameRow names[] = {
     { "title"_L1, &ListFile::Entry::title },
     { "performer"_L1, &ListFile::Entry::performer },
 };
@@ -51,8 +50,9 @@ QString objectionTo(const ListFile::Entry &entry, qsizetype number)
     // Not as the toolkit sees it, to which ":" is the root of what is compiled in.
     if (!entry.path.startsWith(u'/'))
         return tell(QT_TRANSLATE_NOOP("ListFile", "entry %1 has no full path"));
-    for (const TextRow &row : texts) {
-        if ((entry.*row.text).contains(QChar(u'\0')) || !(entry.*row.text).isValidUtf16())
+    for (const QString &text : { entry.path, entry.relative, entry.title.value_or(QString()),
+             entry.performer.value_or(QString()) }) {
+        if (text.contains(QChar(u'\0')) || !text.isValidUtf16())
             return tell(QT_TRANSLATE_NOOP("ListFile", "entry %1 has characters that no name can have"));
     }
     return entry.relative.startsWith(u'/')
@@ -69,8 +69,12 @@ QString takeEntries(const QJsonArray &array, QList<ListFile::Entry> &entries)
     }
     for (const QJsonValue &value : array) {
         ListFile::Entry entry;
-        for (const TextRow &row : texts)
-            entry.*row.text = value[row.key].toString();
+        entry.path = value[pathKey].toString();
+        entry.relative = value[relativeKey].toString();
+        for (const NameRow &row : names) {
+            if (value[row.key].isString())
+                entry.*row.name = value[row.key].toString();
+        }
         if (const QString why = objectionTo(entry, entries.size() + 1); !why.isEmpty())
             return damaged(why);
         entry.path = QDir::cleanPath(entry.path);
@@ -85,10 +89,12 @@ QByteArray written(const ListFile &list)
 {
     QJsonArray entries;
     for (const ListFile::Entry &entry : list.entries) {
-        QJsonObject object;
-        for (const TextRow &row : texts) {
-            if (!(entry.*row.text).isEmpty())
-                object[row.key] = entry.*row.text;
+        QJsonObject object{ { pathKey, entry.path } };
+        if (!entry.relative.isEmpty())
+            object[relativeKey] = entry.relative;
+        for (const NameRow &row : names) {
+            if (entry.*row.name)
+                object[row.key] = *(entry.*row.name);
         }
         entries.append(object);
     }

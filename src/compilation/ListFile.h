@@ -5,6 +5,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 namespace compilation {
 
 /// What a saved list holds. Its first key is "corvalis-list", the version of the form.
@@ -12,7 +14,8 @@ struct ListFile {
     struct Entry {
         QString path; ///< full
         QString relative; ///< the same place as seen from the folder of the list; may be empty
-        QString title, performer; ///< as typed by the person or as the file's tags have them; may be empty
+        std::optional<QString> title,
+            performer; ///< as typed by the person, where they differ from the file's own
         bool operator==(const Entry &) const = default;
     };
     QString kind; ///< of disc, by its English name

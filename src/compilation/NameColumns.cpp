@@ -60,9 +60,8 @@ NameColumns::NameColumns(AppDelegate *controller)
     headings->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(headings, &QWidget::customContextMenuRequested, this, &NameColumns::showMenu);
 
-    const auto isOn = [controller](QLatin1StringView key) { return controller->preference(key) != "0"_L1; };
-    ui->menuitemNameColumns->setChecked(isOn(preferences::nameColumns));
-    ui->menuitemWriteTitles->setChecked(isOn(preferences::writeTitles));
+    ui->menuitemNameColumns->setChecked(controller->preference(preferences::nameColumns) == "1"_L1);
+    ui->menuitemWriteTitles->setChecked(controller->preference(preferences::writeTitles) != "0"_L1);
     show(ui->menuitemNameColumns->isChecked());
     connect(ui->menuitemNameColumns, &QAction::toggled, this, [this, controller](bool on) {
         controller->setPreference(preferences::nameColumns, on ? u"1"_s : u"0"_s);

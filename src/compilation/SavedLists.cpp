@@ -38,8 +38,10 @@ QList<ListFile::Entry> entriesOf(const Compilation &compilation, const QString &
     QList<ListFile::Entry> entries;
     for (const NodeMediaFile &file : compilation.media) {
         entries.append(entryOf(file.s_File_Path, folder));
-        entries.last().title = file.title;
-        entries.last().performer = file.performer;
+        if (file.title != file.carriedTitle)
+            entries.last().title = file.title;
+        if (file.performer != file.carriedPerformer)
+            entries.last().performer = file.performer;
     }
     for (const NodeDataFolder &record : compilation.folders)
         entries.append(entryOf(record.s_Path, folder));
@@ -219,8 +221,8 @@ QList<NodeMediaFile> AppDelegate::mediaOf(const Opening &opening, const QList<No
         } else {
             continue;
         }
-        record.title = entry.title.isEmpty() ? record.title : entry.title;
-        record.performer = entry.performer.isEmpty() ? record.performer : entry.performer;
+        record.title = entry.title.value_or(record.title);
+        record.performer = entry.performer.value_or(record.performer);
         records.append(record);
     }
     return records;
@@ -323,7 +325,9 @@ void AppDelegate::offerRecentLists()
     for (qsizetype i = 0; i < recent.size(); ++i) {
         QString name = QFileInfo(recent.at(i)).completeBaseName().simplified();
         name.replace(u'&', u"&&"_s);
-        QAction *const item = menu->addAction(i < 9 ? u"&%1 %2"_s.arg(i + 1).arg(name) : name);
+        const QString number = i < 9 ? u"&%1"_s.arg(i + 1) : u"1&0"_s;
+        QAction *const item = menu->addAction(number + u' ' + name);
+        item->setObjectName(u"menuitemRecent%1"_s.arg(i + 1));
         item->setToolTip(recent.at(i));
         connect(item, &QAction::triggered, this, [this, path = recent.at(i)] { openList(path); });
     }

@@ -147,7 +147,8 @@ void KeyboardTest::everyItemHasKeys()
 {
     // What destroys without asking, and what is rarely wanted, is not had by one slip of a finger: a letter
     // in its menu chooses it.
-    const QStringList byLetter{ u"menuitemErase"_s, u"menuitemInsert"_s, u"menuitemHelp"_s };
+    const QStringList byLetter{ u"menuitemErase"_s, u"menuitemInsert"_s, u"menuitemHelp"_s,
+        u"menuitemRecent"_s };
     for (const QMenu *menu : m_app->window->findChildren<QMenu *>()) {
         for (const QAction *action : menu->actions()) {
             if (action->isSeparator() || action->menu())

@@ -67,6 +67,8 @@ void NameColumnsTest::init()
 {
     emptyHome();
     launch();
+    QVERIFY(audio()->isColumnHidden(title) && audio()->isColumnHidden(performer));
+    person::choose(m_app->window.get(), "menuitemNameColumns");
 }
 
 void NameColumnsTest::namesComeFromTheTags()
@@ -170,6 +172,8 @@ void NameColumnsTest::headingsDoNotSort()
 
 void NameColumnsTest::hiddenColumnsStayHidden()
 {
+    m_app.reset();
+    launch();
     QVERIFY(!audio()->isColumnHidden(title));
     QHeaderView *headings = audio()->horizontalHeader();
     Q_EMIT headings->customContextMenuRequested({ 5, 5 });

@@ -41,7 +41,7 @@ private Q_SLOTS:
     {
         const ListFile list{ u"MP3 CD"_s, u"Été ☀ \"x\""_s,
             { { u"/music/two\nlines.mp3"_s, u"../music/two\nlines.mp3"_s, u"Título"_s, u"Ensemble & Co."_s },
-                { u"/-dash/"_s + QString(255, u'x'), {}, {}, {} },
+                { u"/-dash/"_s + QString(255, u'x'), {}, u""_s, {} },
                 { u"/日本語 😀"_s, u"日本語 😀"_s, {}, {} } } };
         const compilation::ListFileRead read = compilation::parsedListFile(compilation::written(list));
         QCOMPARE(read.error, QString());

@@ -63,11 +63,11 @@ private Q_SLOTS:
         const Disc disc = written([](WholeMachine &) {});
         QCOMPARE(disc.trouble, QString());
         QVERIFY2(disc.tracks.endsWith("First Band 2 audio 00:06:15 00:04:23"), disc.tracks.constData());
-        // Hidden columns change nothing, neither in the sound nor in the sheet.
-        const Disc hidden = written(
+        // That the columns are shown changes nothing, neither in the sound nor in the sheet.
+        const Disc shown = written(
             [](WholeMachine &machine) { person::choose(machine.window.get(), "menuitemNameColumns"); });
-        QVERIFY(!disc.sound.isEmpty() && hidden.sound == disc.sound);
-        QCOMPARE(hidden.sheet, disc.sheet);
+        QVERIFY(!disc.sound.isEmpty() && shown.sound == disc.sound);
+        QCOMPARE(shown.sheet, disc.sheet);
     }
 
     void whatIsTypedIsOnTheDisc()

@@ -238,7 +238,6 @@ private Q_SLOTS:
         const Printed printed = run(builtPrograms() + u"/corvalis"_s,
             { u"--burn"_s, u"Video DVD"_s, u"--for-players"_s, u"--"_s, clip, gone });
         QCOMPARE(printed.status, 3);
-        QVERIFY2(printed.output.contains("Making the titles and chapters\n"), printed.output.constData());
         QVERIFY2(printed.errors.contains("none.ts: "), printed.errors.constData());
         QCOMPARE(listedTitles(recorder.iso()).size(), 1);
     }

@@ -118,6 +118,42 @@
         <source>The files in these folders have their endings in capital letters, and of a folder only those in small letters are taken. Add the files themselves.</source>
         <translation>Die Dateien in diesen Ordnern haben ihre Endungen in Großbuchstaben, und aus einem Ordner werden nur solche in Kleinbuchstaben genommen. Fügen Sie die Dateien selbst hinzu.</translation>
     </message>
+    <message>
+        <source>This list takes files that end in %1, and any others with sound in them. ffmpeg finds none in these.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This list takes files that end in %1, and any others with a film in them. ffmpeg finds none in these.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ffmpeg finds no sound in any file in these folders or below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ffmpeg finds no film in any file in these folders or below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These are playlists and folders that a playlist names, and those are not followed. Add them themselves.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These playlists name no files, or they are damaged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These playlists name more than 100,000 files. Only so many were taken, the first ones.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These files are too large for playlists, which have up to 32 MB.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are more than 100,000 files below these folders. Only so many were taken, the first ones.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ActivityLog</name>
@@ -621,6 +657,88 @@ Erstellt mit Qt %1, libburn, libisofs, ffmpeg und mpv.</translation>
         <source>What is missing stays on the list, marked. If it was moved, show a folder in which it is now, at any depth: it is found there by its name.</source>
         <translation>Was fehlt, bleibt markiert in der Liste. Wurde es verschoben, so wählen Sie einen Ordner, in dem es jetzt liegt, gleich wie tief: Dort wird es an seinem Namen erkannt.</translation>
     </message>
+    <message>
+        <source>Add any files with sound, and playlists, to the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add any films, and playlists, to the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not all of these files can be on one disc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Their names differ in the folder or the ending only. The first of each name on the list is written and the others are left out. Rename them, or take them off the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The title and the performer of “%1” are not on the disc as they are on the list: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The names of a track could not be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program dvdauthor is missing</source>
+        <translation>Das Programm dvdauthor fehlt</translation>
+    </message>
+    <message>
+        <source>It makes the titles of a DVD for players. Install the package “dvdauthor” and try again, or switch “For DVD players” off in the video settings; the disc then holds files.</source>
+        <translation>Es erstellt die Titel einer DVD für Player. Installieren Sie das Paket „dvdauthor“ und versuchen Sie es erneut, oder schalten Sie „Für DVD-Player“ in den Videoeinstellungen aus; die Disc enthält dann Dateien.</translation>
+    </message>
+    <message>
+        <source>Too many clips for one DVD</source>
+        <translation>Zu viele Clips für eine DVD</translation>
+    </message>
+    <message numerus="yes">
+        <source>A DVD for players has room for 99 titles, and there are %Ln clip(s) on the list. Take some off and try again.</source>
+        <translation>
+            <numerusform>Eine DVD für Player hat Platz für 99 Titel, und auf der Liste steht %Ln Clip. Nehmen Sie einige heraus und versuchen Sie es erneut.</numerusform>
+            <numerusform>Eine DVD für Player hat Platz für 99 Titel, und auf der Liste stehen %Ln Clips. Nehmen Sie einige heraus und versuchen Sie es erneut.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is not enough room to make the titles</source>
+        <translation>Der Platz reicht nicht, um die Titel zu erstellen</translation>
+    </message>
+    <message>
+        <source>A disc is prepared in the folder %1. That may take %2 for these clips, and its file system has %3 left. Free some room and try again, or go on: a clip that finds no room will not be on the disc.</source>
+        <translation>Die Disc wird im Ordner %1 vorbereitet. Das kann für diese Clips %2 brauchen, und auf dessen Dateisystem sind %3 frei. Schaffen Sie Platz und versuchen Sie es erneut, oder fahren Sie fort: Ein Clip, der keinen Platz findet, kommt nicht auf die Disc.</translation>
+    </message>
+    <message>
+        <source>%1: there is no picture in it.</source>
+        <translation>%1: Es ist kein Bild darin.</translation>
+    </message>
+    <message>
+        <source>%1: its picture could not be read.</source>
+        <translation>%1: Das Bild konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The titles could not be described: %1. The disc is as it was.</source>
+        <translation>Die Titel konnten nicht beschrieben werden: %1. Die Disc ist, wie sie war.</translation>
+    </message>
+    <message>
+        <source>dvdauthor told nothing for a long time and was ended.</source>
+        <translation>dvdauthor hat lange nichts gemeldet und wurde beendet.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln title(s)</source>
+        <translation>
+            <numerusform>%Ln Titel</numerusform>
+            <numerusform>%Ln Titel</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file system of the folder %1 is full.</source>
+        <translation>Das Dateisystem des Ordners %1 ist voll.</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -647,6 +765,14 @@ Erstellt mit Qt %1, libburn, libisofs, ffmpeg und mpv.</translation>
     <message>
         <source>Gathering the folders</source>
         <translation>Die Ordner werden zusammengestellt</translation>
+    </message>
+    <message>
+        <source>--for-players goes with --burn &quot;Video DVD&quot;.</source>
+        <translation>--for-players gibt es nur mit --burn &quot;Video DVD&quot;.</translation>
+    </message>
+    <message>
+        <source>Making the titles and chapters</source>
+        <translation>Titel und Kapitel werden erstellt</translation>
     </message>
 </context>
 <context>
@@ -745,12 +871,16 @@ Eine Datei, deren Name mit einem Strich beginnt, steht hinter &quot;--&quot;.</t
         <translation>what</translation>
     </message>
     <message>
-        <source>Files, or folders for a data disc; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
-        <translation>Dateien, für eine Daten-Disc auch Ordner; die Titel einer Audio-CD behalten ihre Reihenfolge. Ohne --burn werden sie im Fenster geöffnet: Musik, Filme, Ordner, ein Disc-Abbild oder eine gespeicherte Liste.</translation>
-    </message>
-    <message>
         <source>--new-window and --action go without --burn.</source>
         <translation>--new-window und --action gibt es nur ohne --burn.</translation>
+    </message>
+    <message>
+        <source>Make a Video DVD for DVD players, with titles and chapters, whatever the video settings say.</source>
+        <translation>Eine Video-DVD für DVD-Player erstellen, mit Titeln und Kapiteln, was immer die Videoeinstellungen sagen.</translation>
+    </message>
+    <message>
+        <source>Files, for a data disc also folders; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -878,6 +1008,14 @@ Eine Datei, deren Name mit einem Strich beginnt, steht hinter &quot;--&quot;.</t
     <message>
         <source>Path</source>
         <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Performer</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1025,10 +1163,6 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     <message>
         <source>Video Blu-ray</source>
         <translation>Video-Blu-ray</translation>
-    </message>
-    <message>
-        <source>MPEG-2 clips on a Blu-ray disc: 23 hours (Alt+2)</source>
-        <translation>MPEG-2-Clips auf einer Blu-ray-Disc: 23 Stunden (Alt+2)</translation>
     </message>
     <message>
         <source>Video files</source>
@@ -1486,6 +1620,42 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
         <source>User &amp;Guide</source>
         <translation>&amp;Benutzerhandbuch</translation>
     </message>
+    <message>
+        <source>MPEG-2 clips on a Blu-ray disc, as files for computers and for players that play files: 23 hours (Alt+2)</source>
+        <translation>MPEG-2-Clips auf einer Blu-ray-Disc, als Dateien für Computer und für Player, die Dateien abspielen: 23 Stunden (Alt+2)</translation>
+    </message>
+    <message>
+        <source>Add O&amp;ther Files…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add files of any ending with sound, or with a film, in them, and playlists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Write Titles on Audio CDs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio CDs get the titles and performers of their tracks as CD-TEXT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type another title for the row; Tab goes on to the performer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title and &amp;Performer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the titles and performers of audio files on the list</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Measuring</name>
@@ -1535,6 +1705,13 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     <message>
         <source>The file could not be opened.</source>
         <translation>Die Datei konnte nicht geöffnet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>NameColumns</name>
+    <message>
+        <source>Return keeps what was typed, Escape what was there before</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1769,6 +1946,13 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     <message>
         <source>%1 of %2</source>
         <translation>%1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>TrackNames</name>
+    <message>
+        <source>The converted file is not complete</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2116,6 +2300,10 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
         <source>Writing the disc</source>
         <translation>Die Disc wird gebrannt</translation>
     </message>
+    <message>
+        <source>Making the titles and chapters</source>
+        <translation>Titel und Kapitel werden erstellt</translation>
+    </message>
 </context>
 <context>
     <name>Window_Progress</name>
@@ -2200,6 +2388,18 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     <message>
         <source>&amp;MPEG-2 audio (MP2)</source>
         <translation>&amp;MPEG-2-Audio (MP2)</translation>
+    </message>
+    <message>
+        <source>&amp;For DVD players (titles and chapters)</source>
+        <translation>&amp;Für DVD-Player (Titel und Kapitel)</translation>
+    </message>
+    <message>
+        <source>Video DVDs play in the player below a television, one clip after the other; without this, video discs hold files</source>
+        <translation>Video-DVDs laufen im Player unter dem Fernseher, ein Clip nach dem anderen; ohne dies enthalten Video-Discs Dateien</translation>
+    </message>
+    <message>
+        <source>Concerns Video DVDs. Video Blu-ray discs always hold files.</source>
+        <translation>Betrifft Video-DVDs. Video-Blu-rays enthalten immer Dateien.</translation>
     </message>
 </context>
 <context>
@@ -2425,6 +2625,10 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     <message>
         <source>the working folder</source>
         <translation>der Arbeitsordner</translation>
+    </message>
+    <message>
+        <source>%1 could not make the titles: %2. The disc is as it was.</source>
+        <translation>%1 konnte die Titel nicht erstellen: %2. Die Disc ist, wie sie war.</translation>
     </message>
 </context>
 </TS>

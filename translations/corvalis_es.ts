@@ -118,6 +118,42 @@
         <source>The files in these folders have their endings in capital letters, and of a folder only those in small letters are taken. Add the files themselves.</source>
         <translation>Los archivos de estas carpetas tienen la extensión en mayúsculas, y de una carpeta solo se toman los que la tienen en minúsculas. Añada los propios archivos.</translation>
     </message>
+    <message>
+        <source>This list takes files that end in %1, and any others with sound in them. ffmpeg finds none in these.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This list takes files that end in %1, and any others with a film in them. ffmpeg finds none in these.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ffmpeg finds no sound in any file in these folders or below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ffmpeg finds no film in any file in these folders or below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These are playlists and folders that a playlist names, and those are not followed. Add them themselves.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These playlists name no files, or they are damaged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These playlists name more than 100,000 files. Only so many were taken, the first ones.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These files are too large for playlists, which have up to 32 MB.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are more than 100,000 files below these folders. Only so many were taken, the first ones.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ActivityLog</name>
@@ -621,6 +657,88 @@ Hecho con Qt %1, libburn, libisofs, ffmpeg y mpv.</translation>
         <source>What is missing stays on the list, marked. If it was moved, show a folder in which it is now, at any depth: it is found there by its name.</source>
         <translation>Lo que falta sigue en la lista, marcado. Si se movió, indique una carpeta en la que esté ahora, a cualquier nivel: allí se encuentra por su nombre.</translation>
     </message>
+    <message>
+        <source>Add any files with sound, and playlists, to the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add any films, and playlists, to the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not all of these files can be on one disc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Their names differ in the folder or the ending only. The first of each name on the list is written and the others are left out. Rename them, or take them off the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The title and the performer of “%1” are not on the disc as they are on the list: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The names of a track could not be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program dvdauthor is missing</source>
+        <translation>Falta el programa dvdauthor</translation>
+    </message>
+    <message>
+        <source>It makes the titles of a DVD for players. Install the package “dvdauthor” and try again, or switch “For DVD players” off in the video settings; the disc then holds files.</source>
+        <translation>Crea los títulos de un DVD para reproductores. Instale el paquete «dvdauthor» e inténtelo de nuevo, o desactive «Para reproductores de DVD» en los ajustes de vídeo; el disco contendrá entonces archivos.</translation>
+    </message>
+    <message>
+        <source>Too many clips for one DVD</source>
+        <translation>Demasiados clips para un DVD</translation>
+    </message>
+    <message numerus="yes">
+        <source>A DVD for players has room for 99 titles, and there are %Ln clip(s) on the list. Take some off and try again.</source>
+        <translation>
+            <numerusform>Un DVD para reproductores admite 99 títulos, y hay %Ln clip en la lista. Quite algunos e inténtelo de nuevo.</numerusform>
+            <numerusform>Un DVD para reproductores admite 99 títulos, y hay %Ln clips en la lista. Quite algunos e inténtelo de nuevo.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is not enough room to make the titles</source>
+        <translation>No hay espacio suficiente para crear los títulos</translation>
+    </message>
+    <message>
+        <source>A disc is prepared in the folder %1. That may take %2 for these clips, and its file system has %3 left. Free some room and try again, or go on: a clip that finds no room will not be on the disc.</source>
+        <translation>El disco se prepara en la carpeta %1. Para estos clips puede necesitar %2, y en su sistema de archivos quedan %3. Libere espacio e inténtelo de nuevo, o continúe: un clip que no encuentre espacio no estará en el disco.</translation>
+    </message>
+    <message>
+        <source>%1: there is no picture in it.</source>
+        <translation>%1: no contiene ninguna imagen.</translation>
+    </message>
+    <message>
+        <source>%1: its picture could not be read.</source>
+        <translation>%1: no se pudo leer su imagen.</translation>
+    </message>
+    <message>
+        <source>The titles could not be described: %1. The disc is as it was.</source>
+        <translation>No se pudieron describir los títulos: %1. El disco está como estaba.</translation>
+    </message>
+    <message>
+        <source>dvdauthor told nothing for a long time and was ended.</source>
+        <translation>dvdauthor no dijo nada durante mucho tiempo y se terminó.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln title(s)</source>
+        <translation>
+            <numerusform>%Ln título</numerusform>
+            <numerusform>%Ln títulos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file system of the folder %1 is full.</source>
+        <translation>El sistema de archivos de la carpeta %1 está lleno.</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -647,6 +765,14 @@ Hecho con Qt %1, libburn, libisofs, ffmpeg y mpv.</translation>
     <message>
         <source>Gathering the folders</source>
         <translation>Reuniendo las carpetas</translation>
+    </message>
+    <message>
+        <source>--for-players goes with --burn &quot;Video DVD&quot;.</source>
+        <translation>--for-players va con --burn &quot;Video DVD&quot;.</translation>
+    </message>
+    <message>
+        <source>Making the titles and chapters</source>
+        <translation>Creando los títulos y capítulos</translation>
     </message>
 </context>
 <context>
@@ -745,12 +871,16 @@ Un archivo cuyo nombre empieza por un guion va detrás de &quot;--&quot;.</trans
         <translation>what</translation>
     </message>
     <message>
-        <source>Files, or folders for a data disc; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
-        <translation>Archivos, o también carpetas para un disco de datos; las pistas de un CD de audio conservan su orden. Sin --burn se abren en la ventana: música, películas, carpetas, una imagen de disco o una lista guardada.</translation>
-    </message>
-    <message>
         <source>--new-window and --action go without --burn.</source>
         <translation>--new-window y --action van sin --burn.</translation>
+    </message>
+    <message>
+        <source>Make a Video DVD for DVD players, with titles and chapters, whatever the video settings say.</source>
+        <translation>Crear un DVD de vídeo para reproductores de DVD, con títulos y capítulos, digan lo que digan los ajustes de vídeo.</translation>
+    </message>
+    <message>
+        <source>Files, for a data disc also folders; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -878,6 +1008,14 @@ Un archivo cuyo nombre empieza por un guion va detrás de &quot;--&quot;.</trans
     <message>
         <source>Path</source>
         <translation>Ruta</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Performer</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1025,10 +1163,6 @@ El orden de la lista es el orden en el disco.</translation>
     <message>
         <source>Video Blu-ray</source>
         <translation>Blu-ray de vídeo</translation>
-    </message>
-    <message>
-        <source>MPEG-2 clips on a Blu-ray disc: 23 hours (Alt+2)</source>
-        <translation>Clips MPEG-2 en un disco Blu-ray: 23 horas (Alt+2)</translation>
     </message>
     <message>
         <source>Video files</source>
@@ -1486,6 +1620,42 @@ El orden de la lista es el orden en el disco.</translation>
         <source>User &amp;Guide</source>
         <translation>&amp;Guía del usuario</translation>
     </message>
+    <message>
+        <source>MPEG-2 clips on a Blu-ray disc, as files for computers and for players that play files: 23 hours (Alt+2)</source>
+        <translation>Clips MPEG-2 en un disco Blu-ray, como archivos para ordenadores y para reproductores que leen archivos: 23 horas (Alt+2)</translation>
+    </message>
+    <message>
+        <source>Add O&amp;ther Files…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add files of any ending with sound, or with a film, in them, and playlists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Write Titles on Audio CDs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio CDs get the titles and performers of their tracks as CD-TEXT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type another title for the row; Tab goes on to the performer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title and &amp;Performer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the titles and performers of audio files on the list</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Measuring</name>
@@ -1535,6 +1705,13 @@ El orden de la lista es el orden en el disco.</translation>
     <message>
         <source>The file could not be opened.</source>
         <translation>No se pudo abrir el archivo.</translation>
+    </message>
+</context>
+<context>
+    <name>NameColumns</name>
+    <message>
+        <source>Return keeps what was typed, Escape what was there before</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1769,6 +1946,13 @@ El orden de la lista es el orden en el disco.</translation>
     <message>
         <source>%1 of %2</source>
         <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>TrackNames</name>
+    <message>
+        <source>The converted file is not complete</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2116,6 +2300,10 @@ El orden de la lista es el orden en el disco.</translation>
         <source>Writing the disc</source>
         <translation>Grabando el disco</translation>
     </message>
+    <message>
+        <source>Making the titles and chapters</source>
+        <translation>Creando los títulos y capítulos</translation>
+    </message>
 </context>
 <context>
     <name>Window_Progress</name>
@@ -2200,6 +2388,18 @@ El orden de la lista es el orden en el disco.</translation>
     <message>
         <source>&amp;MPEG-2 audio (MP2)</source>
         <translation>Audio &amp;MPEG-2 (MP2)</translation>
+    </message>
+    <message>
+        <source>&amp;For DVD players (titles and chapters)</source>
+        <translation>Para &amp;reproductores de DVD (títulos y capítulos)</translation>
+    </message>
+    <message>
+        <source>Video DVDs play in the player below a television, one clip after the other; without this, video discs hold files</source>
+        <translation>Los DVD de vídeo se ven en el reproductor del televisor, un clip tras otro; sin esto, los discos de vídeo contienen archivos</translation>
+    </message>
+    <message>
+        <source>Concerns Video DVDs. Video Blu-ray discs always hold files.</source>
+        <translation>Afecta a los DVD de vídeo. Los Blu-ray de vídeo siempre contienen archivos.</translation>
     </message>
 </context>
 <context>
@@ -2425,6 +2625,10 @@ El orden de la lista es el orden en el disco.</translation>
     <message>
         <source>the working folder</source>
         <translation>la carpeta de trabajo</translation>
+    </message>
+    <message>
+        <source>%1 could not make the titles: %2. The disc is as it was.</source>
+        <translation>%1 no pudo crear los títulos: %2. El disco está como estaba.</translation>
     </message>
 </context>
 </TS>

@@ -118,6 +118,42 @@
         <source>The files in these folders have their endings in capital letters, and of a folder only those in small letters are taken. Add the files themselves.</source>
         <translation>Les extensions des fichiers de ces dossiers sont en majuscules, et d’un dossier on ne prend que celles en minuscules. Ajoutez les fichiers eux-mêmes.</translation>
     </message>
+    <message>
+        <source>This list takes files that end in %1, and any others with sound in them. ffmpeg finds none in these.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This list takes files that end in %1, and any others with a film in them. ffmpeg finds none in these.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ffmpeg finds no sound in any file in these folders or below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ffmpeg finds no film in any file in these folders or below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These are playlists and folders that a playlist names, and those are not followed. Add them themselves.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These playlists name no files, or they are damaged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These playlists name more than 100,000 files. Only so many were taken, the first ones.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These files are too large for playlists, which have up to 32 MB.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are more than 100,000 files below these folders. Only so many were taken, the first ones.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ActivityLog</name>
@@ -621,6 +657,88 @@ Construit avec Qt %1, libburn, libisofs, ffmpeg et mpv.</translation>
         <source>What is missing stays on the list, marked. If it was moved, show a folder in which it is now, at any depth: it is found there by its name.</source>
         <translation>Ce qui manque reste dans la liste, marqué. Si cela a été déplacé, indiquez un dossier où cela se trouve maintenant, à n’importe quel niveau&#xa0;: c’est là qu’on le retrouve par son nom.</translation>
     </message>
+    <message>
+        <source>Add any files with sound, and playlists, to the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add any films, and playlists, to the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not all of these files can be on one disc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Their names differ in the folder or the ending only. The first of each name on the list is written and the others are left out. Rename them, or take them off the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The title and the performer of “%1” are not on the disc as they are on the list: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The names of a track could not be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program dvdauthor is missing</source>
+        <translation>Le programme dvdauthor manque</translation>
+    </message>
+    <message>
+        <source>It makes the titles of a DVD for players. Install the package “dvdauthor” and try again, or switch “For DVD players” off in the video settings; the disc then holds files.</source>
+        <translation>Il crée les titres d’un DVD pour lecteurs. Installez le paquet « dvdauthor » et réessayez, ou désactivez « Pour lecteurs de DVD » dans les réglages vidéo&#xa0;; le disque contient alors des fichiers.</translation>
+    </message>
+    <message>
+        <source>Too many clips for one DVD</source>
+        <translation>Trop de clips pour un DVD</translation>
+    </message>
+    <message numerus="yes">
+        <source>A DVD for players has room for 99 titles, and there are %Ln clip(s) on the list. Take some off and try again.</source>
+        <translation>
+            <numerusform>Un DVD pour lecteurs a de la place pour 99 titres, et il y a %Ln clip dans la liste. Retirez-en et réessayez.</numerusform>
+            <numerusform>Un DVD pour lecteurs a de la place pour 99 titres, et il y a %Ln clips dans la liste. Retirez-en et réessayez.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is not enough room to make the titles</source>
+        <translation>La place manque pour créer les titres</translation>
+    </message>
+    <message>
+        <source>A disc is prepared in the folder %1. That may take %2 for these clips, and its file system has %3 left. Free some room and try again, or go on: a clip that finds no room will not be on the disc.</source>
+        <translation>Le disque est préparé dans le dossier %1. Cela peut demander %2 pour ces clips, et il reste %3 sur son système de fichiers. Libérez de la place et réessayez, ou continuez&#xa0;: un clip qui ne trouve pas de place ne sera pas sur le disque.</translation>
+    </message>
+    <message>
+        <source>%1: there is no picture in it.</source>
+        <translation>%1&#xa0;: il n’y a pas d’image dedans.</translation>
+    </message>
+    <message>
+        <source>%1: its picture could not be read.</source>
+        <translation>%1&#xa0;: son image n’a pas pu être lue.</translation>
+    </message>
+    <message>
+        <source>The titles could not be described: %1. The disc is as it was.</source>
+        <translation>Les titres n’ont pas pu être décrits&#xa0;: %1. Le disque est tel qu’il était.</translation>
+    </message>
+    <message>
+        <source>dvdauthor told nothing for a long time and was ended.</source>
+        <translation>dvdauthor n’a rien dit pendant longtemps et a été arrêté.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln title(s)</source>
+        <translation>
+            <numerusform>%Ln titre</numerusform>
+            <numerusform>%Ln titres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file system of the folder %1 is full.</source>
+        <translation>Le système de fichiers du dossier %1 est plein.</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -647,6 +765,14 @@ Construit avec Qt %1, libburn, libisofs, ffmpeg et mpv.</translation>
     <message>
         <source>Gathering the folders</source>
         <translation>Rassemblement des dossiers</translation>
+    </message>
+    <message>
+        <source>--for-players goes with --burn &quot;Video DVD&quot;.</source>
+        <translation>--for-players va avec --burn &quot;Video DVD&quot;.</translation>
+    </message>
+    <message>
+        <source>Making the titles and chapters</source>
+        <translation>Création des titres et des chapitres</translation>
     </message>
 </context>
 <context>
@@ -745,12 +871,16 @@ Un fichier dont le nom commence par un tiret se place après &quot;--&quot;.</tr
         <translation>what</translation>
     </message>
     <message>
-        <source>Files, or folders for a data disc; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
-        <translation>Fichiers, ou aussi dossiers pour un disque de données&#xa0;; les pistes d’un CD audio gardent leur ordre. Sans --burn, ils sont ouverts dans la fenêtre&#xa0;: musique, films, dossiers, une image disque ou une liste enregistrée.</translation>
-    </message>
-    <message>
         <source>--new-window and --action go without --burn.</source>
         <translation>--new-window et --action ne vont pas avec --burn.</translation>
+    </message>
+    <message>
+        <source>Make a Video DVD for DVD players, with titles and chapters, whatever the video settings say.</source>
+        <translation>Créer un DVD vidéo pour lecteurs de DVD, avec titres et chapitres, quels que soient les réglages vidéo.</translation>
+    </message>
+    <message>
+        <source>Files, for a data disc also folders; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -878,6 +1008,14 @@ Un fichier dont le nom commence par un tiret se place après &quot;--&quot;.</tr
     <message>
         <source>Path</source>
         <translation>Chemin</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Performer</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1025,10 +1163,6 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     <message>
         <source>Video Blu-ray</source>
         <translation>Blu-ray vidéo</translation>
-    </message>
-    <message>
-        <source>MPEG-2 clips on a Blu-ray disc: 23 hours (Alt+2)</source>
-        <translation>Des clips MPEG-2 sur un disque Blu-ray&#xa0;: 23 heures (Alt+2)</translation>
     </message>
     <message>
         <source>Video files</source>
@@ -1486,6 +1620,42 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
         <source>User &amp;Guide</source>
         <translation>&amp;Guide de l’utilisateur</translation>
     </message>
+    <message>
+        <source>MPEG-2 clips on a Blu-ray disc, as files for computers and for players that play files: 23 hours (Alt+2)</source>
+        <translation>Des clips MPEG-2 sur un disque Blu-ray, comme fichiers pour ordinateurs et pour lecteurs qui lisent des fichiers&#xa0;: 23 heures (Alt+2)</translation>
+    </message>
+    <message>
+        <source>Add O&amp;ther Files…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add files of any ending with sound, or with a film, in them, and playlists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Write Titles on Audio CDs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio CDs get the titles and performers of their tracks as CD-TEXT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type another title for the row; Tab goes on to the performer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title and &amp;Performer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the titles and performers of audio files on the list</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Measuring</name>
@@ -1535,6 +1705,13 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     <message>
         <source>The file could not be opened.</source>
         <translation>Le fichier n’a pas pu être ouvert.</translation>
+    </message>
+</context>
+<context>
+    <name>NameColumns</name>
+    <message>
+        <source>Return keeps what was typed, Escape what was there before</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1769,6 +1946,13 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     <message>
         <source>%1 of %2</source>
         <translation>%1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>TrackNames</name>
+    <message>
+        <source>The converted file is not complete</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2116,6 +2300,10 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
         <source>Writing the disc</source>
         <translation>Gravure du disque</translation>
     </message>
+    <message>
+        <source>Making the titles and chapters</source>
+        <translation>Création des titres et des chapitres</translation>
+    </message>
 </context>
 <context>
     <name>Window_Progress</name>
@@ -2200,6 +2388,18 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     <message>
         <source>&amp;MPEG-2 audio (MP2)</source>
         <translation>Audio &amp;MPEG-2 (MP2)</translation>
+    </message>
+    <message>
+        <source>&amp;For DVD players (titles and chapters)</source>
+        <translation>Pour &amp;lecteurs de DVD (titres et chapitres)</translation>
+    </message>
+    <message>
+        <source>Video DVDs play in the player below a television, one clip after the other; without this, video discs hold files</source>
+        <translation>Les DVD vidéo passent dans le lecteur sous le téléviseur, un clip après l’autre&#xa0;; sans cela, les disques vidéo contiennent des fichiers</translation>
+    </message>
+    <message>
+        <source>Concerns Video DVDs. Video Blu-ray discs always hold files.</source>
+        <translation>Concerne les DVD vidéo. Les Blu-ray vidéo contiennent toujours des fichiers.</translation>
     </message>
 </context>
 <context>
@@ -2425,6 +2625,10 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     <message>
         <source>the working folder</source>
         <translation>le dossier de travail</translation>
+    </message>
+    <message>
+        <source>%1 could not make the titles: %2. The disc is as it was.</source>
+        <translation>%1 n’a pas pu créer les titres&#xa0;: %2. Le disque est tel qu’il était.</translation>
     </message>
 </context>
 </TS>

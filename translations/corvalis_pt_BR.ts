@@ -118,6 +118,42 @@
         <source>The files in these folders have their endings in capital letters, and of a folder only those in small letters are taken. Add the files themselves.</source>
         <translation>Os arquivos destas pastas têm a extensão em letras maiúsculas, e de uma pasta só são aceitos os que a têm em minúsculas. Adicione os próprios arquivos.</translation>
     </message>
+    <message>
+        <source>This list takes files that end in %1, and any others with sound in them. ffmpeg finds none in these.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This list takes files that end in %1, and any others with a film in them. ffmpeg finds none in these.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ffmpeg finds no sound in any file in these folders or below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ffmpeg finds no film in any file in these folders or below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These are playlists and folders that a playlist names, and those are not followed. Add them themselves.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These playlists name no files, or they are damaged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These playlists name more than 100,000 files. Only so many were taken, the first ones.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These files are too large for playlists, which have up to 32 MB.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are more than 100,000 files below these folders. Only so many were taken, the first ones.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ActivityLog</name>
@@ -621,6 +657,88 @@ Feito com Qt %1, libburn, libisofs, ffmpeg e mpv.</translation>
         <source>What is missing stays on the list, marked. If it was moved, show a folder in which it is now, at any depth: it is found there by its name.</source>
         <translation>O que falta continua na lista, marcado. Se foi movido, indique uma pasta em que esteja agora, em qualquer nível: lá é encontrado pelo nome.</translation>
     </message>
+    <message>
+        <source>Add any files with sound, and playlists, to the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add any films, and playlists, to the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not all of these files can be on one disc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Their names differ in the folder or the ending only. The first of each name on the list is written and the others are left out. Rename them, or take them off the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The title and the performer of “%1” are not on the disc as they are on the list: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The names of a track could not be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program dvdauthor is missing</source>
+        <translation>Falta o programa dvdauthor</translation>
+    </message>
+    <message>
+        <source>It makes the titles of a DVD for players. Install the package “dvdauthor” and try again, or switch “For DVD players” off in the video settings; the disc then holds files.</source>
+        <translation>Ele cria os títulos de um DVD para aparelhos. Instale o pacote “dvdauthor” e tente de novo, ou desative “Para aparelhos de DVD” nos ajustes de vídeo; o disco conterá então arquivos.</translation>
+    </message>
+    <message>
+        <source>Too many clips for one DVD</source>
+        <translation>Clipes demais para um DVD</translation>
+    </message>
+    <message numerus="yes">
+        <source>A DVD for players has room for 99 titles, and there are %Ln clip(s) on the list. Take some off and try again.</source>
+        <translation>
+            <numerusform>Um DVD para aparelhos comporta 99 títulos, e há %Ln clipe na lista. Retire alguns e tente de novo.</numerusform>
+            <numerusform>Um DVD para aparelhos comporta 99 títulos, e há %Ln clipes na lista. Retire alguns e tente de novo.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is not enough room to make the titles</source>
+        <translation>Não há espaço suficiente para criar os títulos</translation>
+    </message>
+    <message>
+        <source>A disc is prepared in the folder %1. That may take %2 for these clips, and its file system has %3 left. Free some room and try again, or go on: a clip that finds no room will not be on the disc.</source>
+        <translation>O disco é preparado na pasta %1. Para estes clipes, isso pode ocupar %2, e restam %3 no sistema de arquivos dela. Libere espaço e tente de novo, ou continue: um clipe que não encontrar espaço não estará no disco.</translation>
+    </message>
+    <message>
+        <source>%1: there is no picture in it.</source>
+        <translation>%1: não há imagem nele.</translation>
+    </message>
+    <message>
+        <source>%1: its picture could not be read.</source>
+        <translation>%1: não foi possível ler a imagem dele.</translation>
+    </message>
+    <message>
+        <source>The titles could not be described: %1. The disc is as it was.</source>
+        <translation>Não foi possível descrever os títulos: %1. O disco está como estava.</translation>
+    </message>
+    <message>
+        <source>dvdauthor told nothing for a long time and was ended.</source>
+        <translation>O dvdauthor não informou nada por muito tempo e foi encerrado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln title(s)</source>
+        <translation>
+            <numerusform>%Ln título</numerusform>
+            <numerusform>%Ln títulos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file system of the folder %1 is full.</source>
+        <translation>O sistema de arquivos da pasta %1 está cheio.</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -647,6 +765,14 @@ Feito com Qt %1, libburn, libisofs, ffmpeg e mpv.</translation>
     <message>
         <source>Gathering the folders</source>
         <translation>Reunindo as pastas</translation>
+    </message>
+    <message>
+        <source>--for-players goes with --burn &quot;Video DVD&quot;.</source>
+        <translation>--for-players acompanha --burn &quot;Video DVD&quot;.</translation>
+    </message>
+    <message>
+        <source>Making the titles and chapters</source>
+        <translation>Criando os títulos e capítulos</translation>
     </message>
 </context>
 <context>
@@ -745,12 +871,16 @@ Um arquivo cujo nome começa com um hífen vai depois de &quot;--&quot;.</transl
         <translation>what</translation>
     </message>
     <message>
-        <source>Files, or folders for a data disc; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
-        <translation>Arquivos, ou também pastas para um disco de dados; as faixas de um CD de áudio mantêm a ordem. Sem --burn eles são abertos na janela: músicas, filmes, pastas, uma imagem de disco ou uma lista salva.</translation>
-    </message>
-    <message>
         <source>--new-window and --action go without --burn.</source>
         <translation>--new-window e --action não acompanham --burn.</translation>
+    </message>
+    <message>
+        <source>Make a Video DVD for DVD players, with titles and chapters, whatever the video settings say.</source>
+        <translation>Criar um DVD de vídeo para aparelhos de DVD, com títulos e capítulos, não importa o que digam os ajustes de vídeo.</translation>
+    </message>
+    <message>
+        <source>Files, for a data disc also folders; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -878,6 +1008,14 @@ Um arquivo cujo nome começa com um hífen vai depois de &quot;--&quot;.</transl
     <message>
         <source>Path</source>
         <translation>Caminho</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Performer</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1025,10 +1163,6 @@ A ordem da lista é a ordem no disco.</translation>
     <message>
         <source>Video Blu-ray</source>
         <translation>Blu-ray de vídeo</translation>
-    </message>
-    <message>
-        <source>MPEG-2 clips on a Blu-ray disc: 23 hours (Alt+2)</source>
-        <translation>Clipes MPEG-2 em um disco Blu-ray: 23 horas (Alt+2)</translation>
     </message>
     <message>
         <source>Video files</source>
@@ -1486,6 +1620,42 @@ A ordem da lista é a ordem no disco.</translation>
         <source>User &amp;Guide</source>
         <translation>&amp;Guia do usuário</translation>
     </message>
+    <message>
+        <source>MPEG-2 clips on a Blu-ray disc, as files for computers and for players that play files: 23 hours (Alt+2)</source>
+        <translation>Clipes MPEG-2 em um disco Blu-ray, como arquivos para computadores e para aparelhos que tocam arquivos: 23 horas (Alt+2)</translation>
+    </message>
+    <message>
+        <source>Add O&amp;ther Files…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add files of any ending with sound, or with a film, in them, and playlists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Write Titles on Audio CDs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio CDs get the titles and performers of their tracks as CD-TEXT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type another title for the row; Tab goes on to the performer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title and &amp;Performer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the titles and performers of audio files on the list</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Measuring</name>
@@ -1535,6 +1705,13 @@ A ordem da lista é a ordem no disco.</translation>
     <message>
         <source>The file could not be opened.</source>
         <translation>Não foi possível abrir o arquivo.</translation>
+    </message>
+</context>
+<context>
+    <name>NameColumns</name>
+    <message>
+        <source>Return keeps what was typed, Escape what was there before</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1769,6 +1946,13 @@ A ordem da lista é a ordem no disco.</translation>
     <message>
         <source>%1 of %2</source>
         <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>TrackNames</name>
+    <message>
+        <source>The converted file is not complete</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2116,6 +2300,10 @@ A ordem da lista é a ordem no disco.</translation>
         <source>Writing the disc</source>
         <translation>Gravando o disco</translation>
     </message>
+    <message>
+        <source>Making the titles and chapters</source>
+        <translation>Criando os títulos e capítulos</translation>
+    </message>
 </context>
 <context>
     <name>Window_Progress</name>
@@ -2200,6 +2388,18 @@ A ordem da lista é a ordem no disco.</translation>
     <message>
         <source>&amp;MPEG-2 audio (MP2)</source>
         <translation>Áudio &amp;MPEG-2 (MP2)</translation>
+    </message>
+    <message>
+        <source>&amp;For DVD players (titles and chapters)</source>
+        <translation>Para &amp;aparelhos de DVD (títulos e capítulos)</translation>
+    </message>
+    <message>
+        <source>Video DVDs play in the player below a television, one clip after the other; without this, video discs hold files</source>
+        <translation>DVDs de vídeo tocam no aparelho da televisão, um clipe após o outro; sem isto, discos de vídeo contêm arquivos</translation>
+    </message>
+    <message>
+        <source>Concerns Video DVDs. Video Blu-ray discs always hold files.</source>
+        <translation>Diz respeito a DVDs de vídeo. Discos Blu-ray de vídeo sempre contêm arquivos.</translation>
     </message>
 </context>
 <context>
@@ -2425,6 +2625,10 @@ A ordem da lista é a ordem no disco.</translation>
     <message>
         <source>the working folder</source>
         <translation>a pasta de trabalho</translation>
+    </message>
+    <message>
+        <source>%1 could not make the titles: %2. The disc is as it was.</source>
+        <translation>%1 não conseguiu criar os títulos: %2. O disco está como estava.</translation>
     </message>
 </context>
 </TS>

@@ -217,6 +217,8 @@ void AppDelegate::offerDiscName()
     const int tab = ui->tabviewMain->currentIndex();
     const bool isList = tab < static_cast<int>(listTabs.size());
     const ProjectType *type = isList ? projects::byVariant(tab, this->*listTab(tab).variant) : nullptr;
+    constexpr int margin = 10; // below it is the bar of the gauge, or the edge of the window
+    ui->customviewDiscName->setContentsMargins(0, 0, 0, isList ? 0 : margin);
     ui->customviewDiscName->setVisible(tab == iso || (type && projects::hasDiscName(*type)));
 }
 

@@ -62,14 +62,16 @@ void OutcomeTest::linesComeInTheOrderOfImportance_data()
         QTest::newRow(name) << outcome << most << lines;
     };
     row("nothing to tell", {}, 3, {});
-    row("made", { How::Complete, {}, made, {}, {}, {}, {}, -1 }, 3, { made });
-    row("the reason before what was left out", { How::NotDone, {}, {}, {}, reason, names, {}, -1 }, 3,
+    row("made", { How::Complete, {}, made, {}, {}, {}, {}, false, {}, false, -1 }, 3, { made });
+    row("the reason before what was left out",
+        { How::NotDone, {}, {}, {}, reason, names, {}, false, {}, false, -1 }, 3,
         { reason, u"a"_s, u"b"_s, u"c"_s });
-    row("all", { How::Incomplete, {}, made, {}, reason, names, {}, -1 }, 4,
+    row("all", { How::Incomplete, {}, made, {}, reason, names, {}, false, {}, false, -1 }, 4,
         { made, reason, u"a"_s, u"b"_s, u"c"_s });
-    row("more than are shown", { How::Incomplete, {}, made, {}, {}, names, {}, -1 }, 1,
+    row("more than are shown", { How::Incomplete, {}, made, {}, {}, names, {}, false, {}, false, -1 }, 1,
         { made, u"a"_s, u"and 2 more"_s });
-    row("none is shown", { How::Incomplete, {}, {}, {}, {}, names, {}, -1 }, 0, { u"and 3 more"_s });
+    row("none is shown", { How::Incomplete, {}, {}, {}, {}, names, {}, false, {}, false, -1 }, 0,
+        { u"and 3 more"_s });
 }
 
 void OutcomeTest::linesComeInTheOrderOfImportance()

@@ -1,4 +1,5 @@
 // What the player makes of files: every kind that the lists take, and everything that is no media.
+#include "support/Share.h"
 #include "ui/preview/PreviewWindow.h"
 
 #include <QApplication>
@@ -58,13 +59,16 @@ QString PreviewFilesTest::write(const QString &name, const QByteArray &content) 
 void PreviewFilesTest::everyKindPlaysAndSeeks_data()
 {
     QTest::addColumn<QString>("name");
+    qsizetype row = 0;
     for (const char *name :
         { "sound.wma", "sound.wav", "sound.mp3", "sound.mp2", "sound.mpga", "sound.m4a", "film.wmv",
             "film.mov", "film.mpg", "film.mpeg", "film.mpe", "film.avi", "film.asf", "film.qt", "film.mp4",
             "film.mpeg-4", "film.flv", "film.ts", "film.3gp", "film.m1v", "film.m2v", "film.mjpg",
             "silent.mp4", "film-90.mp4", "film-180.mov", "film-270.3gp", "film-90.mpeg-4", "film-270.qt",
-            "film-colours.mjpg", "film-h264.mpg", "film-slices.mpeg", "film-h265.mpg", "film-mpeg4.mpg" })
-        QTest::newRow(name) << QString::fromLatin1(name);
+            "film-colours.mjpg", "film-h264.mpg", "film-slices.mpeg", "film-h265.mpg", "film-mpeg4.mpg" }) {
+        if (support::isOfThisShare(row++))
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
 }
 
 void PreviewFilesTest::everyKindPlaysAndSeeks()

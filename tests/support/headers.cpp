@@ -1,0 +1,4 @@
+// The program to which the precompiled headers of the tests belong.
+int main()
+{
+}

@@ -135,7 +135,7 @@ void forEachName(CdText &text, F change)
 /// Text in the Japanese code of CD-TEXT as UTF-8, as far as it can be read.
 std::string utf8OfMsJis(std::string text)
 {
-    const iconv_t way = iconv_open("UTF-8", "CP932");
+    iconv_t way = iconv_open("UTF-8", "CP932");
     if (way == iconv_t(-1)) // NOLINT(performance-no-int-to-ptr): how iconv_open(3) says no
         return {};
     std::string utf8(text.size() * 3, '\0');

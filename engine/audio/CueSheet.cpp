@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 #include <optional>
+#include <ranges>
 
 namespace engine::audio {
 
@@ -101,9 +102,9 @@ DiscTracks tracksOfSheet(std::string_view sheet, std::uint64_t sectors)
             disc.tracks.back().start = sectorOf(*time);
     }
     std::uint64_t end = sectors;
-    for (auto track = disc.tracks.rbegin(); track != disc.tracks.rend(); ++track) {
-        track->sectors = end - std::min(track->start, end);
-        end = track->start;
+    for (auto &track : std::views::reverse(disc.tracks)) {
+        track.sectors = end - std::min(track.start, end);
+        end = track.start;
     }
     return disc;
 }

@@ -69,7 +69,7 @@ Result<std::size_t> DiscStream::read(std::span<std::byte> buffer)
 {
     std::size_t done = fillWithSilence(buffer, m_pause);
     while (done < buffer.size() && m_current < m_tracks.size()) {
-        const auto got = m_tracks[m_current].read(buffer.subspan(done));
+        auto got = m_tracks[m_current].read(buffer.subspan(done));
         if (!got)
             return got;
         done += *got;

@@ -270,7 +270,8 @@ void ActivityLogTest::takesEntriesFromAllThreads()
     constexpr int notes = threads * runs / 50;
     QCOMPARE(log.size(), threads * runs + notes);
     QCOMPARE(changes.load(), 4 * threads * runs + notes);
-    for (qsizetype i = 0; i < log.size(); ++i) {
+    for (qsizetype i = 0; i < log.size();
+         ++i) { // NOLINT(modernize-loop-convert): its begin() and end() are those of a run
         const Activity activity = log.at(i);
         if (!activity.command.isEmpty())
             QCOMPARE(activity.output, activity.command.at(1).toLatin1() + '\n');

@@ -429,6 +429,36 @@ private Q_SLOTS:
         QCOMPARE(shown.last(), u"<b>photos (2 of 2)"_s);
     }
 
+    void roomIsAskedForBeforeAnythingIsGathered_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::newRow("closed") << 0;
+        QTest::newRow("gone on") << 1;
+    }
+    void roomIsAskedForBeforeAnythingIsGathered()
+    {
+        QFETCH(int, button);
+        JobApplication app;
+        app.launch();
+        app.choose(6);
+        // On a file system that shares its blocks with no other one.
+        app.controller->arrayDataFolders = { { u"/sys/class/net/lo"_s, 1'000'000'000'000, {} } };
+        app.asked.buttons = { button };
+        app.press("btnBurn");
+        QCOMPARE(app.asked.alerts.size(), 1);
+        const Alert asked = app.asked.alerts.first();
+        QCOMPARE(asked.message, u"There is not enough room to gather the folders"_s);
+        QVERIFY2(asked.informative.contains(app.controller->s_Data_Folder)
+                && asked.informative.contains(QRegularExpression(u" has \\d+\\.\\d\\d TB too little"_s)),
+            qUtf8Printable(asked.informative));
+        if (button == 0)
+            QVERIFY(!app.controller->isJobPending());
+        else
+            QVERIFY(app.completes());
+        QCOMPARE(app.drutil.runs(u"burn"_s).size(), button);
+        QCOMPARE(app.namesIn(app.controller->s_Data_Folder), QStringList());
+    }
+
     void theListedFolderIsNeverTouched()
     {
         JobApplication app;

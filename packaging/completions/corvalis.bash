@@ -1,9 +1,10 @@
 # bash completion for corvalis: options, kinds of disc, files by kind.
 
-# The kinds of disc, and the endings of the files that go on each, as an extended pattern.
+# The kinds of disc, and the usual endings of the files that go on each; playlists as well. Others are taken, too, but would
+# offer every file of a folder.
 _corvalis_kinds=("Audio CD" "MP3 CD" "MP3 DVD" "Video DVD" "Video Blu-ray" "Data CD" "Data DVD" "Data Blu-ray")
-_corvalis_audio='wma|wav|cda|mp3|mp2|mpga|m4a'
-_corvalis_video='wmv|mov|mpg|mpeg|mpe|avi|asf|asx|qt|mp4|mpeg-4|flv|ts|3gp|fli|m1v|m2v|mjpg'
+_corvalis_audio='wma|wav|cda|mp3|mp2|mpga|m4a|aac|ac3|aif|aiff|ape|flac|m4b|mka|oga|ogg|opus|wv|m3u|m3u8|pls|xspf'
+_corvalis_video='wmv|mov|mpg|mpeg|mpe|avi|asf|asx|qt|mp4|mpeg-4|flv|ts|3gp|fli|m1v|m2v|mjpg|m2ts|m4v|mkv|mts|ogv|vob|webm|m3u|m3u8|pls|xspf'
 
 # _corvalis_bare WORD: without the quotes and backslashes that it was typed with. Nothing of it is run.
 _corvalis_bare() { printf '%s' "${1//[\\\"\']/}"; }

@@ -1,7 +1,7 @@
 # fish completion for corvalis: options, kinds of disc, files by kind.
 
-set -l audio wma wav cda mp3 mp2 mpga m4a
-set -l video wmv mov mpg mpeg mpe avi asf asx qt mp4 mpeg-4 flv ts 3gp fli m1v m2v mjpg
+set -l audio wma wav cda mp3 mp2 mpga m4a aac ac3 aif aiff ape flac m4b mka oga ogg opus wv m3u m3u8 pls xspf
+set -l video wmv mov mpg mpeg mpe avi asf asx qt mp4 mpeg-4 flv ts 3gp fli m1v m2v mjpg m2ts m4v mkv mts ogv vob webm m3u m3u8 pls xspf
 
 # The files and folders whose names begin as the current word does and that go on what the words before it name.
 function __corvalis_files -V audio -V video

@@ -3,6 +3,8 @@
 #include "app/AppDelegate.h"
 #include "app/MainWindow.h"
 #include "app/Window_Activity_Log.h"
+#include "desktop/Opening.h"
+#include "kit/SheetStage.h"
 #include "support/Person.h"
 #include "ui/ColourWell.h"
 #include "ui/PreviewPlayer.h"
@@ -200,9 +202,21 @@ private:
         shoot(u"data"_s);
         ui()->submenuItemTabISO->trigger();
         shoot(u"iso"_s);
+        takeOpenedImage();
         ui()->submenuItemTabTools->trigger();
         shoot(u"tools"_s);
         ui()->submenuItemTabAudio->trigger();
+    }
+
+    void takeOpenedImage()
+    {
+        desktop::Opening opening(&m_controller);
+        opening.open(
+            { { QUrl::fromLocalFile(QFileInfo(m_media).dir().filePath(u"Holidays 2026.iso"_s)) }, {} });
+        waitFor([this] { return m_window.stage()->isOccupied(); }, 10'000);
+        shoot(u"opened-image"_s);
+        QTest::keyClick(m_window.windowHandle(), Qt::Key_Escape);
+        QTest::qWait(100);
     }
 
     void takeSheets()

@@ -11,6 +11,8 @@
 
 #include <QTimer>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace desktop {

@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QTextLayout>
 
 namespace {
@@ -189,6 +190,11 @@ QSize BarButton::minimumSizeHint() const
     return { 220, qMax(cardIcon, QFontMetrics(headingFont()).height() * 3) + 24 };
 }
 
+QRect BarButton::mirrored(const QRect &where) const
+{
+    return QStyle::visualRect(layoutDirection(), rect(), where);
+}
+
 void BarButton::paintSymbol(QPainter &painter, const QRect &where, const QColor &colour) const
 {
     if (!m_symbol.isEmpty())
@@ -234,9 +240,9 @@ void BarButton::paintSymbolBesideText(QPainter &painter, const QColor &text) con
         painter.fontMetrics().elidedText(this->text(), Qt::ElideRight, width() - iconWidth - 16);
     const int textWidth = painter.fontMetrics().horizontalAdvance(shown);
     const int left = (width() - iconWidth - textWidth) / 2;
-    paintSymbol(painter, { left, (height() - toolIcon) / 2, toolIcon, toolIcon }, text);
+    paintSymbol(painter, mirrored({ left, (height() - toolIcon) / 2, toolIcon, toolIcon }), text);
     painter.drawText(
-        QRect(left + iconWidth, 0, textWidth + 1, height()), Qt::AlignVCenter | Qt::AlignLeft, shown);
+        mirrored({ left + iconWidth, 0, textWidth + 1, height() }), Qt::AlignVCenter | Qt::AlignLeft, shown);
 }
 
 QStringList BarButton::descriptionLines(int width, int most) const
@@ -273,17 +279,17 @@ void BarButton::paintCard(QPainter &painter, const QColor &text) const
     const QStringList lines = descriptionLines(room.width(), (room.height() - headingHeight) / lineHeight);
     int top = (height() - above - headingHeight - lineHeight * static_cast<int>(lines.size())) / 2;
     const QPoint corner = tall ? QPoint((width() - icon) / 2, top) : QPoint(margin, (height() - icon) / 2);
-    paintSymbol(painter, { corner, QSize(icon, icon) }, text);
+    paintSymbol(painter, mirrored({ corner, QSize(icon, icon) }), text);
     top += above;
     const auto place =
         static_cast<int>(tall ? Qt::AlignHCenter | Qt::AlignTop : Qt::AlignLeft | Qt::AlignTop);
-    painter.drawText(QRect(left, top, room.width(), headingHeight), place,
+    painter.drawText(mirrored({ left, top, room.width(), headingHeight }), place,
         painter.fontMetrics().elidedText(this->text(), Qt::ElideRight, room.width()));
     top += headingHeight;
     painter.setFont(font());
     painter.setPen(withAlpha(text, isEnabled() ? 0.85 : 0.4));
     for (const QString &line : lines) {
-        painter.drawText(QRect(left, top, room.width(), lineHeight), place, line.trimmed());
+        painter.drawText(mirrored({ left, top, room.width(), lineHeight }), place, line.trimmed());
         top += lineHeight;
     }
 }

@@ -52,6 +52,8 @@ protected:
 private:
     void paintBackground(QPainter &painter, const QColor &text) const;
     void paintCard(QPainter &painter, const QColor &text) const;
+    /// The place itself, or the one opposite where windows are read from right to left.
+    QRect mirrored(const QRect &where) const;
     /// The description in lines of this width, at most so many; of the last one, what has no room is left out.
     QStringList descriptionLines(int width, int most) const;
     void paintSymbolOverText(QPainter &painter, const QColor &text) const;

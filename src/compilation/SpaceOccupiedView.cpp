@@ -6,6 +6,7 @@
 #include <QAccessibleWidget>
 #include <QLinearGradient>
 #include <QPainter>
+#include <QStyle>
 
 namespace {
 
@@ -82,6 +83,10 @@ void SpaceOccupiedView::paintEvent(QPaintEvent *event)
     ground.setColorAt(1, Qt::black);
     painter.fillRect(rect(), ground);
     const compilation::GaugeBars bars = compilation::gaugeBars(m_percentage, width());
-    painter.fillRect(0, 0, bars.bar, height(), m_colour ? m_colour() : QColor());
-    painter.fillRect(bars.bar, 0, bars.red, height(), QColor(255, 0, 0));
+    const auto fill = [&](int from, int columns, const QColor &colour) {
+        const QRect bar(from, 0, columns, height());
+        painter.fillRect(QStyle::visualRect(layoutDirection(), rect(), bar), colour);
+    };
+    fill(0, bars.bar, m_colour ? m_colour() : QColor());
+    fill(bars.bar, bars.red, QColor(255, 0, 0));
 }

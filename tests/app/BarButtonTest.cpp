@@ -53,6 +53,7 @@ private Q_SLOTS:
     void cardKeepsItsHeading();
     void cardTellsAllWhereItHasRoom();
     void labelIsNotCut();
+    void symbolStandsWhereReadingBegins();
 };
 
 void BarButtonTest::nothingIsCut_data()
@@ -124,6 +125,25 @@ void BarButtonTest::labelIsNotCut()
     const int right = picture.width() - 1;
     QVERIFY(isBlank(picture, { right, 0 }, { right, picture.height() - 1 }));
     QVERIFY(isInked(&label, label.rect()));
+}
+
+void BarButtonTest::symbolStandsWhereReadingBegins()
+{
+    BarButton card, none;
+    for (BarButton *button : { &card, &none }) {
+        button->setLook(BarButton::Look::Card);
+        button->setFixedSize(320, 80);
+    }
+    card.setSymbol(u"burn"_s);
+    const QImage blank = none.grab().toImage();
+    const auto isDrawn = [&](int from) {
+        const QRect half(from, 0, 160, 80);
+        return card.grab().toImage().copy(half) != blank.copy(half);
+    };
+    card.setLayoutDirection(Qt::LeftToRight);
+    QVERIFY(isDrawn(0) && !isDrawn(160));
+    card.setLayoutDirection(Qt::RightToLeft);
+    QVERIFY(!isDrawn(0) && isDrawn(160));
 }
 
 QTEST_MAIN(BarButtonTest)

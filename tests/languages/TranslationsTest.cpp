@@ -1,5 +1,6 @@
 // The files of the translations, and which of them is chosen.
 #include "app/Languages.h"
+#include "compilation/SpaceOccupiedView.h"
 #include "languages/TranslationFile.h"
 #include "runner/TimeLeft.h"
 #include "support/TestApplication.h"
@@ -65,6 +66,7 @@ private Q_SLOTS:
     void areChosen_data();
     void areChosen();
     void directionFollows();
+    void gaugeFillsFromWhereReadingBegins();
     void programSpeaks_data();
     void programSpeaks();
 
@@ -164,6 +166,19 @@ void TranslationsTest::directionFollows()
     forget();
     QCOMPARE(text, u"פחות מדקה"_s);
     QCOMPARE(direction, Qt::RightToLeft);
+}
+
+void TranslationsTest::gaugeFillsFromWhereReadingBegins()
+{
+    SpaceOccupiedView gauge;
+    gauge.setColourSource([] { return QColor(Qt::blue); });
+    gauge.setI_Percentage(95);
+    gauge.setFixedSize(200, 20);
+    gauge.setLayoutDirection(Qt::LeftToRight);
+    const QImage fromLeft = gauge.grab().toImage();
+    gauge.setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(fromLeft.pixelColor(5, 10), QColor(Qt::blue));
+    QCOMPARE(gauge.grab().toImage().mirrored(true, false), fromLeft);
 }
 
 void TranslationsTest::programSpeaks_data()

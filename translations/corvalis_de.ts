@@ -120,39 +120,39 @@
     </message>
     <message>
         <source>This list takes files that end in %1, and any others with sound in them. ffmpeg finds none in these.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Liste nimmt Dateien auf, die auf %1 enden, und alle anderen, in denen Ton ist. In diesen findet ffmpeg keinen.</translation>
     </message>
     <message>
         <source>This list takes files that end in %1, and any others with a film in them. ffmpeg finds none in these.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Liste nimmt Dateien auf, die auf %1 enden, und alle anderen, in denen ein Film ist. In diesen findet ffmpeg keinen.</translation>
     </message>
     <message>
         <source>ffmpeg finds no sound in any file in these folders or below.</source>
-        <translation type="unfinished"></translation>
+        <translation>In keiner Datei in diesen Ordnern oder darunter findet ffmpeg Ton.</translation>
     </message>
     <message>
         <source>ffmpeg finds no film in any file in these folders or below.</source>
-        <translation type="unfinished"></translation>
+        <translation>In keiner Datei in diesen Ordnern oder darunter findet ffmpeg einen Film.</translation>
     </message>
     <message>
         <source>These are playlists and folders that a playlist names, and those are not followed. Add them themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das sind Wiedergabelisten und Ordner, die eine Wiedergabeliste nennt, und denen wird nicht gefolgt. Fügen Sie sie selbst hinzu.</translation>
     </message>
     <message>
         <source>These playlists name no files, or they are damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Wiedergabelisten nennen keine Dateien oder sind beschädigt.</translation>
     </message>
     <message>
         <source>These playlists name more than 100,000 files. Only so many were taken, the first ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Wiedergabelisten nennen mehr als 100.000 Dateien. Nur so viele wurden genommen, die ersten.</translation>
     </message>
     <message>
         <source>These files are too large for playlists, which have up to 32 MB.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Dateien sind zu groß für Wiedergabelisten, die bis zu 32 MB haben.</translation>
     </message>
     <message>
         <source>There are more than 100,000 files below these folders. Only so many were taken, the first ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterhalb dieser Ordner liegen mehr als 100.000 Dateien. Nur so viele wurden genommen, die ersten.</translation>
     </message>
 </context>
 <context>
@@ -659,31 +659,31 @@ Erstellt mit Qt %1, libburn, libisofs, ffmpeg und mpv.</translation>
     </message>
     <message>
         <source>Add any files with sound, and playlists, to the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Beliebige Dateien mit Ton und Wiedergabelisten zur Liste hinzufügen</translation>
     </message>
     <message>
         <source>Add any films, and playlists, to the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Beliebige Filme und Wiedergabelisten zur Liste hinzufügen</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>und %1 weitere</translation>
     </message>
     <message>
         <source>Not all of these files can be on one disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht alle diese Dateien können auf einer Disc sein</translation>
     </message>
     <message>
         <source>Their names differ in the folder or the ending only. The first of each name on the list is written and the others are left out. Rename them, or take them off the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Namen unterscheiden sich nur im Ordner oder in der Endung. Von jedem Namen wird der erste in der Liste gebrannt, die anderen werden ausgelassen. Benennen Sie sie um oder nehmen Sie sie aus der Liste.</translation>
     </message>
     <message>
         <source>The title and the performer of “%1” are not on the disc as they are on the list: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel und Interpret von „%1“ stehen nicht so auf der Disc wie in der Liste: %2.</translation>
     </message>
     <message>
         <source>The names of a track could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Namen eines Titels konnten nicht geschrieben werden</translation>
     </message>
     <message>
         <source>The program dvdauthor is missing</source>
@@ -700,8 +700,8 @@ Erstellt mit Qt %1, libburn, libisofs, ffmpeg und mpv.</translation>
     <message numerus="yes">
         <source>A DVD for players has room for 99 titles, and there are %Ln clip(s) on the list. Take some off and try again.</source>
         <translation>
-            <numerusform>Eine DVD für Player hat Platz für 99 Titel, und auf der Liste steht %Ln Clip. Nehmen Sie einige heraus und versuchen Sie es erneut.</numerusform>
-            <numerusform>Eine DVD für Player hat Platz für 99 Titel, und auf der Liste stehen %Ln Clips. Nehmen Sie einige heraus und versuchen Sie es erneut.</numerusform>
+            <numerusform>Eine DVD für Player hat Platz für 99 Titel, und in der Liste steht %Ln Clip. Nehmen Sie einige heraus und versuchen Sie es erneut.</numerusform>
+            <numerusform>Eine DVD für Player hat Platz für 99 Titel, und in der Liste stehen %Ln Clips. Nehmen Sie einige heraus und versuchen Sie es erneut.</numerusform>
         </translation>
     </message>
     <message>
@@ -710,11 +710,11 @@ Erstellt mit Qt %1, libburn, libisofs, ffmpeg und mpv.</translation>
     </message>
     <message>
         <source>A disc is prepared in the folder %1. That may take %2 for these clips, and its file system has %3 left. Free some room and try again, or go on: a clip that finds no room will not be on the disc.</source>
-        <translation>Die Disc wird im Ordner %1 vorbereitet. Das kann für diese Clips %2 brauchen, und auf dessen Dateisystem sind %3 frei. Schaffen Sie Platz und versuchen Sie es erneut, oder fahren Sie fort: Ein Clip, der keinen Platz findet, kommt nicht auf die Disc.</translation>
+        <translation>Die Disc wird im Ordner %1 vorbereitet. Für diese Clips kann das %2 brauchen, und auf seinem Dateisystem sind noch %3 frei. Schaffen Sie Platz und versuchen Sie es erneut, oder fahren Sie fort: Ein Clip, der keinen Platz findet, kommt nicht auf die Disc.</translation>
     </message>
     <message>
         <source>%1: there is no picture in it.</source>
-        <translation>%1: Es ist kein Bild darin.</translation>
+        <translation>%1: Es enthält kein Bild.</translation>
     </message>
     <message>
         <source>%1: its picture could not be read.</source>
@@ -726,13 +726,13 @@ Erstellt mit Qt %1, libburn, libisofs, ffmpeg und mpv.</translation>
     </message>
     <message>
         <source>dvdauthor told nothing for a long time and was ended.</source>
-        <translation>dvdauthor hat lange nichts gemeldet und wurde beendet.</translation>
+        <translation>dvdauthor meldete lange nichts und wurde beendet.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln title(s)</source>
         <translation>
-            <numerusform>%Ln Titel</numerusform>
-            <numerusform>%Ln Titel</numerusform>
+            <numerusform>%Ln DVD-Titel</numerusform>
+            <numerusform>%Ln DVD-Titel</numerusform>
         </translation>
     </message>
     <message>
@@ -765,6 +765,22 @@ Erstellt mit Qt %1, libburn, libisofs, ffmpeg und mpv.</translation>
     <message>
         <source>Gathering the folders</source>
         <translation>Die Ordner werden zusammengestellt</translation>
+    </message>
+    <message>
+        <source>%1: the name is not valid UTF-8 text. Rename the file and try again.</source>
+        <translation>%1: Der Name ist kein gültiger UTF-8-Text. Benennen Sie die Datei um und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no sound in it.</source>
+        <translation>%1 ist keine Datei, die auf diese Disc kommen kann. Möglich sind: %2. ffmpeg findet keinen Ton darin.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no film in it.</source>
+        <translation>%1 ist keine Datei, die auf diese Disc kommen kann. Möglich sind: %2. ffmpeg findet keinen Film darin.</translation>
     </message>
     <message>
         <source>--for-players goes with --burn &quot;Video DVD&quot;.</source>
@@ -876,11 +892,11 @@ Eine Datei, deren Name mit einem Strich beginnt, steht hinter &quot;--&quot;.</t
     </message>
     <message>
         <source>Make a Video DVD for DVD players, with titles and chapters, whatever the video settings say.</source>
-        <translation>Eine Video-DVD für DVD-Player erstellen, mit Titeln und Kapiteln, was immer die Videoeinstellungen sagen.</translation>
+        <translation>Eine Video-DVD für DVD-Player mit Titeln und Kapiteln erstellen, was immer die Videoeinstellungen sagen.</translation>
     </message>
     <message>
         <source>Files, for a data disc also folders; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien, für eine Daten-Disc auch Ordner; die Titel einer Audio-CD behalten ihre Reihenfolge. Ohne --burn werden sie im Fenster geöffnet: Musik, Filme, Ordner, ein Disc-Abbild oder eine gespeicherte Liste.</translation>
     </message>
 </context>
 <context>
@@ -1011,11 +1027,11 @@ Eine Datei, deren Name mit einem Strich beginnt, steht hinter &quot;--&quot;.</t
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Performer</source>
-        <translation type="unfinished"></translation>
+        <translation>Interpret</translation>
     </message>
 </context>
 <context>
@@ -1622,39 +1638,39 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     </message>
     <message>
         <source>MPEG-2 clips on a Blu-ray disc, as files for computers and for players that play files: 23 hours (Alt+2)</source>
-        <translation>MPEG-2-Clips auf einer Blu-ray-Disc, als Dateien für Computer und für Player, die Dateien abspielen: 23 Stunden (Alt+2)</translation>
+        <translation>MPEG-2-Clips auf einer Blu-ray-Disc, als Dateien für Rechner und für Player, die Dateien abspielen: 23 Stunden (Alt+2)</translation>
     </message>
     <message>
         <source>Add O&amp;ther Files…</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ndere Dateien hinzufügen…</translation>
     </message>
     <message>
         <source>Add files of any ending with sound, or with a film, in them, and playlists</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien jeder Endung mit Ton oder einem Film darin und Wiedergabelisten hinzufügen</translation>
     </message>
     <message>
         <source>&amp;Write Titles on Audio CDs</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel auf Audio-CDs &amp;schreiben</translation>
     </message>
     <message>
         <source>Audio CDs get the titles and performers of their tracks as CD-TEXT</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio-CDs erhalten Titel und Interpreten ihrer Stücke als CD-TEXT</translation>
     </message>
     <message>
         <source>&amp;Edit Title</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Titel bearbeiten</translation>
     </message>
     <message>
         <source>Type another title for the row; Tab goes on to the performer</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen anderen Titel für die Zeile eingeben; Tab führt weiter zum Interpreten</translation>
     </message>
     <message>
         <source>Title and &amp;Performer</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel und Inter&amp;pret</translation>
     </message>
     <message>
         <source>Show the titles and performers of audio files on the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel und Interpreten der Audiodateien in der Liste zeigen</translation>
     </message>
 </context>
 <context>
@@ -1711,7 +1727,7 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     <name>NameColumns</name>
     <message>
         <source>Return keeps what was typed, Escape what was there before</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Eingabetaste behält das Eingegebene, Esc das Vorherige</translation>
     </message>
 </context>
 <context>
@@ -1952,7 +1968,7 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     <name>TrackNames</name>
     <message>
         <source>The converted file is not complete</source>
-        <translation type="unfinished"></translation>
+        <translation>Die umgewandelte Datei ist nicht vollständig</translation>
     </message>
 </context>
 <context>
@@ -2399,7 +2415,7 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     </message>
     <message>
         <source>Concerns Video DVDs. Video Blu-ray discs always hold files.</source>
-        <translation>Betrifft Video-DVDs. Video-Blu-rays enthalten immer Dateien.</translation>
+        <translation>Betrifft Video-DVDs. Video-Blu-ray-Discs enthalten immer Dateien.</translation>
     </message>
 </context>
 <context>

@@ -120,39 +120,39 @@
     </message>
     <message>
         <source>This list takes files that end in %1, and any others with sound in them. ffmpeg finds none in these.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta lista admite archivos que terminan en %1 y cualquier otro que tenga sonido. En estos ffmpeg no lo encuentra.</translation>
     </message>
     <message>
         <source>This list takes files that end in %1, and any others with a film in them. ffmpeg finds none in these.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta lista admite archivos que terminan en %1 y cualquier otro que tenga una película. En estos ffmpeg no la encuentra.</translation>
     </message>
     <message>
         <source>ffmpeg finds no sound in any file in these folders or below.</source>
-        <translation type="unfinished"></translation>
+        <translation>ffmpeg no encuentra sonido en ningún archivo de estas carpetas ni de sus subcarpetas.</translation>
     </message>
     <message>
         <source>ffmpeg finds no film in any file in these folders or below.</source>
-        <translation type="unfinished"></translation>
+        <translation>ffmpeg no encuentra ninguna película en los archivos de estas carpetas ni de sus subcarpetas.</translation>
     </message>
     <message>
         <source>These are playlists and folders that a playlist names, and those are not followed. Add them themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Son listas de reproducción y carpetas nombradas en una lista de reproducción, y esas no se siguen. Añádalas directamente.</translation>
     </message>
     <message>
         <source>These playlists name no files, or they are damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estas listas de reproducción no nombran ningún archivo o están dañadas.</translation>
     </message>
     <message>
         <source>These playlists name more than 100,000 files. Only so many were taken, the first ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estas listas de reproducción nombran más de 100.000 archivos. Solo se tomaron los primeros, hasta ese número.</translation>
     </message>
     <message>
         <source>These files are too large for playlists, which have up to 32 MB.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estos archivos son demasiado grandes para ser listas de reproducción, que tienen hasta 32 MB.</translation>
     </message>
     <message>
         <source>There are more than 100,000 files below these folders. Only so many were taken, the first ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay más de 100.000 archivos dentro de estas carpetas. Solo se tomaron los primeros, hasta ese número.</translation>
     </message>
 </context>
 <context>
@@ -659,31 +659,31 @@ Hecho con Qt %1, libburn, libisofs, ffmpeg y mpv.</translation>
     </message>
     <message>
         <source>Add any files with sound, and playlists, to the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir a la lista cualquier archivo con sonido y listas de reproducción</translation>
     </message>
     <message>
         <source>Add any films, and playlists, to the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir a la lista cualquier película y listas de reproducción</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>y %1 más</translation>
     </message>
     <message>
         <source>Not all of these files can be on one disc</source>
-        <translation type="unfinished"></translation>
+        <translation>No todos estos archivos pueden estar en un mismo disco</translation>
     </message>
     <message>
         <source>Their names differ in the folder or the ending only. The first of each name on the list is written and the others are left out. Rename them, or take them off the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sus nombres solo se distinguen en la carpeta o en la extensión. Se graba el primero de cada nombre en la lista y se omiten los demás. Cámbieles el nombre o quítelos de la lista.</translation>
     </message>
     <message>
         <source>The title and the performer of “%1” are not on the disc as they are on the list: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>El título y el intérprete de «%1» no están en el disco como en la lista: %2.</translation>
     </message>
     <message>
         <source>The names of a track could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron escribir los nombres de una pista</translation>
     </message>
     <message>
         <source>The program dvdauthor is missing</source>
@@ -691,7 +691,7 @@ Hecho con Qt %1, libburn, libisofs, ffmpeg y mpv.</translation>
     </message>
     <message>
         <source>It makes the titles of a DVD for players. Install the package “dvdauthor” and try again, or switch “For DVD players” off in the video settings; the disc then holds files.</source>
-        <translation>Crea los títulos de un DVD para reproductores. Instale el paquete «dvdauthor» e inténtelo de nuevo, o desactive «Para reproductores de DVD» en los ajustes de vídeo; el disco contendrá entonces archivos.</translation>
+        <translation>Crea los títulos de un DVD para reproductores. Instale el paquete «dvdauthor» y vuelva a intentarlo, o desactive «Para reproductores de DVD» en los ajustes de vídeo; el disco contendrá entonces archivos.</translation>
     </message>
     <message>
         <source>Too many clips for one DVD</source>
@@ -700,8 +700,8 @@ Hecho con Qt %1, libburn, libisofs, ffmpeg y mpv.</translation>
     <message numerus="yes">
         <source>A DVD for players has room for 99 titles, and there are %Ln clip(s) on the list. Take some off and try again.</source>
         <translation>
-            <numerusform>Un DVD para reproductores admite 99 títulos, y hay %Ln clip en la lista. Quite algunos e inténtelo de nuevo.</numerusform>
-            <numerusform>Un DVD para reproductores admite 99 títulos, y hay %Ln clips en la lista. Quite algunos e inténtelo de nuevo.</numerusform>
+            <numerusform>En un DVD para reproductores caben 99 títulos, y en la lista hay %Ln clip. Quite algunos y vuelva a intentarlo.</numerusform>
+            <numerusform>En un DVD para reproductores caben 99 títulos, y en la lista hay %Ln clips. Quite algunos y vuelva a intentarlo.</numerusform>
         </translation>
     </message>
     <message>
@@ -710,7 +710,7 @@ Hecho con Qt %1, libburn, libisofs, ffmpeg y mpv.</translation>
     </message>
     <message>
         <source>A disc is prepared in the folder %1. That may take %2 for these clips, and its file system has %3 left. Free some room and try again, or go on: a clip that finds no room will not be on the disc.</source>
-        <translation>El disco se prepara en la carpeta %1. Para estos clips puede necesitar %2, y en su sistema de archivos quedan %3. Libere espacio e inténtelo de nuevo, o continúe: un clip que no encuentre espacio no estará en el disco.</translation>
+        <translation>El disco se prepara en la carpeta %1. Estos clips pueden necesitar %2, y en su sistema de archivos quedan %3. Libere espacio y vuelva a intentarlo, o continúe: un clip que no quepa no estará en el disco.</translation>
     </message>
     <message>
         <source>%1: there is no picture in it.</source>
@@ -765,6 +765,22 @@ Hecho con Qt %1, libburn, libisofs, ffmpeg y mpv.</translation>
     <message>
         <source>Gathering the folders</source>
         <translation>Reuniendo las carpetas</translation>
+    </message>
+    <message>
+        <source>%1: the name is not valid UTF-8 text. Rename the file and try again.</source>
+        <translation>%1: el nombre no es texto UTF-8 válido. Cambie el nombre del archivo y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no sound in it.</source>
+        <translation>%1 no es un archivo que este disco pueda llevar. Se admiten: %2. ffmpeg no encuentra sonido en él.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no film in it.</source>
+        <translation>%1 no es un archivo que este disco pueda llevar. Se admiten: %2. ffmpeg no encuentra ninguna película en él.</translation>
     </message>
     <message>
         <source>--for-players goes with --burn &quot;Video DVD&quot;.</source>
@@ -880,7 +896,7 @@ Un archivo cuyo nombre empieza por un guion va detrás de &quot;--&quot;.</trans
     </message>
     <message>
         <source>Files, for a data disc also folders; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos, o también carpetas para un disco de datos; las pistas de un CD de audio conservan su orden. Sin --burn se abren en la ventana: música, películas, carpetas, una imagen de disco o una lista guardada.</translation>
     </message>
 </context>
 <context>
@@ -1011,11 +1027,11 @@ Un archivo cuyo nombre empieza por un guion va detrás de &quot;--&quot;.</trans
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
     <message>
         <source>Performer</source>
-        <translation type="unfinished"></translation>
+        <translation>Intérprete</translation>
     </message>
 </context>
 <context>
@@ -1622,39 +1638,39 @@ El orden de la lista es el orden en el disco.</translation>
     </message>
     <message>
         <source>MPEG-2 clips on a Blu-ray disc, as files for computers and for players that play files: 23 hours (Alt+2)</source>
-        <translation>Clips MPEG-2 en un disco Blu-ray, como archivos para ordenadores y para reproductores que leen archivos: 23 horas (Alt+2)</translation>
+        <translation>Clips MPEG-2 en un disco Blu-ray, como archivos para equipos y reproductores que leen archivos: 23 horas (Alt+2)</translation>
     </message>
     <message>
         <source>Add O&amp;ther Files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir o&amp;tros archivos…</translation>
     </message>
     <message>
         <source>Add files of any ending with sound, or with a film, in them, and playlists</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir archivos de cualquier extensión con sonido o una película y listas de reproducción</translation>
     </message>
     <message>
         <source>&amp;Write Titles on Audio CDs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Escribir los títulos en los CD de audio</translation>
     </message>
     <message>
         <source>Audio CDs get the titles and performers of their tracks as CD-TEXT</source>
-        <translation type="unfinished"></translation>
+        <translation>Los CD de audio reciben los títulos e intérpretes de sus pistas como CD-TEXT</translation>
     </message>
     <message>
         <source>&amp;Edit Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar tít&amp;ulo</translation>
     </message>
     <message>
         <source>Type another title for the row; Tab goes on to the performer</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribir otro título para la fila; Tab pasa al intérprete</translation>
     </message>
     <message>
         <source>Title and &amp;Performer</source>
-        <translation type="unfinished"></translation>
+        <translation>Título e intér&amp;prete</translation>
     </message>
     <message>
         <source>Show the titles and performers of audio files on the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar en la lista los títulos e intérpretes de los archivos de audio</translation>
     </message>
 </context>
 <context>
@@ -1711,7 +1727,7 @@ El orden de la lista es el orden en el disco.</translation>
     <name>NameColumns</name>
     <message>
         <source>Return keeps what was typed, Escape what was there before</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro conserva lo escrito, Esc lo que había antes</translation>
     </message>
 </context>
 <context>
@@ -1952,7 +1968,7 @@ El orden de la lista es el orden en el disco.</translation>
     <name>TrackNames</name>
     <message>
         <source>The converted file is not complete</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo convertido no está completo</translation>
     </message>
 </context>
 <context>
@@ -2391,15 +2407,15 @@ El orden de la lista es el orden en el disco.</translation>
     </message>
     <message>
         <source>&amp;For DVD players (titles and chapters)</source>
-        <translation>Para &amp;reproductores de DVD (títulos y capítulos)</translation>
+        <translation>Pa&amp;ra reproductores de DVD (títulos y capítulos)</translation>
     </message>
     <message>
         <source>Video DVDs play in the player below a television, one clip after the other; without this, video discs hold files</source>
-        <translation>Los DVD de vídeo se ven en el reproductor del televisor, un clip tras otro; sin esto, los discos de vídeo contienen archivos</translation>
+        <translation>Los DVD de vídeo se reproducen en el reproductor del televisor, un clip tras otro; sin esto, los discos de vídeo contienen archivos</translation>
     </message>
     <message>
         <source>Concerns Video DVDs. Video Blu-ray discs always hold files.</source>
-        <translation>Afecta a los DVD de vídeo. Los Blu-ray de vídeo siempre contienen archivos.</translation>
+        <translation>Se refiere a los DVD de vídeo. Los discos Blu-ray de vídeo contienen siempre archivos.</translation>
     </message>
 </context>
 <context>

@@ -120,39 +120,39 @@
     </message>
     <message>
         <source>This list takes files that end in %1, and any others with sound in them. ffmpeg finds none in these.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette liste accepte les fichiers qui se terminent par %1 et tous ceux qui contiennent du son. ffmpeg n’en trouve pas dans ceux-ci.</translation>
     </message>
     <message>
         <source>This list takes files that end in %1, and any others with a film in them. ffmpeg finds none in these.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette liste accepte les fichiers qui se terminent par %1 et tous ceux qui contiennent un film. ffmpeg n’en trouve pas dans ceux-ci.</translation>
     </message>
     <message>
         <source>ffmpeg finds no sound in any file in these folders or below.</source>
-        <translation type="unfinished"></translation>
+        <translation>ffmpeg ne trouve de son dans aucun fichier de ces dossiers ni de leurs sous-dossiers.</translation>
     </message>
     <message>
         <source>ffmpeg finds no film in any file in these folders or below.</source>
-        <translation type="unfinished"></translation>
+        <translation>ffmpeg ne trouve de film dans aucun fichier de ces dossiers ni de leurs sous-dossiers.</translation>
     </message>
     <message>
         <source>These are playlists and folders that a playlist names, and those are not followed. Add them themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce sont des listes de lecture et des dossiers cités par une liste de lecture, et ceux-là ne sont pas suivis. Ajoutez-les eux-mêmes.</translation>
     </message>
     <message>
         <source>These playlists name no files, or they are damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces listes de lecture ne citent aucun fichier, ou elles sont endommagées.</translation>
     </message>
     <message>
         <source>These playlists name more than 100,000 files. Only so many were taken, the first ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces listes de lecture citent plus de 100 000 fichiers. Seuls les premiers, jusqu’à ce nombre, ont été pris.</translation>
     </message>
     <message>
         <source>These files are too large for playlists, which have up to 32 MB.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces fichiers sont trop grands pour des listes de lecture, qui font au plus 32 MB.</translation>
     </message>
     <message>
         <source>There are more than 100,000 files below these folders. Only so many were taken, the first ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a plus de 100 000 fichiers sous ces dossiers. Seuls les premiers, jusqu’à ce nombre, ont été pris.</translation>
     </message>
 </context>
 <context>
@@ -659,62 +659,62 @@ Construit avec Qt %1, libburn, libisofs, ffmpeg et mpv.</translation>
     </message>
     <message>
         <source>Add any files with sound, and playlists, to the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter à la liste tout fichier contenant du son, et des listes de lecture</translation>
     </message>
     <message>
         <source>Add any films, and playlists, to the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter à la liste tout film, et des listes de lecture</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>et %1 de plus</translation>
     </message>
     <message>
         <source>Not all of these files can be on one disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces fichiers ne peuvent pas tous être sur un même disque</translation>
     </message>
     <message>
         <source>Their names differ in the folder or the ending only. The first of each name on the list is written and the others are left out. Rename them, or take them off the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Leurs noms ne diffèrent que par le dossier ou l’extension. Le premier de chaque nom dans la liste est gravé et les autres sont omis. Renommez-les, ou retirez-les de la liste.</translation>
     </message>
     <message>
         <source>The title and the performer of “%1” are not on the disc as they are on the list: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le titre et l’interprète de «&#xa0;%1&#xa0;» ne sont pas sur le disque tels qu’ils sont dans la liste&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The names of a track could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>Les noms d’une piste n’ont pas pu être écrits</translation>
     </message>
     <message>
         <source>The program dvdauthor is missing</source>
-        <translation>Le programme dvdauthor manque</translation>
+        <translation>Le programme dvdauthor est absent</translation>
     </message>
     <message>
         <source>It makes the titles of a DVD for players. Install the package “dvdauthor” and try again, or switch “For DVD players” off in the video settings; the disc then holds files.</source>
-        <translation>Il crée les titres d’un DVD pour lecteurs. Installez le paquet « dvdauthor » et réessayez, ou désactivez « Pour lecteurs de DVD » dans les réglages vidéo&#xa0;; le disque contient alors des fichiers.</translation>
+        <translation>Il crée les titres d’un DVD pour lecteurs. Installez le paquet «&#xa0;dvdauthor&#xa0;» et réessayez, ou désactivez «&#xa0;Pour lecteurs de DVD&#xa0;» dans les réglages vidéo&#xa0;; le disque contient alors des fichiers.</translation>
     </message>
     <message>
         <source>Too many clips for one DVD</source>
-        <translation>Trop de clips pour un DVD</translation>
+        <translation>Trop de clips pour un seul DVD</translation>
     </message>
     <message numerus="yes">
         <source>A DVD for players has room for 99 titles, and there are %Ln clip(s) on the list. Take some off and try again.</source>
         <translation>
-            <numerusform>Un DVD pour lecteurs a de la place pour 99 titres, et il y a %Ln clip dans la liste. Retirez-en et réessayez.</numerusform>
-            <numerusform>Un DVD pour lecteurs a de la place pour 99 titres, et il y a %Ln clips dans la liste. Retirez-en et réessayez.</numerusform>
+            <numerusform>Un DVD pour lecteurs peut contenir 99 titres, et la liste compte %Ln clip. Retirez-en et réessayez.</numerusform>
+            <numerusform>Un DVD pour lecteurs peut contenir 99 titres, et la liste compte %Ln clips. Retirez-en et réessayez.</numerusform>
         </translation>
     </message>
     <message>
         <source>There is not enough room to make the titles</source>
-        <translation>La place manque pour créer les titres</translation>
+        <translation>Il n’y a pas assez de place pour créer les titres</translation>
     </message>
     <message>
         <source>A disc is prepared in the folder %1. That may take %2 for these clips, and its file system has %3 left. Free some room and try again, or go on: a clip that finds no room will not be on the disc.</source>
-        <translation>Le disque est préparé dans le dossier %1. Cela peut demander %2 pour ces clips, et il reste %3 sur son système de fichiers. Libérez de la place et réessayez, ou continuez&#xa0;: un clip qui ne trouve pas de place ne sera pas sur le disque.</translation>
+        <translation>Le disque est préparé dans le dossier %1. Ces clips peuvent demander %2, et il reste %3 sur son système de fichiers. Libérez de la place et réessayez, ou continuez&#xa0;: un clip qui ne trouve pas de place ne sera pas sur le disque.</translation>
     </message>
     <message>
         <source>%1: there is no picture in it.</source>
-        <translation>%1&#xa0;: il n’y a pas d’image dedans.</translation>
+        <translation>%1&#xa0;: il ne contient pas d’image.</translation>
     </message>
     <message>
         <source>%1: its picture could not be read.</source>
@@ -726,7 +726,7 @@ Construit avec Qt %1, libburn, libisofs, ffmpeg et mpv.</translation>
     </message>
     <message>
         <source>dvdauthor told nothing for a long time and was ended.</source>
-        <translation>dvdauthor n’a rien dit pendant longtemps et a été arrêté.</translation>
+        <translation>dvdauthor n’a rien dit pendant longtemps et a été interrompu.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln title(s)</source>
@@ -767,8 +767,24 @@ Construit avec Qt %1, libburn, libisofs, ffmpeg et mpv.</translation>
         <translation>Rassemblement des dossiers</translation>
     </message>
     <message>
+        <source>%1: the name is not valid UTF-8 text. Rename the file and try again.</source>
+        <translation>%1&#xa0;: le nom n’est pas du texte UTF-8 valide. Renommez le fichier et réessayez.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no sound in it.</source>
+        <translation>%1 n’est pas un fichier que ce disque peut recevoir. Sont acceptés&#xa0;: %2. ffmpeg n’y trouve pas de son.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no film in it.</source>
+        <translation>%1 n’est pas un fichier que ce disque peut recevoir. Sont acceptés&#xa0;: %2. ffmpeg n’y trouve pas de film.</translation>
+    </message>
+    <message>
         <source>--for-players goes with --burn &quot;Video DVD&quot;.</source>
-        <translation>--for-players va avec --burn &quot;Video DVD&quot;.</translation>
+        <translation>--for-players ne va qu’avec --burn &quot;Video DVD&quot;.</translation>
     </message>
     <message>
         <source>Making the titles and chapters</source>
@@ -880,7 +896,7 @@ Un fichier dont le nom commence par un tiret se place après &quot;--&quot;.</tr
     </message>
     <message>
         <source>Files, for a data disc also folders; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers, ou aussi dossiers pour un disque de données&#xa0;; les pistes d’un CD audio gardent leur ordre. Sans --burn, ils sont ouverts dans la fenêtre&#xa0;: musique, films, dossiers, une image disque ou une liste enregistrée.</translation>
     </message>
 </context>
 <context>
@@ -1011,11 +1027,11 @@ Un fichier dont le nom commence par un tiret se place après &quot;--&quot;.</tr
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>Performer</source>
-        <translation type="unfinished"></translation>
+        <translation>Interprète</translation>
     </message>
 </context>
 <context>
@@ -1622,39 +1638,39 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>MPEG-2 clips on a Blu-ray disc, as files for computers and for players that play files: 23 hours (Alt+2)</source>
-        <translation>Des clips MPEG-2 sur un disque Blu-ray, comme fichiers pour ordinateurs et pour lecteurs qui lisent des fichiers&#xa0;: 23 heures (Alt+2)</translation>
+        <translation>Des clips MPEG-2 sur un disque Blu-ray, en fichiers pour ordinateurs et lecteurs qui lisent des fichiers&#xa0;: 23 heures (Alt+2)</translation>
     </message>
     <message>
         <source>Add O&amp;ther Files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter d’a&amp;utres fichiers…</translation>
     </message>
     <message>
         <source>Add files of any ending with sound, or with a film, in them, and playlists</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter des fichiers de toute extension contenant du son ou un film, et des listes de lecture</translation>
     </message>
     <message>
         <source>&amp;Write Titles on Audio CDs</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire les titres sur les CD &amp;audio</translation>
     </message>
     <message>
         <source>Audio CDs get the titles and performers of their tracks as CD-TEXT</source>
-        <translation type="unfinished"></translation>
+        <translation>Les CD audio reçoivent les titres et les interprètes de leurs pistes en CD-TEXT</translation>
     </message>
     <message>
         <source>&amp;Edit Title</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modifier le titre</translation>
     </message>
     <message>
         <source>Type another title for the row; Tab goes on to the performer</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisir un autre titre pour la ligne&#xa0;; Tab passe à l’interprète</translation>
     </message>
     <message>
         <source>Title and &amp;Performer</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre et inter&amp;prète</translation>
     </message>
     <message>
         <source>Show the titles and performers of audio files on the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher dans la liste les titres et interprètes des fichiers audio</translation>
     </message>
 </context>
 <context>
@@ -1711,7 +1727,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     <name>NameColumns</name>
     <message>
         <source>Return keeps what was typed, Escape what was there before</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée garde ce qui a été saisi, Échap ce qu’il y avait avant</translation>
     </message>
 </context>
 <context>
@@ -1952,7 +1968,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     <name>TrackNames</name>
     <message>
         <source>The converted file is not complete</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier converti n’est pas complet</translation>
     </message>
 </context>
 <context>
@@ -2391,15 +2407,15 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>&amp;For DVD players (titles and chapters)</source>
-        <translation>Pour &amp;lecteurs de DVD (titres et chapitres)</translation>
+        <translation>&amp;Pour lecteurs de DVD (titres et chapitres)</translation>
     </message>
     <message>
         <source>Video DVDs play in the player below a television, one clip after the other; without this, video discs hold files</source>
-        <translation>Les DVD vidéo passent dans le lecteur sous le téléviseur, un clip après l’autre&#xa0;; sans cela, les disques vidéo contiennent des fichiers</translation>
+        <translation>Les DVD vidéo se lisent dans le lecteur de salon, un clip après l’autre&#xa0;; sinon, les disques vidéo contiennent des fichiers</translation>
     </message>
     <message>
         <source>Concerns Video DVDs. Video Blu-ray discs always hold files.</source>
-        <translation>Concerne les DVD vidéo. Les Blu-ray vidéo contiennent toujours des fichiers.</translation>
+        <translation>Concerne les DVD vidéo. Les disques Blu-ray vidéo contiennent toujours des fichiers.</translation>
     </message>
 </context>
 <context>

@@ -120,39 +120,39 @@
     </message>
     <message>
         <source>This list takes files that end in %1, and any others with sound in them. ffmpeg finds none in these.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta lista aceita arquivos que terminam em %1 e quaisquer outros que tenham som. Nestes o ffmpeg não o encontra.</translation>
     </message>
     <message>
         <source>This list takes files that end in %1, and any others with a film in them. ffmpeg finds none in these.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta lista aceita arquivos que terminam em %1 e quaisquer outros que tenham um filme. Nestes o ffmpeg não o encontra.</translation>
     </message>
     <message>
         <source>ffmpeg finds no sound in any file in these folders or below.</source>
-        <translation type="unfinished"></translation>
+        <translation>O ffmpeg não encontra som em nenhum arquivo destas pastas nem abaixo delas.</translation>
     </message>
     <message>
         <source>ffmpeg finds no film in any file in these folders or below.</source>
-        <translation type="unfinished"></translation>
+        <translation>O ffmpeg não encontra filme em nenhum arquivo destas pastas nem abaixo delas.</translation>
     </message>
     <message>
         <source>These are playlists and folders that a playlist names, and those are not followed. Add them themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>São listas de reprodução e pastas que uma lista de reprodução cita, e essas não são seguidas. Adicione-as diretamente.</translation>
     </message>
     <message>
         <source>These playlists name no files, or they are damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estas listas de reprodução não citam nenhum arquivo ou estão danificadas.</translation>
     </message>
     <message>
         <source>These playlists name more than 100,000 files. Only so many were taken, the first ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estas listas de reprodução citam mais de 100.000 arquivos. Só foram aceitos os primeiros, até esse número.</translation>
     </message>
     <message>
         <source>These files are too large for playlists, which have up to 32 MB.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estes arquivos são grandes demais para listas de reprodução, que têm até 32 MB.</translation>
     </message>
     <message>
         <source>There are more than 100,000 files below these folders. Only so many were taken, the first ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Há mais de 100.000 arquivos abaixo destas pastas. Só foram aceitos os primeiros, até esse número.</translation>
     </message>
 </context>
 <context>
@@ -659,39 +659,39 @@ Feito com Qt %1, libburn, libisofs, ffmpeg e mpv.</translation>
     </message>
     <message>
         <source>Add any files with sound, and playlists, to the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar à lista quaisquer arquivos com som e listas de reprodução</translation>
     </message>
     <message>
         <source>Add any films, and playlists, to the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar à lista quaisquer filmes e listas de reprodução</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>e mais %1</translation>
     </message>
     <message>
         <source>Not all of these files can be on one disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem todos estes arquivos podem estar em um mesmo disco</translation>
     </message>
     <message>
         <source>Their names differ in the folder or the ending only. The first of each name on the list is written and the others are left out. Rename them, or take them off the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Os nomes deles só diferem na pasta ou na extensão. O primeiro de cada nome na lista é gravado e os outros são omitidos. Renomeie-os ou remova-os da lista.</translation>
     </message>
     <message>
         <source>The title and the performer of “%1” are not on the disc as they are on the list: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>O título e o intérprete de “%1” não estão no disco como estão na lista: %2.</translation>
     </message>
     <message>
         <source>The names of a track could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível gravar os nomes de uma faixa</translation>
     </message>
     <message>
         <source>The program dvdauthor is missing</source>
-        <translation>Falta o programa dvdauthor</translation>
+        <translation>O programa dvdauthor não foi encontrado</translation>
     </message>
     <message>
         <source>It makes the titles of a DVD for players. Install the package “dvdauthor” and try again, or switch “For DVD players” off in the video settings; the disc then holds files.</source>
-        <translation>Ele cria os títulos de um DVD para aparelhos. Instale o pacote “dvdauthor” e tente de novo, ou desative “Para aparelhos de DVD” nos ajustes de vídeo; o disco conterá então arquivos.</translation>
+        <translation>Ele cria os títulos de um DVD para aparelhos. Instale o pacote “dvdauthor” e tente novamente, ou desligue “Para aparelhos de DVD” nos ajustes de vídeo; o disco então contém arquivos.</translation>
     </message>
     <message>
         <source>Too many clips for one DVD</source>
@@ -700,8 +700,8 @@ Feito com Qt %1, libburn, libisofs, ffmpeg e mpv.</translation>
     <message numerus="yes">
         <source>A DVD for players has room for 99 titles, and there are %Ln clip(s) on the list. Take some off and try again.</source>
         <translation>
-            <numerusform>Um DVD para aparelhos comporta 99 títulos, e há %Ln clipe na lista. Retire alguns e tente de novo.</numerusform>
-            <numerusform>Um DVD para aparelhos comporta 99 títulos, e há %Ln clipes na lista. Retire alguns e tente de novo.</numerusform>
+            <numerusform>Em um DVD para aparelhos cabem 99 títulos, e há %Ln clipe na lista. Remova alguns e tente novamente.</numerusform>
+            <numerusform>Em um DVD para aparelhos cabem 99 títulos, e há %Ln clipes na lista. Remova alguns e tente novamente.</numerusform>
         </translation>
     </message>
     <message>
@@ -710,15 +710,15 @@ Feito com Qt %1, libburn, libisofs, ffmpeg e mpv.</translation>
     </message>
     <message>
         <source>A disc is prepared in the folder %1. That may take %2 for these clips, and its file system has %3 left. Free some room and try again, or go on: a clip that finds no room will not be on the disc.</source>
-        <translation>O disco é preparado na pasta %1. Para estes clipes, isso pode ocupar %2, e restam %3 no sistema de arquivos dela. Libere espaço e tente de novo, ou continue: um clipe que não encontrar espaço não estará no disco.</translation>
+        <translation>O disco é preparado na pasta %1. Estes clipes podem precisar de %2, e no sistema de arquivos dela restam %3. Libere espaço e tente novamente, ou continue: um clipe que não couber não estará no disco.</translation>
     </message>
     <message>
         <source>%1: there is no picture in it.</source>
-        <translation>%1: não há imagem nele.</translation>
+        <translation>%1: não contém imagem.</translation>
     </message>
     <message>
         <source>%1: its picture could not be read.</source>
-        <translation>%1: não foi possível ler a imagem dele.</translation>
+        <translation>%1: não foi possível ler sua imagem.</translation>
     </message>
     <message>
         <source>The titles could not be described: %1. The disc is as it was.</source>
@@ -726,7 +726,7 @@ Feito com Qt %1, libburn, libisofs, ffmpeg e mpv.</translation>
     </message>
     <message>
         <source>dvdauthor told nothing for a long time and was ended.</source>
-        <translation>O dvdauthor não informou nada por muito tempo e foi encerrado.</translation>
+        <translation>O dvdauthor não disse nada por muito tempo e foi encerrado.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln title(s)</source>
@@ -767,8 +767,24 @@ Feito com Qt %1, libburn, libisofs, ffmpeg e mpv.</translation>
         <translation>Reunindo as pastas</translation>
     </message>
     <message>
+        <source>%1: the name is not valid UTF-8 text. Rename the file and try again.</source>
+        <translation>%1: o nome não é texto UTF-8 válido. Renomeie o arquivo e tente novamente.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no sound in it.</source>
+        <translation>%1 não é um arquivo que este disco possa receber. São aceitos: %2. O ffmpeg não encontra som nele.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no film in it.</source>
+        <translation>%1 não é um arquivo que este disco possa receber. São aceitos: %2. O ffmpeg não encontra filme nele.</translation>
+    </message>
+    <message>
         <source>--for-players goes with --burn &quot;Video DVD&quot;.</source>
-        <translation>--for-players acompanha --burn &quot;Video DVD&quot;.</translation>
+        <translation>--for-players só acompanha --burn &quot;Video DVD&quot;.</translation>
     </message>
     <message>
         <source>Making the titles and chapters</source>
@@ -876,11 +892,11 @@ Um arquivo cujo nome começa com um hífen vai depois de &quot;--&quot;.</transl
     </message>
     <message>
         <source>Make a Video DVD for DVD players, with titles and chapters, whatever the video settings say.</source>
-        <translation>Criar um DVD de vídeo para aparelhos de DVD, com títulos e capítulos, não importa o que digam os ajustes de vídeo.</translation>
+        <translation>Criar um DVD de vídeo para aparelhos de DVD, com títulos e capítulos, sejam quais forem os ajustes de vídeo.</translation>
     </message>
     <message>
         <source>Files, for a data disc also folders; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivos, ou também pastas para um disco de dados; as faixas de um CD de áudio mantêm a ordem. Sem --burn eles são abertos na janela: músicas, filmes, pastas, uma imagem de disco ou uma lista salva.</translation>
     </message>
 </context>
 <context>
@@ -1011,11 +1027,11 @@ Um arquivo cujo nome começa com um hífen vai depois de &quot;--&quot;.</transl
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
     <message>
         <source>Performer</source>
-        <translation type="unfinished"></translation>
+        <translation>Intérprete</translation>
     </message>
 </context>
 <context>
@@ -1622,39 +1638,39 @@ A ordem da lista é a ordem no disco.</translation>
     </message>
     <message>
         <source>MPEG-2 clips on a Blu-ray disc, as files for computers and for players that play files: 23 hours (Alt+2)</source>
-        <translation>Clipes MPEG-2 em um disco Blu-ray, como arquivos para computadores e para aparelhos que tocam arquivos: 23 horas (Alt+2)</translation>
+        <translation>Clipes MPEG-2 em um disco Blu-ray, como arquivos para computadores e aparelhos que reproduzem arquivos: 23 horas (Alt+2)</translation>
     </message>
     <message>
         <source>Add O&amp;ther Files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar &amp;outros arquivos…</translation>
     </message>
     <message>
         <source>Add files of any ending with sound, or with a film, in them, and playlists</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar arquivos de qualquer extensão com som ou um filme e listas de reprodução</translation>
     </message>
     <message>
         <source>&amp;Write Titles on Audio CDs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gravar títulos nos CDs de áudio</translation>
     </message>
     <message>
         <source>Audio CDs get the titles and performers of their tracks as CD-TEXT</source>
-        <translation type="unfinished"></translation>
+        <translation>Os CDs de áudio recebem os títulos e intérpretes de suas faixas como CD-TEXT</translation>
     </message>
     <message>
         <source>&amp;Edit Title</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Editar título</translation>
     </message>
     <message>
         <source>Type another title for the row; Tab goes on to the performer</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitar outro título para a linha; Tab passa para o intérprete</translation>
     </message>
     <message>
         <source>Title and &amp;Performer</source>
-        <translation type="unfinished"></translation>
+        <translation>Título e inté&amp;rprete</translation>
     </message>
     <message>
         <source>Show the titles and performers of audio files on the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar na lista os títulos e intérpretes dos arquivos de áudio</translation>
     </message>
 </context>
 <context>
@@ -1711,7 +1727,7 @@ A ordem da lista é a ordem no disco.</translation>
     <name>NameColumns</name>
     <message>
         <source>Return keeps what was typed, Escape what was there before</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter mantém o que foi digitado, Esc o que havia antes</translation>
     </message>
 </context>
 <context>
@@ -1952,7 +1968,7 @@ A ordem da lista é a ordem no disco.</translation>
     <name>TrackNames</name>
     <message>
         <source>The converted file is not complete</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo convertido não está completo</translation>
     </message>
 </context>
 <context>
@@ -2391,15 +2407,15 @@ A ordem da lista é a ordem no disco.</translation>
     </message>
     <message>
         <source>&amp;For DVD players (titles and chapters)</source>
-        <translation>Para &amp;aparelhos de DVD (títulos e capítulos)</translation>
+        <translation>Pa&amp;ra aparelhos de DVD (títulos e capítulos)</translation>
     </message>
     <message>
         <source>Video DVDs play in the player below a television, one clip after the other; without this, video discs hold files</source>
-        <translation>DVDs de vídeo tocam no aparelho da televisão, um clipe após o outro; sem isto, discos de vídeo contêm arquivos</translation>
+        <translation>Os DVDs de vídeo tocam no aparelho da TV, um clipe depois do outro; sem isto, os discos de vídeo contêm arquivos</translation>
     </message>
     <message>
         <source>Concerns Video DVDs. Video Blu-ray discs always hold files.</source>
-        <translation>Diz respeito a DVDs de vídeo. Discos Blu-ray de vídeo sempre contêm arquivos.</translation>
+        <translation>Vale para DVDs de vídeo. Discos Blu-ray de vídeo sempre contêm arquivos.</translation>
     </message>
 </context>
 <context>

@@ -739,6 +739,49 @@ Erstellt mit Qt %1, libburn, libisofs, ffmpeg und mpv.</translation>
         <source>The file system of the folder %1 is full.</source>
         <translation>Das Dateisystem des Ordners %1 ist voll.</translation>
     </message>
+    <message>
+        <source>The drives could not be listed</source>
+        <translation>Die Laufwerke konnten nicht aufgelistet werden</translation>
+    </message>
+    <message>
+        <source>The drive is not there any more</source>
+        <translation>Das Laufwerk ist nicht mehr da</translation>
+    </message>
+    <message>
+        <source>“%1” is not connected. Connect it again, or choose another drive in the Drive menu.</source>
+        <translation>„%1“ ist nicht angeschlossen. Schließen Sie es wieder an oder wählen Sie im Menü „Laufwerk“ ein anderes.</translation>
+    </message>
+    <message>
+        <source>The disc cannot have this name</source>
+        <translation>Die Disc kann diesen Namen nicht haben</translation>
+    </message>
+    <message>
+        <source>%1 Change the name and try again.</source>
+        <translation>%1 Ändern Sie den Namen und versuchen Sie es erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>BatchMedia</name>
+    <message>
+        <source>%1: the name is not valid UTF-8 text. Rename the file and try again.</source>
+        <translation>%1: Der Name ist kein gültiger UTF-8-Text. Benennen Sie die Datei um und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file or folder.</source>
+        <translation>%1: Eine solche Datei oder einen solchen Ordner gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no sound in it.</source>
+        <translation>%1 ist keine Datei, die auf diese Disc kommen kann. Möglich sind: %2. ffmpeg findet keinen Ton darin.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no film in it.</source>
+        <translation>%1 ist keine Datei, die auf diese Disc kommen kann. Möglich sind: %2. ffmpeg findet keinen Film darin.</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -765,22 +808,6 @@ Erstellt mit Qt %1, libburn, libisofs, ffmpeg und mpv.</translation>
     <message>
         <source>Gathering the folders</source>
         <translation>Die Ordner werden zusammengestellt</translation>
-    </message>
-    <message>
-        <source>%1: the name is not valid UTF-8 text. Rename the file and try again.</source>
-        <translation>%1: Der Name ist kein gültiger UTF-8-Text. Benennen Sie die Datei um und versuchen Sie es erneut.</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no sound in it.</source>
-        <translation>%1 ist keine Datei, die auf diese Disc kommen kann. Möglich sind: %2. ffmpeg findet keinen Ton darin.</translation>
-    </message>
-    <message>
-        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no film in it.</source>
-        <translation>%1 ist keine Datei, die auf diese Disc kommen kann. Möglich sind: %2. ffmpeg findet keinen Film darin.</translation>
     </message>
     <message>
         <source>--for-players goes with --burn &quot;Video DVD&quot;.</source>
@@ -897,6 +924,150 @@ Eine Datei, deren Name mit einem Strich beginnt, steht hinter &quot;--&quot;.</t
     <message>
         <source>Files, for a data disc also folders; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
         <translation>Dateien, für eine Daten-Disc auch Ordner; die Titel einer Audio-CD behalten ihre Reihenfolge. Ohne --burn werden sie im Fenster geöffnet: Musik, Filme, Ordner, ein Disc-Abbild oder eine gespeicherte Liste.</translation>
+    </message>
+</context>
+<context>
+    <name>DiscName</name>
+    <message>
+        <source>Where only plain letters are known, “%1” becomes “_”.</source>
+        <translation>Wo nur einfache Buchstaben bekannt sind, wird „%1“ zu „_“.</translation>
+    </message>
+    <message>
+        <source>On Windows “%1” becomes “_”.</source>
+        <translation>Unter Windows wird „%1“ zu „_“.</translation>
+    </message>
+    <message>
+        <source>Windows shows “%1”.</source>
+        <translation>Windows zeigt „%1“.</translation>
+    </message>
+    <message>
+        <source>The name holds a character that cannot be seen.</source>
+        <translation>Der Name enthält ein Zeichen, das man nicht sehen kann.</translation>
+    </message>
+    <message>
+        <source>The name has %1 characters; a disc takes %2.</source>
+        <translation>Der Name hat %1 Zeichen; auf eine Disc passen %2.</translation>
+    </message>
+</context>
+<context>
+    <name>DiscNameField</name>
+    <message>
+        <source>Disc name</source>
+        <translation>Disc-Name</translation>
+    </message>
+    <message>
+        <source>Chosen for you</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Name of the disc</source>
+        <translation>Name der Disc</translation>
+    </message>
+    <message>
+        <source>What the disc is called where it is put in</source>
+        <translation>Wie die Disc heißt, wo sie eingelegt wird</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>characters</comment>
+        <translation>%1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>DiscRoom</name>
+    <message>
+        <source>The %1 in the drive holds about %2.</source>
+        <translation>Die %1 im Laufwerk fasst etwa %2.</translation>
+    </message>
+    <message>
+        <source>The %1 in the drive holds %2.</source>
+        <translation>Die %1 im Laufwerk fasst %2.</translation>
+    </message>
+    <message>
+        <source>The list is too long by %1.</source>
+        <translation>Die Liste ist um %1 zu lang.</translation>
+    </message>
+    <message>
+        <source>The list is too large by %1.</source>
+        <translation>Die Liste ist um %1 zu groß.</translation>
+    </message>
+    <message>
+        <source>The list just about fits.</source>
+        <translation>Die Liste passt gerade noch.</translation>
+    </message>
+    <message>
+        <source>The list fits.</source>
+        <translation>Die Liste passt.</translation>
+    </message>
+    <message>
+        <source>The %1 in the drive cannot be written.</source>
+        <translation>Die %1 im Laufwerk kann nicht beschrieben werden.</translation>
+    </message>
+    <message>
+        <source>In the drive is a %1; this list needs a %2.</source>
+        <translation>Im Laufwerk liegt eine %1; diese Liste braucht eine %2.</translation>
+    </message>
+    <message>
+        <source>The %1 in the drive is erased before it is written.</source>
+        <translation>Die %1 im Laufwerk wird vor dem Brennen gelöscht.</translation>
+    </message>
+</context>
+<context>
+    <name>DriveNews</name>
+    <message>
+        <source>The drive “%1” is connected.</source>
+        <translation>Das Laufwerk „%1“ ist angeschlossen.</translation>
+    </message>
+    <message>
+        <source>A drive was plugged in: “%1”.</source>
+        <translation>Ein Laufwerk wurde angeschlossen: „%1“.</translation>
+    </message>
+    <message>
+        <source>Use This Drive</source>
+        <translation>Dieses Laufwerk verwenden</translation>
+    </message>
+    <message>
+        <source>Write discs with this drive from now on</source>
+        <translation>Discs ab jetzt mit diesem Laufwerk brennen</translation>
+    </message>
+    <message>
+        <source>No other drive was found.</source>
+        <translation>Es wurde kein anderes Laufwerk gefunden.</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <translation>%1 (nicht angeschlossen)</translation>
+    </message>
+    <message>
+        <source>The drive “%1” is not connected any more. Connect it again, or choose another one in the Drive menu.</source>
+        <translation>Das Laufwerk „%1“ ist nicht mehr angeschlossen. Schließen Sie es wieder an oder wählen Sie im Menü „Laufwerk“ ein anderes.</translation>
+    </message>
+    <message>
+        <source>You may not use this drive</source>
+        <translation>Sie dürfen dieses Laufwerk nicht verwenden</translation>
+    </message>
+    <message>
+        <source>Wh&amp;y…</source>
+        <translation>War&amp;um…</translation>
+    </message>
+    <message>
+        <source>Tell why, and how to change it</source>
+        <translation>Sagen, warum, und wie es sich ändern lässt</translation>
+    </message>
+    <message>
+        <source>You may not use the drive “%1”.</source>
+        <translation>Sie dürfen das Laufwerk „%1“ nicht verwenden.</translation>
+    </message>
+    <message>
+        <source>Why…</source>
+        <translation>Warum…</translation>
+    </message>
+</context>
+<context>
+    <name>DriveNotice</name>
+    <message>
+        <source>Close this notice</source>
+        <translation>Diesen Hinweis schließen</translation>
     </message>
 </context>
 <context>
@@ -1672,6 +1843,18 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
         <source>Show the titles and performers of audio files on the list</source>
         <translation>Titel und Interpreten der Audiodateien in der Liste zeigen</translation>
     </message>
+    <message>
+        <source>Writing &amp;Speed</source>
+        <translation>Brenn&amp;geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>&amp;Look for Drives</source>
+        <translation>Laufwerke &amp;suchen</translation>
+    </message>
+    <message>
+        <source>Ask which drives there are now</source>
+        <translation>Nachsehen, welche Laufwerke es jetzt gibt</translation>
+    </message>
 </context>
 <context>
     <name>Measuring</name>
@@ -1870,6 +2053,34 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>SpeedMenu</name>
+    <message>
+        <source>&amp;Fastest</source>
+        <translation>&amp;So schnell wie möglich</translation>
+    </message>
+    <message>
+        <source>%1×</source>
+        <comment>a factor of the speed, as in 16×</comment>
+        <translation>%1×</translation>
+    </message>
+    <message>
+        <source>The drive does not answer</source>
+        <translation>Das Laufwerk antwortet nicht</translation>
+    </message>
+    <message>
+        <source>The drive is being asked…</source>
+        <translation>Das Laufwerk wird gefragt…</translation>
+    </message>
+    <message>
+        <source>There is no disc in the drive</source>
+        <translation>Im Laufwerk liegt keine Disc</translation>
+    </message>
+    <message>
+        <source>The drive names no speeds for its disc</source>
+        <translation>Das Laufwerk nennt keine Geschwindigkeiten für seine Disc</translation>
     </message>
 </context>
 <context>
@@ -2284,6 +2495,30 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     <message>
         <source>Activity Log…</source>
         <translation>Protokoll…</translation>
+    </message>
+    <message>
+        <source>Show in its folder what was made</source>
+        <translation>Das Ergebnis in seinem Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Show the command that decided, and all it said</source>
+        <translation>Den entscheidenden Befehl zeigen und alles, was er gemeldet hat</translation>
+    </message>
+    <message>
+        <source>&amp;Eject</source>
+        <translation>Aus&amp;werfen</translation>
+    </message>
+    <message>
+        <source>Open the tray of the drive</source>
+        <translation>Die Schublade des Laufwerks öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Burn Another</source>
+        <translation>Noch eine &amp;brennen</translation>
+    </message>
+    <message>
+        <source>Do the same once more, with the disc that is in the drive then</source>
+        <translation>Dasselbe noch einmal tun, mit der Disc, die dann im Laufwerk liegt</translation>
     </message>
 </context>
 <context>

@@ -739,6 +739,49 @@ Hecho con Qt %1, libburn, libisofs, ffmpeg y mpv.</translation>
         <source>The file system of the folder %1 is full.</source>
         <translation>El sistema de archivos de la carpeta %1 está lleno.</translation>
     </message>
+    <message>
+        <source>The drives could not be listed</source>
+        <translation>No se pudieron enumerar las unidades</translation>
+    </message>
+    <message>
+        <source>The drive is not there any more</source>
+        <translation>La unidad ya no está</translation>
+    </message>
+    <message>
+        <source>“%1” is not connected. Connect it again, or choose another drive in the Drive menu.</source>
+        <translation>«%1» no está conectada. Vuelva a conectarla o elija otra unidad en el menú Unidad.</translation>
+    </message>
+    <message>
+        <source>The disc cannot have this name</source>
+        <translation>El disco no puede tener este nombre</translation>
+    </message>
+    <message>
+        <source>%1 Change the name and try again.</source>
+        <translation>%1 Cambie el nombre y vuelva a intentarlo.</translation>
+    </message>
+</context>
+<context>
+    <name>BatchMedia</name>
+    <message>
+        <source>%1: the name is not valid UTF-8 text. Rename the file and try again.</source>
+        <translation>%1: el nombre no es texto UTF-8 válido. Cambie el nombre del archivo y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file or folder.</source>
+        <translation>%1: no existe tal archivo o carpeta.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no sound in it.</source>
+        <translation>%1 no es un archivo que este disco pueda llevar. Se admiten: %2. ffmpeg no encuentra sonido en él.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no film in it.</source>
+        <translation>%1 no es un archivo que este disco pueda llevar. Se admiten: %2. ffmpeg no encuentra ninguna película en él.</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -765,22 +808,6 @@ Hecho con Qt %1, libburn, libisofs, ffmpeg y mpv.</translation>
     <message>
         <source>Gathering the folders</source>
         <translation>Reuniendo las carpetas</translation>
-    </message>
-    <message>
-        <source>%1: the name is not valid UTF-8 text. Rename the file and try again.</source>
-        <translation>%1: el nombre no es texto UTF-8 válido. Cambie el nombre del archivo y vuelva a intentarlo.</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no sound in it.</source>
-        <translation>%1 no es un archivo que este disco pueda llevar. Se admiten: %2. ffmpeg no encuentra sonido en él.</translation>
-    </message>
-    <message>
-        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no film in it.</source>
-        <translation>%1 no es un archivo que este disco pueda llevar. Se admiten: %2. ffmpeg no encuentra ninguna película en él.</translation>
     </message>
     <message>
         <source>--for-players goes with --burn &quot;Video DVD&quot;.</source>
@@ -897,6 +924,150 @@ Un archivo cuyo nombre empieza por un guion va detrás de &quot;--&quot;.</trans
     <message>
         <source>Files, for a data disc also folders; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
         <translation>Archivos, o también carpetas para un disco de datos; las pistas de un CD de audio conservan su orden. Sin --burn se abren en la ventana: música, películas, carpetas, una imagen de disco o una lista guardada.</translation>
+    </message>
+</context>
+<context>
+    <name>DiscName</name>
+    <message>
+        <source>Where only plain letters are known, “%1” becomes “_”.</source>
+        <translation>Donde solo se conocen letras simples, «%1» se convierte en «_».</translation>
+    </message>
+    <message>
+        <source>On Windows “%1” becomes “_”.</source>
+        <translation>En Windows, «%1» se convierte en «_».</translation>
+    </message>
+    <message>
+        <source>Windows shows “%1”.</source>
+        <translation>Windows muestra «%1».</translation>
+    </message>
+    <message>
+        <source>The name holds a character that cannot be seen.</source>
+        <translation>El nombre contiene un carácter que no se puede ver.</translation>
+    </message>
+    <message>
+        <source>The name has %1 characters; a disc takes %2.</source>
+        <translation>El nombre tiene %1 caracteres; un disco admite %2.</translation>
+    </message>
+</context>
+<context>
+    <name>DiscNameField</name>
+    <message>
+        <source>Disc name</source>
+        <translation>Nombre del disco</translation>
+    </message>
+    <message>
+        <source>Chosen for you</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Name of the disc</source>
+        <translation>Nombre del disco</translation>
+    </message>
+    <message>
+        <source>What the disc is called where it is put in</source>
+        <translation>Cómo se llama el disco donde se inserta</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>characters</comment>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>DiscRoom</name>
+    <message>
+        <source>The %1 in the drive holds about %2.</source>
+        <translation>En el %1 de la unidad caben unos %2.</translation>
+    </message>
+    <message>
+        <source>The %1 in the drive holds %2.</source>
+        <translation>En el %1 de la unidad caben %2.</translation>
+    </message>
+    <message>
+        <source>The list is too long by %1.</source>
+        <translation>La lista dura %1 de más.</translation>
+    </message>
+    <message>
+        <source>The list is too large by %1.</source>
+        <translation>La lista ocupa %1 de más.</translation>
+    </message>
+    <message>
+        <source>The list just about fits.</source>
+        <translation>La lista cabe justo.</translation>
+    </message>
+    <message>
+        <source>The list fits.</source>
+        <translation>La lista cabe.</translation>
+    </message>
+    <message>
+        <source>The %1 in the drive cannot be written.</source>
+        <translation>El %1 de la unidad no se puede grabar.</translation>
+    </message>
+    <message>
+        <source>In the drive is a %1; this list needs a %2.</source>
+        <translation>En la unidad hay un %1; esta lista necesita un %2.</translation>
+    </message>
+    <message>
+        <source>The %1 in the drive is erased before it is written.</source>
+        <translation>El %1 de la unidad se borra antes de grabarlo.</translation>
+    </message>
+</context>
+<context>
+    <name>DriveNews</name>
+    <message>
+        <source>The drive “%1” is connected.</source>
+        <translation>La unidad «%1» está conectada.</translation>
+    </message>
+    <message>
+        <source>A drive was plugged in: “%1”.</source>
+        <translation>Se ha conectado una unidad: «%1».</translation>
+    </message>
+    <message>
+        <source>Use This Drive</source>
+        <translation>Usar esta unidad</translation>
+    </message>
+    <message>
+        <source>Write discs with this drive from now on</source>
+        <translation>Grabar los discos con esta unidad a partir de ahora</translation>
+    </message>
+    <message>
+        <source>No other drive was found.</source>
+        <translation>No se encontró ninguna otra unidad.</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <translation>%1 (no conectada)</translation>
+    </message>
+    <message>
+        <source>The drive “%1” is not connected any more. Connect it again, or choose another one in the Drive menu.</source>
+        <translation>La unidad «%1» ya no está conectada. Vuelva a conectarla o elija otra en el menú Unidad.</translation>
+    </message>
+    <message>
+        <source>You may not use this drive</source>
+        <translation>No tiene permiso para usar esta unidad</translation>
+    </message>
+    <message>
+        <source>Wh&amp;y…</source>
+        <translation>¿Por &amp;qué?…</translation>
+    </message>
+    <message>
+        <source>Tell why, and how to change it</source>
+        <translation>Explicar por qué y cómo cambiarlo</translation>
+    </message>
+    <message>
+        <source>You may not use the drive “%1”.</source>
+        <translation>No tiene permiso para usar la unidad «%1».</translation>
+    </message>
+    <message>
+        <source>Why…</source>
+        <translation>¿Por qué?…</translation>
+    </message>
+</context>
+<context>
+    <name>DriveNotice</name>
+    <message>
+        <source>Close this notice</source>
+        <translation>Cerrar este aviso</translation>
     </message>
 </context>
 <context>
@@ -1672,6 +1843,18 @@ El orden de la lista es el orden en el disco.</translation>
         <source>Show the titles and performers of audio files on the list</source>
         <translation>Mostrar en la lista los títulos e intérpretes de los archivos de audio</translation>
     </message>
+    <message>
+        <source>Writing &amp;Speed</source>
+        <translation>&amp;Velocidad de grabación</translation>
+    </message>
+    <message>
+        <source>&amp;Look for Drives</source>
+        <translation>&amp;Buscar unidades</translation>
+    </message>
+    <message>
+        <source>Ask which drives there are now</source>
+        <translation>Ver qué unidades hay ahora</translation>
+    </message>
 </context>
 <context>
     <name>Measuring</name>
@@ -1870,6 +2053,34 @@ El orden de la lista es el orden en el disco.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>SpeedMenu</name>
+    <message>
+        <source>&amp;Fastest</source>
+        <translation>La más &amp;rápida</translation>
+    </message>
+    <message>
+        <source>%1×</source>
+        <comment>a factor of the speed, as in 16×</comment>
+        <translation>%1×</translation>
+    </message>
+    <message>
+        <source>The drive does not answer</source>
+        <translation>La unidad no responde</translation>
+    </message>
+    <message>
+        <source>The drive is being asked…</source>
+        <translation>Consultando la unidad…</translation>
+    </message>
+    <message>
+        <source>There is no disc in the drive</source>
+        <translation>No hay ningún disco en la unidad</translation>
+    </message>
+    <message>
+        <source>The drive names no speeds for its disc</source>
+        <translation>La unidad no indica velocidades para su disco</translation>
     </message>
 </context>
 <context>
@@ -2284,6 +2495,30 @@ El orden de la lista es el orden en el disco.</translation>
     <message>
         <source>Activity Log…</source>
         <translation>Registro de actividad…</translation>
+    </message>
+    <message>
+        <source>Show in its folder what was made</source>
+        <translation>Mostrar en su carpeta lo que se hizo</translation>
+    </message>
+    <message>
+        <source>Show the command that decided, and all it said</source>
+        <translation>Mostrar la orden decisiva y todo lo que dijo</translation>
+    </message>
+    <message>
+        <source>&amp;Eject</source>
+        <translation>&amp;Expulsar</translation>
+    </message>
+    <message>
+        <source>Open the tray of the drive</source>
+        <translation>Abrir la bandeja de la unidad</translation>
+    </message>
+    <message>
+        <source>&amp;Burn Another</source>
+        <translation>&amp;Grabar otro</translation>
+    </message>
+    <message>
+        <source>Do the same once more, with the disc that is in the drive then</source>
+        <translation>Hacer lo mismo otra vez, con el disco que haya entonces en la unidad</translation>
     </message>
 </context>
 <context>

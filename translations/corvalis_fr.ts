@@ -739,6 +739,49 @@ Construit avec Qt %1, libburn, libisofs, ffmpeg et mpv.</translation>
         <source>The file system of the folder %1 is full.</source>
         <translation>Le système de fichiers du dossier %1 est plein.</translation>
     </message>
+    <message>
+        <source>The drives could not be listed</source>
+        <translation>Les lecteurs n’ont pas pu être listés</translation>
+    </message>
+    <message>
+        <source>The drive is not there any more</source>
+        <translation>Le lecteur n’est plus là</translation>
+    </message>
+    <message>
+        <source>“%1” is not connected. Connect it again, or choose another drive in the Drive menu.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas connecté. Reconnectez-le, ou choisissez un autre lecteur dans le menu Lecteur.</translation>
+    </message>
+    <message>
+        <source>The disc cannot have this name</source>
+        <translation>Le disque ne peut pas porter ce nom</translation>
+    </message>
+    <message>
+        <source>%1 Change the name and try again.</source>
+        <translation>%1 Changez le nom et réessayez.</translation>
+    </message>
+</context>
+<context>
+    <name>BatchMedia</name>
+    <message>
+        <source>%1: the name is not valid UTF-8 text. Rename the file and try again.</source>
+        <translation>%1&#xa0;: le nom n’est pas du texte UTF-8 valide. Renommez le fichier et réessayez.</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file or folder.</source>
+        <translation>%1&#xa0;: aucun fichier ni dossier de ce nom.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no sound in it.</source>
+        <translation>%1 n’est pas un fichier que ce disque peut recevoir. Sont acceptés&#xa0;: %2. ffmpeg n’y trouve pas de son.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no film in it.</source>
+        <translation>%1 n’est pas un fichier que ce disque peut recevoir. Sont acceptés&#xa0;: %2. ffmpeg n’y trouve pas de film.</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -765,22 +808,6 @@ Construit avec Qt %1, libburn, libisofs, ffmpeg et mpv.</translation>
     <message>
         <source>Gathering the folders</source>
         <translation>Rassemblement des dossiers</translation>
-    </message>
-    <message>
-        <source>%1: the name is not valid UTF-8 text. Rename the file and try again.</source>
-        <translation>%1&#xa0;: le nom n’est pas du texte UTF-8 valide. Renommez le fichier et réessayez.</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no sound in it.</source>
-        <translation>%1 n’est pas un fichier que ce disque peut recevoir. Sont acceptés&#xa0;: %2. ffmpeg n’y trouve pas de son.</translation>
-    </message>
-    <message>
-        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no film in it.</source>
-        <translation>%1 n’est pas un fichier que ce disque peut recevoir. Sont acceptés&#xa0;: %2. ffmpeg n’y trouve pas de film.</translation>
     </message>
     <message>
         <source>--for-players goes with --burn &quot;Video DVD&quot;.</source>
@@ -897,6 +924,150 @@ Un fichier dont le nom commence par un tiret se place après &quot;--&quot;.</tr
     <message>
         <source>Files, for a data disc also folders; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
         <translation>Fichiers, ou aussi dossiers pour un disque de données&#xa0;; les pistes d’un CD audio gardent leur ordre. Sans --burn, ils sont ouverts dans la fenêtre&#xa0;: musique, films, dossiers, une image disque ou une liste enregistrée.</translation>
+    </message>
+</context>
+<context>
+    <name>DiscName</name>
+    <message>
+        <source>Where only plain letters are known, “%1” becomes “_”.</source>
+        <translation>Là où seules les lettres simples sont connues, «&#xa0;%1&#xa0;» devient «&#xa0;_&#xa0;».</translation>
+    </message>
+    <message>
+        <source>On Windows “%1” becomes “_”.</source>
+        <translation>Sous Windows, «&#xa0;%1&#xa0;» devient «&#xa0;_&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Windows shows “%1”.</source>
+        <translation>Windows affiche «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The name holds a character that cannot be seen.</source>
+        <translation>Le nom contient un caractère qu’on ne peut pas voir.</translation>
+    </message>
+    <message>
+        <source>The name has %1 characters; a disc takes %2.</source>
+        <translation>Le nom a %1 caractères&#xa0;; un disque en accepte %2.</translation>
+    </message>
+</context>
+<context>
+    <name>DiscNameField</name>
+    <message>
+        <source>Disc name</source>
+        <translation>Nom du disque</translation>
+    </message>
+    <message>
+        <source>Chosen for you</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Name of the disc</source>
+        <translation>Nom du disque</translation>
+    </message>
+    <message>
+        <source>What the disc is called where it is put in</source>
+        <translation>Le nom que porte le disque là où on l’insère</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>characters</comment>
+        <translation>%1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>DiscRoom</name>
+    <message>
+        <source>The %1 in the drive holds about %2.</source>
+        <translation>Le %1 qui est dans le lecteur contient environ %2.</translation>
+    </message>
+    <message>
+        <source>The %1 in the drive holds %2.</source>
+        <translation>Le %1 qui est dans le lecteur contient %2.</translation>
+    </message>
+    <message>
+        <source>The list is too long by %1.</source>
+        <translation>La liste est trop longue de %1.</translation>
+    </message>
+    <message>
+        <source>The list is too large by %1.</source>
+        <translation>La liste dépasse de %1.</translation>
+    </message>
+    <message>
+        <source>The list just about fits.</source>
+        <translation>La liste tient tout juste.</translation>
+    </message>
+    <message>
+        <source>The list fits.</source>
+        <translation>La liste tient.</translation>
+    </message>
+    <message>
+        <source>The %1 in the drive cannot be written.</source>
+        <translation>Le %1 qui est dans le lecteur ne peut pas être gravé.</translation>
+    </message>
+    <message>
+        <source>In the drive is a %1; this list needs a %2.</source>
+        <translation>Il y a un %1 dans le lecteur&#xa0;; cette liste demande un %2.</translation>
+    </message>
+    <message>
+        <source>The %1 in the drive is erased before it is written.</source>
+        <translation>Le %1 qui est dans le lecteur est effacé avant d’être gravé.</translation>
+    </message>
+</context>
+<context>
+    <name>DriveNews</name>
+    <message>
+        <source>The drive “%1” is connected.</source>
+        <translation>Le lecteur «&#xa0;%1&#xa0;» est connecté.</translation>
+    </message>
+    <message>
+        <source>A drive was plugged in: “%1”.</source>
+        <translation>Un lecteur a été branché&#xa0;: «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Use This Drive</source>
+        <translation>Utiliser ce lecteur</translation>
+    </message>
+    <message>
+        <source>Write discs with this drive from now on</source>
+        <translation>Graver désormais les disques avec ce lecteur</translation>
+    </message>
+    <message>
+        <source>No other drive was found.</source>
+        <translation>Aucun autre lecteur n’a été trouvé.</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <translation>%1 (non connecté)</translation>
+    </message>
+    <message>
+        <source>The drive “%1” is not connected any more. Connect it again, or choose another one in the Drive menu.</source>
+        <translation>Le lecteur «&#xa0;%1&#xa0;» n’est plus connecté. Reconnectez-le, ou choisissez-en un autre dans le menu Lecteur.</translation>
+    </message>
+    <message>
+        <source>You may not use this drive</source>
+        <translation>Vous n’avez pas le droit d’utiliser ce lecteur</translation>
+    </message>
+    <message>
+        <source>Wh&amp;y…</source>
+        <translation>Po&amp;urquoi…</translation>
+    </message>
+    <message>
+        <source>Tell why, and how to change it</source>
+        <translation>Dire pourquoi, et comment y remédier</translation>
+    </message>
+    <message>
+        <source>You may not use the drive “%1”.</source>
+        <translation>Vous n’avez pas le droit d’utiliser le lecteur «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Why…</source>
+        <translation>Pourquoi…</translation>
+    </message>
+</context>
+<context>
+    <name>DriveNotice</name>
+    <message>
+        <source>Close this notice</source>
+        <translation>Fermer cet avis</translation>
     </message>
 </context>
 <context>
@@ -1672,6 +1843,18 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
         <source>Show the titles and performers of audio files on the list</source>
         <translation>Afficher dans la liste les titres et interprètes des fichiers audio</translation>
     </message>
+    <message>
+        <source>Writing &amp;Speed</source>
+        <translation>&amp;Vitesse de gravure</translation>
+    </message>
+    <message>
+        <source>&amp;Look for Drives</source>
+        <translation>Chercher les &amp;lecteurs</translation>
+    </message>
+    <message>
+        <source>Ask which drives there are now</source>
+        <translation>Voir quels lecteurs sont là maintenant</translation>
+    </message>
 </context>
 <context>
     <name>Measuring</name>
@@ -1870,6 +2053,34 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>SpeedMenu</name>
+    <message>
+        <source>&amp;Fastest</source>
+        <translation>Le plus &amp;rapide possible</translation>
+    </message>
+    <message>
+        <source>%1×</source>
+        <comment>a factor of the speed, as in 16×</comment>
+        <translation>%1×</translation>
+    </message>
+    <message>
+        <source>The drive does not answer</source>
+        <translation>Le lecteur ne répond pas</translation>
+    </message>
+    <message>
+        <source>The drive is being asked…</source>
+        <translation>Le lecteur est interrogé…</translation>
+    </message>
+    <message>
+        <source>There is no disc in the drive</source>
+        <translation>Il n’y a pas de disque dans le lecteur</translation>
+    </message>
+    <message>
+        <source>The drive names no speeds for its disc</source>
+        <translation>Le lecteur n’indique aucune vitesse pour son disque</translation>
     </message>
 </context>
 <context>
@@ -2284,6 +2495,30 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     <message>
         <source>Activity Log…</source>
         <translation>Journal d’activité…</translation>
+    </message>
+    <message>
+        <source>Show in its folder what was made</source>
+        <translation>Afficher le résultat dans son dossier</translation>
+    </message>
+    <message>
+        <source>Show the command that decided, and all it said</source>
+        <translation>Afficher la commande décisive et tout ce qu’elle a dit</translation>
+    </message>
+    <message>
+        <source>&amp;Eject</source>
+        <translation>É&amp;jecter</translation>
+    </message>
+    <message>
+        <source>Open the tray of the drive</source>
+        <translation>Ouvrir le tiroir du lecteur</translation>
+    </message>
+    <message>
+        <source>&amp;Burn Another</source>
+        <translation>En &amp;graver un autre</translation>
+    </message>
+    <message>
+        <source>Do the same once more, with the disc that is in the drive then</source>
+        <translation>Refaire la même chose, avec le disque qui sera alors dans le lecteur</translation>
     </message>
 </context>
 <context>

@@ -739,6 +739,49 @@ Feito com Qt %1, libburn, libisofs, ffmpeg e mpv.</translation>
         <source>The file system of the folder %1 is full.</source>
         <translation>O sistema de arquivos da pasta %1 está cheio.</translation>
     </message>
+    <message>
+        <source>The drives could not be listed</source>
+        <translation>Não foi possível listar as unidades</translation>
+    </message>
+    <message>
+        <source>The drive is not there any more</source>
+        <translation>A unidade não está mais lá</translation>
+    </message>
+    <message>
+        <source>“%1” is not connected. Connect it again, or choose another drive in the Drive menu.</source>
+        <translation>“%1” não está conectada. Conecte-a novamente ou escolha outra unidade no menu Unidade.</translation>
+    </message>
+    <message>
+        <source>The disc cannot have this name</source>
+        <translation>O disco não pode ter este nome</translation>
+    </message>
+    <message>
+        <source>%1 Change the name and try again.</source>
+        <translation>%1 Mude o nome e tente novamente.</translation>
+    </message>
+</context>
+<context>
+    <name>BatchMedia</name>
+    <message>
+        <source>%1: the name is not valid UTF-8 text. Rename the file and try again.</source>
+        <translation>%1: o nome não é texto UTF-8 válido. Renomeie o arquivo e tente novamente.</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file or folder.</source>
+        <translation>%1: não existe tal arquivo ou pasta.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no sound in it.</source>
+        <translation>%1 não é um arquivo que este disco possa receber. São aceitos: %2. O ffmpeg não encontra som nele.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no film in it.</source>
+        <translation>%1 não é um arquivo que este disco possa receber. São aceitos: %2. O ffmpeg não encontra filme nele.</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -765,22 +808,6 @@ Feito com Qt %1, libburn, libisofs, ffmpeg e mpv.</translation>
     <message>
         <source>Gathering the folders</source>
         <translation>Reunindo as pastas</translation>
-    </message>
-    <message>
-        <source>%1: the name is not valid UTF-8 text. Rename the file and try again.</source>
-        <translation>%1: o nome não é texto UTF-8 válido. Renomeie o arquivo e tente novamente.</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no sound in it.</source>
-        <translation>%1 não é um arquivo que este disco possa receber. São aceitos: %2. O ffmpeg não encontra som nele.</translation>
-    </message>
-    <message>
-        <source>%1 is not a file that this disc can take. Accepted are: %2. ffmpeg finds no film in it.</source>
-        <translation>%1 não é um arquivo que este disco possa receber. São aceitos: %2. O ffmpeg não encontra filme nele.</translation>
     </message>
     <message>
         <source>--for-players goes with --burn &quot;Video DVD&quot;.</source>
@@ -897,6 +924,150 @@ Um arquivo cujo nome começa com um hífen vai depois de &quot;--&quot;.</transl
     <message>
         <source>Files, for a data disc also folders; the tracks of an audio CD keep their order. Without --burn they are opened in the window: music, films, folders, a disc image or a saved list.</source>
         <translation>Arquivos, ou também pastas para um disco de dados; as faixas de um CD de áudio mantêm a ordem. Sem --burn eles são abertos na janela: músicas, filmes, pastas, uma imagem de disco ou uma lista salva.</translation>
+    </message>
+</context>
+<context>
+    <name>DiscName</name>
+    <message>
+        <source>Where only plain letters are known, “%1” becomes “_”.</source>
+        <translation>Onde só se conhecem letras simples, “%1” vira “_”.</translation>
+    </message>
+    <message>
+        <source>On Windows “%1” becomes “_”.</source>
+        <translation>No Windows, “%1” vira “_”.</translation>
+    </message>
+    <message>
+        <source>Windows shows “%1”.</source>
+        <translation>O Windows mostra “%1”.</translation>
+    </message>
+    <message>
+        <source>The name holds a character that cannot be seen.</source>
+        <translation>O nome contém um caractere que não pode ser visto.</translation>
+    </message>
+    <message>
+        <source>The name has %1 characters; a disc takes %2.</source>
+        <translation>O nome tem %1 caracteres; um disco aceita %2.</translation>
+    </message>
+</context>
+<context>
+    <name>DiscNameField</name>
+    <message>
+        <source>Disc name</source>
+        <translation>Nome do disco</translation>
+    </message>
+    <message>
+        <source>Chosen for you</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Name of the disc</source>
+        <translation>Nome do disco</translation>
+    </message>
+    <message>
+        <source>What the disc is called where it is put in</source>
+        <translation>Como o disco se chama onde é inserido</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>characters</comment>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>DiscRoom</name>
+    <message>
+        <source>The %1 in the drive holds about %2.</source>
+        <translation>No %1 que está na unidade cabem cerca de %2.</translation>
+    </message>
+    <message>
+        <source>The %1 in the drive holds %2.</source>
+        <translation>No %1 que está na unidade cabem %2.</translation>
+    </message>
+    <message>
+        <source>The list is too long by %1.</source>
+        <translation>A lista é %1 longa demais.</translation>
+    </message>
+    <message>
+        <source>The list is too large by %1.</source>
+        <translation>A lista passa %1 do tamanho.</translation>
+    </message>
+    <message>
+        <source>The list just about fits.</source>
+        <translation>A lista cabe por pouco.</translation>
+    </message>
+    <message>
+        <source>The list fits.</source>
+        <translation>A lista cabe.</translation>
+    </message>
+    <message>
+        <source>The %1 in the drive cannot be written.</source>
+        <translation>O %1 que está na unidade não pode ser gravado.</translation>
+    </message>
+    <message>
+        <source>In the drive is a %1; this list needs a %2.</source>
+        <translation>Na unidade há um %1; esta lista precisa de um %2.</translation>
+    </message>
+    <message>
+        <source>The %1 in the drive is erased before it is written.</source>
+        <translation>O %1 que está na unidade é apagado antes de ser gravado.</translation>
+    </message>
+</context>
+<context>
+    <name>DriveNews</name>
+    <message>
+        <source>The drive “%1” is connected.</source>
+        <translation>A unidade “%1” está conectada.</translation>
+    </message>
+    <message>
+        <source>A drive was plugged in: “%1”.</source>
+        <translation>Uma unidade foi conectada: “%1”.</translation>
+    </message>
+    <message>
+        <source>Use This Drive</source>
+        <translation>Usar esta unidade</translation>
+    </message>
+    <message>
+        <source>Write discs with this drive from now on</source>
+        <translation>Gravar os discos com esta unidade a partir de agora</translation>
+    </message>
+    <message>
+        <source>No other drive was found.</source>
+        <translation>Nenhuma outra unidade foi encontrada.</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <translation>%1 (não conectada)</translation>
+    </message>
+    <message>
+        <source>The drive “%1” is not connected any more. Connect it again, or choose another one in the Drive menu.</source>
+        <translation>A unidade “%1” não está mais conectada. Conecte-a novamente ou escolha outra no menu Unidade.</translation>
+    </message>
+    <message>
+        <source>You may not use this drive</source>
+        <translation>Você não tem permissão para usar esta unidade</translation>
+    </message>
+    <message>
+        <source>Wh&amp;y…</source>
+        <translation>Por &amp;quê…</translation>
+    </message>
+    <message>
+        <source>Tell why, and how to change it</source>
+        <translation>Dizer por quê e como mudar isso</translation>
+    </message>
+    <message>
+        <source>You may not use the drive “%1”.</source>
+        <translation>Você não tem permissão para usar a unidade “%1”.</translation>
+    </message>
+    <message>
+        <source>Why…</source>
+        <translation>Por quê…</translation>
+    </message>
+</context>
+<context>
+    <name>DriveNotice</name>
+    <message>
+        <source>Close this notice</source>
+        <translation>Fechar este aviso</translation>
     </message>
 </context>
 <context>
@@ -1672,6 +1843,18 @@ A ordem da lista é a ordem no disco.</translation>
         <source>Show the titles and performers of audio files on the list</source>
         <translation>Mostrar na lista os títulos e intérpretes dos arquivos de áudio</translation>
     </message>
+    <message>
+        <source>Writing &amp;Speed</source>
+        <translation>&amp;Velocidade de gravação</translation>
+    </message>
+    <message>
+        <source>&amp;Look for Drives</source>
+        <translation>&amp;Procurar unidades</translation>
+    </message>
+    <message>
+        <source>Ask which drives there are now</source>
+        <translation>Ver que unidades há agora</translation>
+    </message>
 </context>
 <context>
     <name>Measuring</name>
@@ -1870,6 +2053,34 @@ A ordem da lista é a ordem no disco.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>SpeedMenu</name>
+    <message>
+        <source>&amp;Fastest</source>
+        <translation>A mais &amp;rápida</translation>
+    </message>
+    <message>
+        <source>%1×</source>
+        <comment>a factor of the speed, as in 16×</comment>
+        <translation>%1×</translation>
+    </message>
+    <message>
+        <source>The drive does not answer</source>
+        <translation>A unidade não responde</translation>
+    </message>
+    <message>
+        <source>The drive is being asked…</source>
+        <translation>Consultando a unidade…</translation>
+    </message>
+    <message>
+        <source>There is no disc in the drive</source>
+        <translation>Não há disco na unidade</translation>
+    </message>
+    <message>
+        <source>The drive names no speeds for its disc</source>
+        <translation>A unidade não informa velocidades para o seu disco</translation>
     </message>
 </context>
 <context>
@@ -2284,6 +2495,30 @@ A ordem da lista é a ordem no disco.</translation>
     <message>
         <source>Activity Log…</source>
         <translation>Registro de atividades…</translation>
+    </message>
+    <message>
+        <source>Show in its folder what was made</source>
+        <translation>Mostrar na pasta o que foi feito</translation>
+    </message>
+    <message>
+        <source>Show the command that decided, and all it said</source>
+        <translation>Mostrar o comando decisivo e tudo o que ele disse</translation>
+    </message>
+    <message>
+        <source>&amp;Eject</source>
+        <translation>&amp;Ejetar</translation>
+    </message>
+    <message>
+        <source>Open the tray of the drive</source>
+        <translation>Abrir a bandeja da unidade</translation>
+    </message>
+    <message>
+        <source>&amp;Burn Another</source>
+        <translation>&amp;Gravar outro</translation>
+    </message>
+    <message>
+        <source>Do the same once more, with the disc that is in the drive then</source>
+        <translation>Fazer o mesmo outra vez, com o disco que então estiver na unidade</translation>
     </message>
 </context>
 <context>

@@ -100,7 +100,7 @@
     </message>
     <message>
         <source>You have no permission to look into these folders. Their owner can give it to you.</source>
-        <translation>Sie dürfen in diese Ordner nicht hineinsehen. Wem sie gehören, kann es Ihnen erlauben.</translation>
+        <translation>Sie haben keine Berechtigung, in diese Ordner hineinzusehen. Ihr Besitzer kann sie Ihnen geben.</translation>
     </message>
     <message>
         <source>These are pipes or devices and not files, whatever their names end in. They have no length.</source>
@@ -1044,7 +1044,7 @@ Eine Datei, deren Name mit einem Strich beginnt, steht hinter &quot;--&quot;.</t
     </message>
     <message>
         <source>You may not use this drive</source>
-        <translation>Sie dürfen dieses Laufwerk nicht verwenden</translation>
+        <translation>Sie haben keine Berechtigung für dieses Laufwerk</translation>
     </message>
     <message>
         <source>Wh&amp;y…</source>
@@ -1056,7 +1056,7 @@ Eine Datei, deren Name mit einem Strich beginnt, steht hinter &quot;--&quot;.</t
     </message>
     <message>
         <source>You may not use the drive “%1”.</source>
-        <translation>Sie dürfen das Laufwerk „%1“ nicht verwenden.</translation>
+        <translation>Sie haben keine Berechtigung für das Laufwerk „%1“.</translation>
     </message>
     <message>
         <source>Why…</source>
@@ -1864,7 +1864,7 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     </message>
     <message>
         <source>You have no permission to read this file.</source>
-        <translation>Sie dürfen diese Datei nicht lesen.</translation>
+        <translation>Sie haben keine Berechtigung, diese Datei zu lesen.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
@@ -1895,7 +1895,7 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     </message>
     <message>
         <source>You have no permission to read the file.</source>
-        <translation>Sie dürfen die Datei nicht lesen.</translation>
+        <translation>Sie haben keine Berechtigung, die Datei zu lesen.</translation>
     </message>
     <message>
         <source>The media library could not be started.</source>
@@ -1928,7 +1928,7 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation>Angehalten</translation>
+        <translation>Abgebrochen</translation>
     </message>
     <message>
         <source>The disc was written, but some things are not on it</source>
@@ -2105,7 +2105,7 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     <name>StopBar</name>
     <message>
         <source>&amp;Stop</source>
-        <translation>&amp;Anhalten</translation>
+        <translation>&amp;Abbrechen</translation>
     </message>
     <message>
         <source>&amp;Go On</source>
@@ -2113,11 +2113,11 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     </message>
     <message>
         <source>Stop &amp;Now</source>
-        <translation>&amp;Jetzt anhalten</translation>
+        <translation>&amp;Jetzt abbrechen</translation>
     </message>
     <message>
         <source>Asks before it stops (Escape)</source>
-        <translation>Fragt nach, bevor angehalten wird (Esc)</translation>
+        <translation>Fragt nach, bevor abgebrochen wird (Esc)</translation>
     </message>
     <message>
         <source>Takes the question back; the work has gone on meanwhile (Escape)</source>
@@ -2129,11 +2129,11 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     </message>
     <message>
         <source>Stopping…</source>
-        <translation>Wird angehalten…</translation>
+        <translation>Wird abgebrochen…</translation>
     </message>
     <message>
         <source>Stop now?</source>
-        <translation>Jetzt anhalten?</translation>
+        <translation>Jetzt abbrechen?</translation>
     </message>
 </context>
 <context>
@@ -2776,7 +2776,7 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     </message>
     <message>
         <source>was stopped</source>
-        <translation>wurde angehalten</translation>
+        <translation>wurde abgebrochen</translation>
     </message>
     <message>
         <source>%1 ended without an error</source>
@@ -2800,7 +2800,7 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     </message>
     <message>
         <source>%1 was stopped</source>
-        <translation>%1 wurde angehalten</translation>
+        <translation>%1 wurde abgebrochen</translation>
     </message>
     <message>
         <source>%1, as expected</source>

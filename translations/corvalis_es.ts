@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>Rewind</source>
-        <translation>Retroceder</translation>
+        <translation>Rebobinar</translation>
     </message>
     <message>
         <source>Play</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Fast forward</source>
-        <translation>Avanzar</translation>
+        <translation>Avance rápido</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -73,11 +73,11 @@
     </message>
     <message>
         <source>Fast forward; each press is faster</source>
-        <translation>Avanzar; cada pulsación va más rápido</translation>
+        <translation>Avance rápido; más rápido con cada pulsación</translation>
     </message>
     <message>
         <source>Rewind; each press is faster</source>
-        <translation>Retroceder; cada pulsación va más rápido</translation>
+        <translation>Rebobinar; más rápido con cada pulsación</translation>
     </message>
     <message>
         <source>Position (Left and Right: five seconds)</source>
@@ -1501,7 +1501,7 @@ El orden de la lista es el orden en el disco.</translation>
     </message>
     <message>
         <source>Every command that was run, with all that it said.</source>
-        <translation>Cada orden que se ejecutó, con todo lo que dijo.</translation>
+        <translation>Cada orden que se ejecutó, con todo lo que mostró.</translation>
     </message>
     <message>
         <source>Space occupied</source>
@@ -2206,11 +2206,11 @@ El orden de la lista es el orden en el disco.</translation>
     </message>
     <message>
         <source>What the command said</source>
-        <translation>Lo que dijo la orden</translation>
+        <translation>Lo que mostró la orden</translation>
     </message>
     <message>
         <source>Choose a command to see what it said.</source>
-        <translation>Elija una orden para ver lo que dijo.</translation>
+        <translation>Elija una orden para ver lo que mostró.</translation>
     </message>
     <message>
         <source>Everything that was run since the program started.</source>
@@ -2502,7 +2502,7 @@ El orden de la lista es el orden en el disco.</translation>
     </message>
     <message>
         <source>Show the command that decided, and all it said</source>
-        <translation>Mostrar la orden decisiva y todo lo que dijo</translation>
+        <translation>Mostrar la orden decisiva y todo lo que mostró</translation>
     </message>
     <message>
         <source>&amp;Eject</source>

@@ -1501,7 +1501,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Every command that was run, with all that it said.</source>
-        <translation>Chaque commande exécutée, avec tout ce qu’elle a dit.</translation>
+        <translation>Chaque commande exécutée, avec tout ce qu’elle a affiché.</translation>
     </message>
     <message>
         <source>Space occupied</source>
@@ -2121,7 +2121,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Takes the question back; the work has gone on meanwhile (Escape)</source>
-        <translation>Retire la question&#xa0;; le travail a continué entre-temps (Échap)</translation>
+        <translation>Annule la question&#xa0;; le travail a continué entre-temps (Échap)</translation>
     </message>
     <message>
         <source>Ends the work at once</source>
@@ -2206,11 +2206,11 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>What the command said</source>
-        <translation>Ce que la commande a dit</translation>
+        <translation>Ce que la commande a affiché</translation>
     </message>
     <message>
         <source>Choose a command to see what it said.</source>
-        <translation>Choisissez une commande pour voir ce qu’elle a dit.</translation>
+        <translation>Choisissez une commande pour voir ce qu’elle a affiché.</translation>
     </message>
     <message>
         <source>Everything that was run since the program started.</source>
@@ -2502,7 +2502,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Show the command that decided, and all it said</source>
-        <translation>Afficher la commande décisive et tout ce qu’elle a dit</translation>
+        <translation>Afficher la commande décisive et tout ce qu’elle a affiché</translation>
     </message>
     <message>
         <source>&amp;Eject</source>
@@ -2768,7 +2768,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>crashed (signal %1)</source>
-        <translation>s’est planté (signal %1)</translation>
+        <translation>s’est interrompu brutalement (signal %1)</translation>
     </message>
     <message>
         <source>was ended because it gave no answer in time</source>
@@ -2792,7 +2792,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>%1 crashed (signal %2)</source>
-        <translation>%1 s’est planté (signal %2)</translation>
+        <translation>%1 s’est interrompu brutalement (signal %2)</translation>
     </message>
     <message>
         <source>%1 was ended because it gave no answer in time</source>

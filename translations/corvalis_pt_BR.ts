@@ -1501,7 +1501,7 @@ A ordem da lista é a ordem no disco.</translation>
     </message>
     <message>
         <source>Every command that was run, with all that it said.</source>
-        <translation>Cada comando executado, com tudo o que ele disse.</translation>
+        <translation>Cada comando executado, com tudo o que ele exibiu.</translation>
     </message>
     <message>
         <source>Space occupied</source>
@@ -2206,11 +2206,11 @@ A ordem da lista é a ordem no disco.</translation>
     </message>
     <message>
         <source>What the command said</source>
-        <translation>O que o comando disse</translation>
+        <translation>O que o comando exibiu</translation>
     </message>
     <message>
         <source>Choose a command to see what it said.</source>
-        <translation>Escolha um comando para ver o que ele disse.</translation>
+        <translation>Escolha um comando para ver o que ele exibiu.</translation>
     </message>
     <message>
         <source>Everything that was run since the program started.</source>
@@ -2502,7 +2502,7 @@ A ordem da lista é a ordem no disco.</translation>
     </message>
     <message>
         <source>Show the command that decided, and all it said</source>
-        <translation>Mostrar o comando decisivo e tudo o que ele disse</translation>
+        <translation>Mostrar o comando decisivo e tudo o que ele exibiu</translation>
     </message>
     <message>
         <source>&amp;Eject</source>

@@ -1813,7 +1813,7 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     </message>
     <message>
         <source>Add O&amp;ther Files…</source>
-        <translation>A&amp;ndere Dateien hinzufügen…</translation>
+        <translation>Andere Dateien &amp;hinzufügen…</translation>
     </message>
     <message>
         <source>Add files of any ending with sound, or with a film, in them, and playlists</source>
@@ -1821,7 +1821,7 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     </message>
     <message>
         <source>&amp;Write Titles on Audio CDs</source>
-        <translation>Titel auf Audio-CDs &amp;schreiben</translation>
+        <translation>Titel auf Audio-&amp;CDs schreiben</translation>
     </message>
     <message>
         <source>Audio CDs get the titles and performers of their tracks as CD-TEXT</source>
@@ -1845,7 +1845,7 @@ Die Reihenfolge der Liste ist die Reihenfolge auf der Disc.</translation>
     </message>
     <message>
         <source>Writing &amp;Speed</source>
-        <translation>Brenn&amp;geschwindigkeit</translation>
+        <translation>Brenngesch&amp;windigkeit</translation>
     </message>
     <message>
         <source>&amp;Look for Drives</source>

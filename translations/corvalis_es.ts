@@ -1813,7 +1813,7 @@ El orden de la lista es el orden en el disco.</translation>
     </message>
     <message>
         <source>Add O&amp;ther Files…</source>
-        <translation>Añadir o&amp;tros archivos…</translation>
+        <translation>Aña&amp;dir otros archivos…</translation>
     </message>
     <message>
         <source>Add files of any ending with sound, or with a film, in them, and playlists</source>
@@ -1829,7 +1829,7 @@ El orden de la lista es el orden en el disco.</translation>
     </message>
     <message>
         <source>&amp;Edit Title</source>
-        <translation>Editar tít&amp;ulo</translation>
+        <translation>Editar títu&amp;lo</translation>
     </message>
     <message>
         <source>Type another title for the row; Tab goes on to the performer</source>

@@ -1813,7 +1813,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>Add O&amp;ther Files…</source>
-        <translation>Ajouter d’a&amp;utres fichiers…</translation>
+        <translation>Ajouter d’autres fic&amp;hiers…</translation>
     </message>
     <message>
         <source>Add files of any ending with sound, or with a film, in them, and playlists</source>
@@ -1821,7 +1821,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>&amp;Write Titles on Audio CDs</source>
-        <translation>Écrire les titres sur les CD &amp;audio</translation>
+        <translation>Écrire &amp;les titres sur les CD audio</translation>
     </message>
     <message>
         <source>Audio CDs get the titles and performers of their tracks as CD-TEXT</source>
@@ -1829,7 +1829,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>&amp;Edit Title</source>
-        <translation>&amp;Modifier le titre</translation>
+        <translation>Modifier le titr&amp;e</translation>
     </message>
     <message>
         <source>Type another title for the row; Tab goes on to the performer</source>
@@ -2642,7 +2642,7 @@ L’ordre de la liste est l’ordre sur le disque.</translation>
     </message>
     <message>
         <source>&amp;For DVD players (titles and chapters)</source>
-        <translation>&amp;Pour lecteurs de DVD (titres et chapitres)</translation>
+        <translation>Pour &amp;lecteurs de DVD (titres et chapitres)</translation>
     </message>
     <message>
         <source>Video DVDs play in the player below a television, one clip after the other; without this, video discs hold files</source>

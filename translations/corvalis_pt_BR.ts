@@ -1821,7 +1821,7 @@ A ordem da lista é a ordem no disco.</translation>
     </message>
     <message>
         <source>&amp;Write Titles on Audio CDs</source>
-        <translation>&amp;Gravar títulos nos CDs de áudio</translation>
+        <translation>Gra&amp;var títulos nos CDs de áudio</translation>
     </message>
     <message>
         <source>Audio CDs get the titles and performers of their tracks as CD-TEXT</source>

@@ -8,6 +8,7 @@
 #include "kit/SheetStage.h"
 #include "languages/PseudoLanguage.h"
 #include "support/JobApplication.h"
+#include "ui/PreviewPlayer.h"
 #include "ui/Window_Colors.h"
 #include "ui_MainWindow.h"
 #include "writing/Window_Video_Settings.h"
@@ -77,6 +78,7 @@ private Q_SLOTS:
     void sheetsOfJobs();
     void closingSheet();
     void activityLog();
+    void player();
     void alerts();
     void panels();
 
@@ -236,6 +238,21 @@ void ShownTextsTest::activityLog()
 {
     m_app->controller->OnMenuActivityLog();
     look(m_app->controller->windowActivityLog);
+}
+
+void ShownTextsTest::player()
+{
+    QString whyNot;
+    QStringList told;
+    const auto tell = [&told](const QString &message, const QString &, QWidget *) { told.append(message); };
+    const std::unique_ptr<QDialog> player(
+        createPreview(QUrl::fromLocalFile(u"/none/01.mp3"_s), nullptr, tell, &whyNot));
+    QVERIFY2(player, qPrintable(whyNot));
+    player->show();
+    QTRY_VERIFY(!told.isEmpty());
+    look(player.get());
+    if (isPseudo())
+        QCOMPARE(faultOf(told.first()), QString());
 }
 
 /// Of each alert since the last look: its texts, and the window that it would have been.

@@ -1356,7 +1356,7 @@ void ListsTest::contextMenu_data()
     const QStringList all{ u"Select All"_s, u"Sort By"_s, u"Clear List"_s };
     const QStringList row{ u"Delete"_s, u"Move Up"_s, u"Move Down"_s };
     QTest::newRow("empty list") << 0 << 0 << -1 << add;
-    QTest::newRow("row") << 0 << 3 << 1 << QStringList({ u"Play"_s, u"Edit Title"_s }) + row + all;
+    QTest::newRow("row") << 0 << 3 << 1 << QStringList{ u"Play"_s } + row + all;
     QTest::newRow("below") << 1 << 2 << -1 << add + all;
     QTest::newRow("no folder") << 2 << 0 << -1 << QStringList{ u"Add Folder…"_s, u"Add Files…"_s };
     QTest::newRow("folder") << 2 << 2 << 0 << row + all;

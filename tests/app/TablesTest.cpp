@@ -137,10 +137,10 @@ void TablesTest::headings()
         QCOMPARE(shown, expected.at(tab));
         const QStringList keys{ u"key1"_s, u"key2"_s, u"key3"_s, u"key4"_s, u"key5"_s, u"key6"_s };
         QCOMPARE(identifiers, keys.first(shown.size()));
-        // All of them are there to be pressed, at any width.
+        // All of them are there to be pressed, at any width, but for the names, which wait until they are asked for.
         const QHeaderView *header = table()->horizontalHeader();
         for (int i = 0; i < header->count(); ++i)
-            QVERIFY(header->sectionSize(i) > 20);
+            QCOMPARE(header->sectionSize(i) > 20, i < ListTableModel::NameTitle);
     }
 }
 

@@ -254,7 +254,7 @@ void AppearanceTest::rowsAndCellsOfEveryTable()
             return table->viewport()->grab(table->visualRect(table->model()->index(row, column))).toImage();
         };
         for (int column = 0; column < table->model()->columnCount(); ++column) {
-            for (int row = 0; row < 2; ++row) {
+            for (int row = 0; row < 2 && !table->isColumnHidden(column); ++row) {
                 const auto colours = mostFrequent(cell(row, column));
                 const bool second = row == 1 && alternating == u"1";
                 QCOMPARE(colours.first() != ground, second);

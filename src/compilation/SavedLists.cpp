@@ -332,6 +332,7 @@ void AppDelegate::offerRecentLists()
         connect(item, &QAction::triggered, this, [this, path = recent.at(i)] { openList(path); });
     }
     menu->addSeparator();
-    connect(
-        menu->addAction(tr("&Clear This Menu")), &QAction::triggered, this, [this] { keepRecentLists({}); });
+    QAction *const clear = menu->addAction(tr("&Clear This Menu"));
+    clear->setObjectName(u"menuitemRecentClear"_s);
+    connect(clear, &QAction::triggered, this, [this] { keepRecentLists({}); });
 }

@@ -69,10 +69,16 @@ private Q_SLOTS:
     void gaugeFillsFromWhereReadingBegins();
     void programSpeaks_data();
     void programSpeaks();
+    void toolsDoNot_data();
+    void toolsDoNot();
 
 private:
     /// Takes away what speak() installed.
     static void forget();
+    /// What a tool prints where German is spoken, or where no language is.
+    QByteArray printed(const QString &locale, const QString &program, const QStringList &arguments) const;
+
+    QTemporaryDir m_locales;
 };
 
 void TranslationsTest::forget()
@@ -205,6 +211,49 @@ void TranslationsTest::programSpeaks()
     const QString told = QString::fromUtf8(program.readAllStandardError());
     QVERIFY2(told.startsWith(u"corvalis: "_s) && told.contains(said) && told.contains(u"\"Audio CD\""_s),
         qPrintable(told));
+}
+
+void TranslationsTest::toolsDoNot_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QStringList>("arguments");
+    const QString bin = builtPrograms() + u'/';
+    QTest::newRow("list") << bin + u"drutil"_s << QStringList{ u"list"_s };
+    QTest::newRow("status") << bin + u"drutil"_s << QStringList{ u"status"_s, u"-drive"_s, u"1"_s };
+    QTest::newRow("failure") << bin + u"hdiutil"_s << QStringList{ u"burn"_s, u"/none.iso"_s };
+    QTest::newRow("help") << bin + u"drutil"_s << QStringList{ u"--help"_s };
+    QTest::newRow("media") << bin + u"../libexec/corvalis/ffmpeg"_s
+                           << QStringList{ u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=duration=1.5"_s };
+}
+
+QByteArray TranslationsTest::printed(
+    const QString &locale, const QString &program, const QStringList &arguments) const
+{
+    QProcess tool;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"LOCPATH"_s, m_locales.path());
+    environment.insert(u"LC_ALL"_s, locale);
+    environment.insert(u"LANGUAGE"_s, locale.left(2));
+    tool.setProcessEnvironment(environment);
+    tool.setProcessChannelMode(QProcess::MergedChannels);
+    tool.start(program, arguments);
+    tool.waitForFinished();
+    return tool.readAll();
+}
+
+/// What is read of the tools has one form, whatever the person's locale is.
+void TranslationsTest::toolsDoNot()
+{
+    QFETCH(QString, program);
+    QFETCH(QStringList, arguments);
+    const QString german = u"de_DE.UTF-8"_s;
+    QProcess::execute(u"localedef"_s,
+        { u"--no-warnings=ascii"_s, u"-c"_s, u"-i"_s, u"de_DE"_s, u"-f"_s, u"UTF-8"_s,
+            m_locales.filePath(german) });
+    QCOMPARE(printed(german, u"/usr/bin/printf"_s, { u"%.1f"_s, u"1,5"_s }), QByteArray("1,5"));
+    const QByteArray neutral = printed(u"C"_s, program, arguments);
+    QVERIFY(!neutral.isEmpty());
+    QCOMPARE(printed(german, program, arguments), neutral);
 }
 
 QTEST_MAIN(TranslationsTest)

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <charconv>
 #include <optional>
-#include <ranges>
 
 namespace engine::audio {
 
@@ -102,7 +101,8 @@ DiscTracks tracksOfSheet(std::string_view sheet, std::uint64_t sectors)
             disc.tracks.back().start = sectorOf(*time);
     }
     std::uint64_t end = sectors;
-    for (auto &track : std::views::reverse(disc.tracks)) {
+    for (std::size_t i = disc.tracks.size(); i > 0; --i) {
+        TrackRecord &track = disc.tracks[i - 1];
         track.sectors = end - std::min(track.start, end);
         end = track.start;
     }

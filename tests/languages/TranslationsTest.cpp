@@ -247,9 +247,11 @@ void TranslationsTest::toolsDoNot()
     QFETCH(QString, program);
     QFETCH(QStringList, arguments);
     const QString german = u"de_DE.UTF-8"_s;
-    QProcess::execute(u"localedef"_s,
-        { u"--no-warnings=ascii"_s, u"-c"_s, u"-i"_s, u"de_DE"_s, u"-f"_s, u"UTF-8"_s,
-            m_locales.filePath(german) });
+    if (!QFile::exists(m_locales.filePath(german))) {
+        QProcess::execute(u"localedef"_s,
+            { u"--no-warnings=ascii"_s, u"-c"_s, u"-i"_s, u"de_DE"_s, u"-f"_s, u"UTF-8"_s,
+                m_locales.filePath(german) });
+    }
     QCOMPARE(printed(german, u"/usr/bin/printf"_s, { u"%.1f"_s, u"1,5"_s }), QByteArray("1,5"));
     const QByteArray neutral = printed(u"C"_s, program, arguments);
     QVERIFY(!neutral.isEmpty());

@@ -28,7 +28,7 @@ Window_Activity_Log::Window_Activity_Log(ActivityLog *log, QWidget *parent)
     m_ui->splitter->setStretchFactor(1, 1);
     const int unit = fontMetrics().averageCharWidth();
     m_ui->listRuns->setColumnWidth(0, unit * 14);
-    m_ui->listRuns->setColumnWidth(1, unit * 36);
+    m_ui->listRuns->setColumnWidth(1, unit * 44);
     // The log may change many times a second and from any thread; the window looks at it twice.
     m_refresh.setSingleShot(true);
     m_refresh.setInterval(200);
@@ -62,7 +62,8 @@ void Window_Activity_Log::refresh()
         item->setText(0, activity.started.toString(u"HH:mm:ss"_s));
         item->setText(1, activity.outcome.isEmpty() ? tr("is running") : activity.outcome);
         item->setText(2, isRun ? activity.commandLine() : QString::fromUtf8(activity.output));
-        item->setToolTip(2, item->text(2).toHtmlEscaped());
+        for (const int column : { 1, 2 })
+            item->setToolTip(column, item->text(column).toHtmlEscaped());
         QFont font = list->font();
         font.setBold(activity.troubled);
         item->setFont(1, font);

@@ -201,6 +201,7 @@ void AppDelegate::blockWhileOccupied()
 {
     // A group, since an action that is disabled for a reason of its own stays so when the group is enabled again.
     auto *blocked = new QActionGroup(this);
+    blocked->setObjectName(u"groupBlocked"_s);
     blocked->setExclusionPolicy(QActionGroup::ExclusionPolicy::None);
     const QList<QAction *> always{ ui->menuitemQuit, ui->menuitemActivityLog };
     const QList<QMenu *> alwaysOpen{ ui->menuDisc, ui->menuTools, ui->menuHelp };

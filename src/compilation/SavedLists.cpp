@@ -10,6 +10,7 @@
 #include "ui_MainWindow.h"
 #include "writing/StatusSheets.h"
 
+#include <QActionGroup>
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -335,4 +336,8 @@ void AppDelegate::offerRecentLists()
     QAction *const clear = menu->addAction(tr("&Clear This Menu"));
     clear->setObjectName(u"menuitemRecentClear"_s);
     connect(clear, &QAction::triggered, this, [this] { keepRecentLists({}); });
+    // As the other items that a sheet blocks, see blockWhileOccupied().
+    auto *const blocked = findChild<QActionGroup *>(u"groupBlocked"_s);
+    for (QAction *item : menu->actions())
+        blocked->addAction(item);
 }

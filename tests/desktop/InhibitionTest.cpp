@@ -80,6 +80,7 @@ void InhibitionTest::managersWherePortalIsSilent()
     desktop::Inhibition inhibition(nullptr, shortPatience);
     inhibition.begin(reason);
     QTRY_COMPARE(session.calls.size(), 1);
+    QTRY_COMPARE(portal.calls.size(), 1);
     portal.answerNow(); // late, and kept as well
     QTest::qWait(50);
     inhibition.end();

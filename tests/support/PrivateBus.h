@@ -8,6 +8,7 @@
 #include <QDBusUnixFileDescriptor>
 #include <QDBusVariant>
 #include <QProcess>
+#include <QTemporaryFile>
 #include <QtTest>
 
 #include <fcntl.h>
@@ -19,8 +20,18 @@ class PrivateBus {
 public:
     PrivateBus()
     {
+        // Without the services that are installed on this machine, which the bus would start instead of a stand-in.
+        static constexpr const char *configuration =
+            "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\""
+            " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
+            "<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen><auth>EXTERNAL</auth>"
+            "<policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>"
+            "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>\n";
+        if (!m_configuration.open() || m_configuration.write(configuration) < 0 || !m_configuration.flush())
+            qFatal("the bus cannot be described");
         m_daemon.start(QStringLiteral("dbus-daemon"),
-            { QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address") });
+            { QStringLiteral("--config-file=") + m_configuration.fileName(), QStringLiteral("--nofork"),
+                QStringLiteral("--print-address") });
         if (!m_daemon.waitForReadyRead())
             qFatal("there is no bus to be had");
         m_address = m_daemon.readLine().trimmed();
@@ -43,6 +54,7 @@ public:
     }
 
 private:
+    QTemporaryFile m_configuration;
     QProcess m_daemon;
     QByteArray m_address;
 };
@@ -56,9 +68,15 @@ public:
         , m_service(service)
     {
         m_bus.registerObject(path, this, QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
-        m_bus.registerService(service);
+        if (!m_bus.registerService(service))
+            qFatal("%s cannot be had on the bus", qUtf8Printable(service));
     }
-    ~StandIn() override { QDBusConnection::disconnectFromBus(m_service); }
+    ~StandIn() override
+    {
+        // The connection may live on for a while, and the next one wants the name at once.
+        m_bus.unregisterService(m_service);
+        QDBusConnection::disconnectFromBus(m_service);
+    }
 
     bool silent = false; ///< never answers
     QStringList calls; ///< "method reason"

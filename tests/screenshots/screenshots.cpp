@@ -1,6 +1,7 @@
 // Photographs of every window for the documentation: the real program with real tools, on the X display
 // that scripts/screenshots makes. Usage: corvalis_screenshots light|dark FOLDER-OF-MEDIA OUTPUT-FOLDER
 #include "app/AppDelegate.h"
+#include "app/Languages.h"
 #include "app/MainWindow.h"
 #include "app/Window_Activity_Log.h"
 #include "desktop/Opening.h"
@@ -266,6 +267,7 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     if (argc != 4)
         return 2;
+    languages::speak(QLocale(QLocale::English));
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     const QString suffix = QString::fromLocal8Bit(argv[1]);
     Photographer photographer(suffix, QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]));

@@ -231,6 +231,8 @@ void ListTableView::paintDropLine(QPainter &painter) const
 
 void ListTableView::keyPressEvent(QKeyEvent *event)
 {
+    if (state() == EditingState)
+        return; // a field passes on the Return that ends it
     const bool row = currentIndex().isValid();
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     const bool nothingSelected = !selectionModel()->hasSelection();

@@ -99,6 +99,7 @@ void NameColumnsTest::typing()
 {
     QFETCH(int, from);
     QFETCH(int, into);
+    const QSignalSpy opened(audio(), &ListTableView::rowOpened);
     audio()->setCurrentIndex(cell(1, from));
     person::press(QKeySequence(Qt::Key_F2));
     QVERIFY(field());
@@ -109,7 +110,7 @@ void NameColumnsTest::typing()
     QCOMPARE(into == title ? record(1).title : record(1).performer, u"New name"_s);
     QCOMPARE(into == title ? record(1).performer : record(1).title, into == title ? u"Band"_s : u"Title 1"_s);
     QCOMPARE(audio()->selectedRows(), QList<int>{ 1 });
-    QVERIFY(m_app->questions.alerts.isEmpty()); // nothing was played
+    QCOMPARE(opened.count(), 0); // nothing was played
 }
 
 void NameColumnsTest::undone()
